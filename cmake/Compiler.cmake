@@ -1,0 +1,29 @@
+# One set of rules for every target. Sanitizers come from the presets, through QUELBY_SANITIZERS.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+set(QUELBY_SANITIZERS "" CACHE STRING "What -fsanitize= gets, for example address,undefined")
+
+add_library(quelby_rules INTERFACE)
+target_compile_options(quelby_rules INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Wundef -Werror)
+target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
+if(QUELBY_SANITIZERS)
+    # The optimizer sees through the sanitizers' own code and takes it for a null dereference.
+    target_compile_options(quelby_rules INTERFACE
+        -fsanitize=${QUELBY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-null-dereference)
+    target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
+endif()
+
+# quelby_floor(NAME SOURCES ... [USES ...]) makes one floor of the program: a static library whose folder
+# is its name, which may use only what stands below it.
+function(quelby_floor name)
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES" ${ARGN})
+    add_library(quelby_${name} STATIC ${FLOOR_SOURCES})
+    target_link_libraries(quelby_${name} PUBLIC quelby_rules ${FLOOR_USES})
+endfunction()

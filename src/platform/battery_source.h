@@ -1,0 +1,48 @@
+// What the program asks of a computer's battery. The one place where a system's units, signs and sentinels
+// are put right is an implementation of this interface; nobody behind it knows of micro-anything.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <variant>
+
+namespace quelby {
+
+// Text keys to integers and Booleans. A key that the battery cannot answer is absent, never 0. The keys that
+// the monitor reads, after the property table that macOS publishes for a battery:
+//
+//   DesignCapacity          mAh, when new
+//   AppleRawMaxCapacity     mAh, full at present
+//   AppleRawCurrentCapacity mAh, remaining
+//   MaxCapacity             mAh or %, where the raw value is missing
+//   CurrentCapacity         mAh or %, likewise
+//   CycleCount              charge cycles
+//   IsCharging, ExternalConnected, FullyCharged
+//   InstantAmperage         mA, negative while discharging (or as 16-bit two's complement, 32768 to 65535)
+//   Voltage                 mV
+//   Temperature             hundredths of a degree Celsius
+//   TimeRemaining           minutes to empty or to full, by the system's own estimate
+using PropertyValue = std::variant<bool, std::int64_t>;
+using PropertyTable = std::map<std::string, PropertyValue, std::less<>>;
+
+struct NoBattery {
+    bool operator==(const NoBattery&) const = default;
+};
+
+// There is a battery, but it answers nothing at the moment.
+struct UnreadableBattery {
+    bool operator==(const UnreadableBattery&) const = default;
+};
+
+using BatteryReading = std::variant<NoBattery, UnreadableBattery, PropertyTable>;
+
+class BatterySource {
+public:
+    virtual ~BatterySource() = default;
+
+    // Called once a cycle, on the main thread; never throws, and takes a few milliseconds at most.
+    [[nodiscard]] virtual BatteryReading readBattery() = 0;
+};
+
+} // namespace quelby

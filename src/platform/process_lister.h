@@ -1,0 +1,28 @@
+// What the program asks of a computer's processes: two listings in the form of ps, as text.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quelby {
+
+// A process's share of CPU time is in percent of one logical processor, so it can exceed 100.
+class ProcessLister {
+public:
+    virtual ~ProcessLister() = default;
+
+    // A heading line, then the share of every process of every user, a line each. Nothing if the lister
+    // could not be started. The cycle asks for this listing first: an implementation may take one look at
+    // the processes here and answer topListing() from the same look.
+    [[nodiscard]] virtual std::optional<std::string> cpuListing() = 0;
+
+    // A heading line, then a line for each process, the highest share first: the share, a blank, the
+    // executable's short name (no folder, no arguments; blanks are possible). Nothing as above.
+    [[nodiscard]] virtual std::optional<std::string> topListing() = 0;
+
+    // Configured logical processors, sleeping ones included; at least 1.
+    [[nodiscard]] virtual std::int64_t logicalProcessors() = 0;
+};
+
+} // namespace quelby

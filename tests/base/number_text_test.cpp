@@ -1,0 +1,63 @@
+#include "base/number_text.h"
+
+#include <clocale>
+
+#include <gtest/gtest.h>
+
+namespace quelby {
+namespace {
+
+TEST(DecimalNumber, AcceptsWhatAListerPrints) {
+    EXPECT_EQ(decimalNumber("12.5"), 12.5);
+    EXPECT_EQ(decimalNumber("0"), 0.0);
+    EXPECT_EQ(decimalNumber("-3.25"), -3.25);
+    EXPECT_EQ(decimalNumber("+1.5"), 1.5);
+    EXPECT_EQ(decimalNumber("1e2"), 100.0);
+    EXPECT_EQ(decimalNumber(".5"), 0.5);
+    EXPECT_EQ(decimalNumber("5."), 5.0);
+}
+
+TEST(DecimalNumber, RefusesWhatIsNotWhollyANumber) {
+    for (const auto* text :
+         {"", " ", "abc", "12.5x", "1 2", " 1", "1\n", "0x10", "12,5", "+-1", "++1", "-", "."}) {
+        EXPECT_EQ(decimalNumber(text), std::nullopt) << '"' << text << '"';
+    }
+}
+
+TEST(DecimalNumber, RefusesWhatIsNotFinite) {
+    for (const auto* text : {"nan", "NaN", "inf", "-inf", "infinity", "1e999", "-1e999"}) {
+        EXPECT_EQ(decimalNumber(text), std::nullopt) << text;
+    }
+}
+
+TEST(DecimalNumber, DoesNotFollowTheLocale) {
+    const char* const german = std::setlocale(LC_ALL, "de_DE.UTF-8");
+    EXPECT_EQ(decimalNumber("12.5"), 12.5);
+    EXPECT_EQ(decimalNumber("12,5"), std::nullopt);
+    std::setlocale(LC_ALL, "C");
+    static_cast<void>(german); // where the locale is not installed, the test still holds
+}
+
+TEST(WholeNumber, AcceptsEveryIntegerOf64Bits) {
+    EXPECT_EQ(wholeNumber("0"), 0);
+    EXPECT_EQ(wholeNumber("+7"), 7);
+    EXPECT_EQ(wholeNumber("-9223372036854775808"), INT64_MIN);
+    EXPECT_EQ(wholeNumber("9223372036854775807"), INT64_MAX);
+}
+
+TEST(WholeNumber, RefusesEverythingElse) {
+    for (const auto* text :
+         {"", "1.0", "1 ", "0x1", "9223372036854775808", "18446744073709551615", "+-1", "one"}) {
+        EXPECT_EQ(wholeNumber(text), std::nullopt) << '"' << text << '"';
+    }
+}
+
+TEST(WithoutBlanks, RemovesBlanksAndTabsAtBothEndsOnly) {
+    EXPECT_EQ(withoutBlanks(" \t a b \t"), "a b");
+    EXPECT_EQ(withoutBlanks("\n a \r"), "\n a \r");
+    EXPECT_EQ(withoutBlanks(" \t "), "");
+    EXPECT_EQ(withoutBlanks(""), "");
+}
+
+} // namespace
+} // namespace quelby
