@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+namespace quelby {
+
+// One point of the consumption curve.
+struct HistoryDataPoint {
+    std::int64_t id = 0; // seconds since 1970-01-01 00:00 UTC; unique within one result
+    double watts = 0;
+
+    // The same instant as `id`, as the type of every other time in memory.
+    [[nodiscard]] double date() const { return static_cast<double>(id); }
+
+    bool operator==(const HistoryDataPoint&) const = default;
+};
+
+} // namespace quelby

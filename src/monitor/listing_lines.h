@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+namespace quelby {
+
+// The data lines of a listing: what stands between newline characters, less the heading, without blanks and
+// tabs at both ends. Text after the last newline is a line too, be it empty.
+class ListingLines {
+public:
+    explicit ListingLines(std::string_view listing) : rest_(listing) { dropFirstLine(); }
+
+    [[nodiscard]] std::optional<std::string_view> next();
+
+private:
+    void dropFirstLine();
+
+    std::optional<std::string_view> rest_;
+};
+
+} // namespace quelby

@@ -1,0 +1,133 @@
+// A computer made of values that a test sets.
+#pragma once
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace quelby::fake {
+
+struct Battery final : BatterySource {
+    BatteryReading reading = NoBattery{};
+    int readings = 0;
+
+    BatteryReading readBattery() override {
+        ++readings;
+        return reading;
+    }
+};
+
+struct Processes final : ProcessLister {
+    std::optional<std::string> cpu = "%CPU\n";
+    std::optional<std::string> top = "%CPU COMM\n";
+    std::int64_t processors = 1;
+
+    std::optional<std::string> cpuListing() override { return cpu; }
+
+    std::optional<std::string> topListing() override { return top; }
+
+    std::int64_t logicalProcessors() override { return processors; }
+};
+
+struct WallClock final : Clock {
+    double time = 1'700'000'000;
+
+    double now() override { return time; }
+
+    double startOfDay() override { return time - 3600; }
+};
+
+// Timers fire when the test says so.
+class Loop final : public RunLoop {
+public:
+    std::shared_ptr<RepeatingTimer> repeat(std::chrono::duration<double> interval,
+                                           std::function<void()> action) override {
+        timers_.push_back(std::make_shared<Timer>(interval, std::move(action)));
+        return timers_.back();
+    }
+
+    void post(std::function<void()> action) override { posted_.push_back(std::move(action)); }
+
+    void fireTimers() {
+        for (const auto& timer : std::vector(timers_)) {
+            if (timer->running) {
+                timer->action();
+            }
+        }
+    }
+
+    void callPosted() {
+        for (const auto& action : std::exchange(posted_, {})) {
+            action();
+        }
+    }
+
+    // Of the timers that have not been invalidated.
+    [[nodiscard]] std::vector<double> intervals() const {
+        std::vector<double> seconds;
+        for (const auto& timer : timers_) {
+            if (timer->running) {
+                seconds.push_back(timer->interval.count());
+            }
+        }
+        return seconds;
+    }
+
+private:
+    struct Timer final : RepeatingTimer {
+        Timer(std::chrono::duration<double> every, std::function<void()> call)
+            : interval(every), action(std::move(call)) {}
+
+        void invalidate() override { running = false; }
+
+        std::chrono::duration<double> interval;
+        std::function<void()> action;
+        bool running = true;
+    };
+
+    std::vector<std::shared_ptr<Timer>> timers_;
+    std::vector<std::function<void()>> posted_;
+};
+
+struct Choices final : Preferences {
+    std::map<std::string, std::string, std::less<>> texts;
+    std::map<std::string, bool, std::less<>> flags;
+
+    std::optional<std::string> text(std::string_view key) override {
+        const auto found = texts.find(key);
+        return found == texts.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    bool flag(std::string_view key) override {
+        const auto found = flags.find(key);
+        return found != flags.end() && found->second;
+    }
+};
+
+struct Draw final : StorageDraw {
+    int next = 0;
+    int draws = 0;
+
+    int draw() override {
+        ++draws;
+        return next;
+    }
+};
+
+struct Computer {
+    Battery battery;
+    Processes processes;
+    WallClock clock;
+    Loop runLoop;
+    Choices preferences;
+    Draw storageDraw;
+
+    [[nodiscard]] Platform platform() {
+        return {battery, processes, clock, runLoop, preferences, storageDraw};
+    }
+};
+
+} // namespace quelby::fake
