@@ -9,14 +9,18 @@ set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 set(QUELBY_SANITIZERS "" CACHE STRING "What -fsanitize= gets, for example address,undefined")
 
 add_library(quelby_rules INTERFACE)
+# -Wno-missing-field-initializers: what an initializer leaves out gets the default that its record names.
 target_compile_options(quelby_rules INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
-    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Wundef -Werror)
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Wundef -Werror -Wno-missing-field-initializers)
+# Qt would otherwise take words such as "signals" for itself.
+target_compile_definitions(quelby_rules INTERFACE QT_NO_KEYWORDS)
 target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(QUELBY_SANITIZERS)
-    # The optimizer sees through the sanitizers' own code and takes it for a null dereference.
+    # The sanitizers' own code makes the compiler see null dereferences and uninitialized values where there are none.
     target_compile_options(quelby_rules INTERFACE
-        -fsanitize=${QUELBY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-null-dereference)
+        -fsanitize=${QUELBY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer
+        -Wno-null-dereference -Wno-maybe-uninitialized)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
 endif()
 

@@ -1,17 +1,20 @@
 #include "base/utf8.h"
 
-#include <cstdint>
-
 namespace quelby {
 
 namespace {
 
-struct Sequence {
-    std::size_t length = 0; // 0: no well-formed sequence starts here
-    std::uint32_t codePoint = 0;
-};
+bool isControl(std::uint32_t codePoint) {
+    const bool lineBreak = codePoint == 0x2028 || codePoint == 0x2029;
+    // Marks that turn the direction of what follows them, which a name could use to disguise a line.
+    const bool direction =
+        (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
+    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || lineBreak || direction;
+}
 
-Sequence sequenceAt(std::string_view text, std::size_t position) {
+} // namespace
+
+Utf8Sequence utf8SequenceAt(std::string_view text, std::size_t position) {
     const auto byte = [&](std::size_t offset) { return static_cast<std::uint8_t>(text[position + offset]); };
     const std::uint8_t lead = byte(0);
     if (lead < 0x80) {
@@ -30,22 +33,12 @@ Sequence sequenceAt(std::string_view text, std::size_t position) {
     }
     const bool overlong = (length == 3 && codePoint < 0x800) || (length == 4 && codePoint < 0x10000);
     const bool surrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    return overlong || surrogate || codePoint > 0x10FFFF ? Sequence{} : Sequence{length, codePoint};
+    return overlong || surrogate || codePoint > 0x10FFFF ? Utf8Sequence{} : Utf8Sequence{length, codePoint};
 }
-
-bool isControl(std::uint32_t codePoint) {
-    const bool lineBreak = codePoint == 0x2028 || codePoint == 0x2029;
-    // Marks that turn the direction of what follows them, which a name could use to disguise a line.
-    const bool direction =
-        (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
-    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || lineBreak || direction;
-}
-
-} // namespace
 
 bool isUtf8(std::string_view text) {
     for (std::size_t position = 0; position < text.size();) {
-        const auto sequence = sequenceAt(text, position);
+        const auto sequence = utf8SequenceAt(text, position);
         if (sequence.length == 0) {
             return false;
         }
@@ -58,7 +51,7 @@ std::string printable(std::string_view text) {
     std::string line;
     line.reserve(text.size());
     for (std::size_t position = 0; position < text.size();) {
-        const auto [length, codePoint] = sequenceAt(text, position);
+        const auto [length, codePoint] = utf8SequenceAt(text, position);
         if (length == 0 || isControl(codePoint)) {
             line += '?';
         } else {

@@ -1,10 +1,20 @@
 // UTF-8, as RFC 3629 and table 3-7 of the Unicode Standard define well-formed text.
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace quelby {
+
+struct Utf8Sequence {
+    std::size_t length = 0; // bytes; 0: no well-formed sequence starts there
+    std::uint32_t codePoint = 0;
+};
+
+// The character that starts at the position, which lies within the text.
+[[nodiscard]] Utf8Sequence utf8SequenceAt(std::string_view text, std::size_t position);
 
 [[nodiscard]] bool isUtf8(std::string_view text);
 

@@ -19,10 +19,9 @@ namespace quelby {
 //   CurrentCapacity         mAh or %, likewise
 //   CycleCount              charge cycles
 //   IsCharging, ExternalConnected, FullyCharged
-//   InstantAmperage         mA, negative while discharging (or as 16-bit two's complement, 32768 to 65535)
-//   Voltage                 mV
-//   Temperature             hundredths of a degree Celsius
-//   TimeRemaining           minutes to empty or to full, by the system's own estimate
+//   InstantAmperage         mA, negative while discharging; above 30000 it is taken for a negative number in
+//   16 bits Voltage                 mV Temperature             hundredths of a degree Celsius TimeRemaining
+//   minutes to empty or to full, by the system's own estimate
 using PropertyValue = std::variant<bool, std::int64_t>;
 using PropertyTable = std::map<std::string, PropertyValue, std::less<>>;
 
@@ -41,7 +40,8 @@ class BatterySource {
 public:
     virtual ~BatterySource() = default;
 
-    // Called once a cycle, on the main thread; never throws, and takes a few milliseconds at most.
+    // Called once a cycle, and before anything else is asked of the computer in that cycle; on the main
+    // thread. Never throws, and takes a few milliseconds at most.
     [[nodiscard]] virtual BatteryReading readBattery() = 0;
 };
 

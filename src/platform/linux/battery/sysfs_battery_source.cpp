@@ -1,0 +1,44 @@
+#include "platform/linux/battery/sysfs_battery_source.h"
+
+#include <algorithm>
+
+#include "platform/linux/battery/battery_table.h"
+#include "platform/linux/battery/power_supplies.h"
+
+namespace quelby {
+
+namespace {
+
+// Those that answer, or all if none does.
+std::vector<BatteryPack> packsThatCount(const std::vector<RawPack>& rawPacks) {
+    std::vector<BatteryPack> packs;
+    std::transform(rawPacks.begin(), rawPacks.end(), std::back_inserter(packs), packFrom);
+    const auto silent = std::stable_partition(packs.begin(), packs.end(),
+                                              [](const BatteryPack& pack) { return pack.answers; });
+    if (silent != packs.begin()) {
+        packs.erase(silent, packs.end());
+    }
+    return packs;
+}
+
+} // namespace
+
+SysfsBatterySource::SysfsBatterySource(const std::filesystem::path& sysfsRoot)
+    : folder_(sysfsRoot / "class" / "power_supply") {}
+
+BatteryReading SysfsBatterySource::readBattery() {
+    const auto supplies = readPowerSupplies(folder_);
+    const auto packs = packsThatCount(supplies.packs);
+    if (packs.empty()) {
+        hasAnswered_ = false;
+        return NoBattery{};
+    }
+    const bool answers = packs.front().answers;
+    if (hasAnswered_ && !answers) {
+        return UnreadableBattery{};
+    }
+    hasAnswered_ = answers;
+    return propertyTable(packs, supplies.adapters);
+}
+
+} // namespace quelby

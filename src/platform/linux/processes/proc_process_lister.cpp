@@ -1,0 +1,36 @@
+#include "platform/linux/processes/proc_process_lister.h"
+
+#include <algorithm>
+
+#include <unistd.h>
+
+#include "platform/linux/processes/process_listings.h"
+
+namespace quelby {
+
+namespace {
+
+CpuScale thisComputersScale() {
+    return {static_cast<double>(::sysconf(_SC_CLK_TCK)), std::max(::sysconf(_SC_NPROCESSORS_CONF), 1L)};
+}
+
+} // namespace
+
+ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::function<LookTime()> lookTime)
+    : scale_(thisComputersScale()), scanner_(std::move(procRoot), scale_, std::move(lookTime)) {}
+
+std::optional<std::string> ProcProcessLister::cpuListing() {
+    hasLook_ = scanner_.look();
+    return hasLook_ ? std::optional(cpuListingText(scanner_.processes())) : std::nullopt;
+}
+
+std::optional<std::string> ProcProcessLister::topListing() {
+    hasLook_ = hasLook_ || scanner_.look();
+    return hasLook_ ? std::optional(topListingText(scanner_.processes())) : std::nullopt;
+}
+
+std::int64_t ProcProcessLister::logicalProcessors() {
+    return scale_.logicalProcessors;
+}
+
+} // namespace quelby

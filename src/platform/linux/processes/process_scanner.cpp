@@ -1,0 +1,68 @@
+#include "platform/linux/processes/process_scanner.h"
+
+#include <array>
+
+#include "platform/linux/processes/process_names.h"
+#include "platform/linux/processes/system_time.h"
+
+namespace quelby {
+
+ProcessScanner::ProcessScanner(std::filesystem::path procRoot, CpuScale scale,
+                               std::function<LookTime()> lookTime)
+    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), lookTime_(std::move(lookTime)) {}
+
+bool ProcessScanner::look() {
+    if (!directory_.listPids(pids_)) {
+        table_.clear();
+        return false;
+    }
+    table_.follow(pids_);
+    stats_.beginLook();
+    const auto time = timeOfLook();
+    const bool clocksTell = directory_.isOwnKernels();
+    table_.keepWhere([&](Process& process) {
+        const bool alive = refresh(process, clocksTell);
+        process.share.update(process.counters, time, scale_);
+        return alive;
+    });
+    return true;
+}
+
+LookTime ProcessScanner::timeOfLook() {
+    auto time = lookTime_();
+    std::array<char, 64> buffer;
+    if (const auto text = readBeginning(directory_.open("uptime"), buffer)) {
+        time.uptimeSeconds = parseUptime(*text).value_or(time.uptimeSeconds);
+    }
+    return time;
+}
+
+bool ProcessScanner::refresh(Process& process, bool clocksTell) {
+    if (clocksTell && !process.clock) {
+        process.clock = CpuClock::of(process.pid);
+    }
+    // Asked before the files: what the process does between the two answers moves its clock for the next
+    // look.
+    const auto clock = process.clock ? process.clock->nanoseconds() : std::nullopt;
+    const bool hasSlept = clock && clock == process.clockNanoseconds;
+    process.clockNanoseconds = clock;
+    return hasSlept || readAgain(process);
+}
+
+bool ProcessScanner::readAgain(Process& process) {
+    const auto text = stats_.read(process.pid, process.statFile);
+    const auto stat = text ? parseStat(*text) : std::nullopt;
+    if (!stat) {
+        return false;
+    }
+    const bool sameName =
+        stat->escapedComm == process.escapedComm && stat->counters.startTicks == process.counters.startTicks;
+    process.counters = stat->counters;
+    if (!sameName || process.name.empty()) {
+        process.escapedComm = stat->escapedComm;
+        process.name = processName(process.pid, process.escapedComm, directory_);
+    }
+    return true;
+}
+
+} // namespace quelby

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "platform/linux/processes/cpu_share.h"
+#include "platform/linux/processes/proc_directory.h"
+#include "platform/linux/processes/process_table.h"
+#include "platform/linux/processes/stat_reader.h"
+
+namespace quelby {
+
+// Takes looks at all processes of a /proc.
+class ProcessScanner {
+public:
+    ProcessScanner(std::filesystem::path procRoot, CpuScale scale, std::function<LookTime()> lookTime);
+
+    ProcessScanner(const ProcessScanner&) = delete;
+    ProcessScanner& operator=(const ProcessScanner&) = delete;
+    ProcessScanner(ProcessScanner&&) = delete;
+    ProcessScanner& operator=(ProcessScanner&&) = delete;
+    ~ProcessScanner() = default;
+
+    // False where the directory cannot be read; then all is forgotten, and the next look is a first one.
+    [[nodiscard]] bool look();
+
+    // What the last look has seen, in ascending order of pid.
+    [[nodiscard]] std::span<const Process> processes() const { return table_.processes(); }
+
+private:
+    [[nodiscard]] LookTime timeOfLook();
+    [[nodiscard]] bool refresh(Process& process, bool clocksTell);
+    [[nodiscard]] bool readAgain(Process& process);
+
+    ProcDirectory directory_;
+    StatReader stats_;
+    CpuScale scale_;
+    std::function<LookTime()> lookTime_;
+    std::vector<pid_t> pids_;
+    ProcessTable table_;
+};
+
+} // namespace quelby

@@ -1,0 +1,21 @@
+#include "platform/linux/processes/process_table.h"
+
+namespace quelby {
+
+void ProcessTable::follow(std::span<const pid_t> pids) {
+    auto known = processes_.begin();
+    for (const pid_t pid : pids) {
+        while (known != processes_.end() && known->pid < pid) {
+            ++known;
+        }
+        if (known != processes_.end() && known->pid == pid) {
+            next_.push_back(std::move(*known));
+        } else {
+            next_.emplace_back().pid = pid;
+        }
+    }
+    processes_.swap(next_);
+    next_.clear();
+}
+
+} // namespace quelby

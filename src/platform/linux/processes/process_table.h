@@ -1,0 +1,63 @@
+// The living processes, and what is known of each from one look to the next.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+#include "platform/linux/processes/cpu_clock.h"
+#include "platform/linux/processes/cpu_share.h"
+#include "platform/linux/processes/stat_text.h"
+#include "platform/posix/file_descriptor.h"
+
+namespace quelby {
+
+struct Process {
+    pid_t pid = 0;
+    FileDescriptor statFile; // closed unless it is kept from one look to the next
+    std::optional<CpuClock> clock;
+    std::optional<std::uint64_t> clockNanoseconds; // before the counters were read
+    CpuCounters counters;
+    CpuShare share;
+    std::string escapedComm; // that the name was made from
+    std::string name;        // for a listing
+};
+
+// In ascending order of pid, and never more than the last look has seen.
+class ProcessTable {
+public:
+    // Forgets whoever is not in the list, which is in ascending order, and adds whoever is new.
+    void follow(std::span<const pid_t> pids);
+
+    // Calls `isAlive(Process&)` once for each process, in order, and forgets those it answers false for.
+    template <typename IsAlive>
+    void keepWhere(IsAlive isAlive) {
+        auto kept = processes_.begin();
+        for (auto& process : processes_) {
+            if (isAlive(process)) {
+                keepAt(*kept++, process);
+            }
+        }
+        processes_.erase(kept, processes_.end());
+    }
+
+    void clear() { processes_.clear(); }
+
+    [[nodiscard]] std::span<const Process> processes() const { return processes_; }
+
+private:
+    static void keepAt(Process& place, Process& process) {
+        if (&place != &process) {
+            place = std::move(process);
+        }
+    }
+
+    std::vector<Process> processes_;
+    std::vector<Process> next_; // empty between calls; its memory is used again
+};
+
+} // namespace quelby

@@ -1,0 +1,18 @@
+#include "platform/posix/system_clock.h"
+
+#include <chrono>
+
+#include "platform/posix/local_day.h"
+
+namespace quelby {
+
+double SystemClock::now() {
+    const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(sinceEpoch).count();
+}
+
+double SystemClock::startOfDay() {
+    return startOfLocalDay(now());
+}
+
+} // namespace quelby

@@ -1,0 +1,33 @@
+#include "platform/qt/qt_preferences.h"
+
+namespace quelby {
+
+namespace {
+
+QString qtKey(std::string_view key) {
+    return QString::fromUtf8(key.data(), static_cast<qsizetype>(key.size()));
+}
+
+QString qtPath(const std::filesystem::path& path) {
+    return QString::fromStdString(path.string());
+}
+
+} // namespace
+
+QtPreferences::QtPreferences(const std::optional<std::filesystem::path>& file)
+    : settings_(file ? QSettings(qtPath(*file), QSettings::IniFormat)
+                     : QSettings(QSettings::NativeFormat, QSettings::UserScope, "Quelby", "Quelby")) {}
+
+std::optional<std::string> QtPreferences::text(std::string_view key) {
+    const auto value = settings_.value(qtKey(key));
+    return value.typeId() == QMetaType::QString ? std::optional(value.toString().toStdString())
+                                                : std::nullopt;
+}
+
+// An INI file holds texts only, so a Boolean comes back as the word.
+bool QtPreferences::flag(std::string_view key) {
+    const auto value = settings_.value(qtKey(key));
+    return value.typeId() == QMetaType::Bool ? value.toBool() : value.toString() == QLatin1String("true");
+}
+
+} // namespace quelby

@@ -1,0 +1,35 @@
+// Listens to what a monitor asks of a machine, so that it can be played back.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/replay/recorded_cycle.h"
+
+namespace quelby {
+
+// The platform that it offers passes every question on to the real one and notes the answer.
+class MachineRecorder final : BatterySource, ProcessLister, Clock, StorageDraw {
+public:
+    // The real platform's parts outlive the recorder.
+    explicit MachineRecorder(const Platform& real) : real_(real) {}
+
+    [[nodiscard]] Platform platform() {
+        return {*this, *this, *this, real_.runLoop, real_.preferences, *this};
+    }
+
+    // The answers since the last call: those of one cycle, if called at the end of each.
+    [[nodiscard]] RecordedCycle takeCycle();
+
+private:
+    BatteryReading readBattery() override;
+    std::optional<std::string> cpuListing() override;
+    std::optional<std::string> topListing() override;
+    std::int64_t logicalProcessors() override;
+    double now() override;
+    double startOfDay() override;
+    int draw() override;
+
+    Platform real_;
+    RecordedCycle cycle_;
+};
+
+} // namespace quelby

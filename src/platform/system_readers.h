@@ -1,0 +1,26 @@
+// The readers of the system that this program was built for.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "platform/battery_source.h"
+#include "platform/process_lister.h"
+
+namespace quelby {
+
+// Where the kernel shows itself, for tests and odd systems. Only Linux looks at them.
+struct SystemRoots {
+    std::filesystem::path sysfs = "/sys";
+    std::filesystem::path proc = "/proc";
+};
+
+struct SystemReaders {
+    std::unique_ptr<BatterySource> battery;
+    std::unique_ptr<ProcessLister> processes;
+};
+
+// Never null. The build picks the system's own definition.
+[[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
+
+} // namespace quelby

@@ -1,0 +1,133 @@
+#include "platform/linux/battery/sysfs_battery_source.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/linux/battery/fake_sysfs.h"
+#include "platform/linux/battery/published_battery.h"
+
+namespace quelby {
+namespace {
+
+const fake::Attributes mouse = {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "65"}};
+
+fake::Attributes battery(int remainingWattHours) {
+    return {{"type", "Battery"},
+            {"status", "Discharging"},
+            {"present", "1"},
+            {"energy_now", std::to_string(remainingWattHours) + "000000"},
+            {"energy_full", "50000000"},
+            {"power_now", "10000000"},
+            {"voltage_now", "10000000"}};
+}
+
+const fake::Attributes silentBattery = {
+    {"type", "Battery"}, {"status", std::nullopt}, {"energy_now", std::nullopt}};
+
+class SysfsBatterySourceTest : public testing::Test {
+protected:
+    BatteryReading read() { return source.readBattery(); }
+
+    PublishedBattery readTable() { return publishedFrom(std::get<PropertyTable>(read())); }
+
+    fake::Sysfs sysfs;
+    SysfsBatterySource source = SysfsBatterySource(sysfs.root());
+};
+
+TEST_F(SysfsBatterySourceTest, WithoutTheFolderThereIsNoBattery) {
+    std::filesystem::remove(sysfs.classFolder());
+    EXPECT_EQ(read(), BatteryReading(NoBattery{}));
+}
+
+TEST_F(SysfsBatterySourceTest, PeripheralsAndAdaptersMakeNoBattery) {
+    sysfs.plug("hidpp_battery_0", mouse);
+    sysfs.plug("AC", {{"type", "Mains"}, {"online", "1"}});
+    sysfs.plug("ups", {{"type", "UPS"}, {"capacity", "50"}, {"status", "Discharging"}});
+    EXPECT_EQ(read(), BatteryReading(NoBattery{}));
+}
+
+TEST_F(SysfsBatterySourceTest, PacksComeAndGo) {
+    sysfs.plug("BAT0", battery(25));
+    EXPECT_EQ(readTable().percent, 50);
+    sysfs.plug("BAT1", battery(50));
+    EXPECT_EQ(readTable().percent, 75);
+    EXPECT_EQ(readTable().milliamperes, -2000);
+    sysfs.unplug("BAT0");
+    EXPECT_EQ(readTable().percent, 100);
+    sysfs.write("BAT1", "present", "0\n");
+    EXPECT_EQ(read(), BatteryReading(NoBattery{}));
+    sysfs.write("BAT1", "present", "1\n");
+    EXPECT_EQ(readTable().percent, 100);
+}
+
+TEST_F(SysfsBatterySourceTest, AMouseThatComesChangesNothing) {
+    sysfs.plug("BAT0", battery(25));
+    const auto before = read();
+    sysfs.plug("hidpp_battery_0", mouse);
+    EXPECT_EQ(read(), before);
+}
+
+TEST_F(SysfsBatterySourceTest, AnAttributeThatFailsCostsOnlyItself) {
+    sysfs.plug("BAT0", battery(25));
+    sysfs.makeUnreadable("BAT0", "power_now");
+    EXPECT_EQ(readTable().milliamperes, std::nullopt);
+    EXPECT_EQ(readTable().percent, 50);
+    EXPECT_EQ(readTable().millivolts, 10'000);
+    sysfs.write("BAT0", "power_now", "10000000\n");
+    EXPECT_EQ(readTable().milliamperes, -1000);
+}
+
+TEST_F(SysfsBatterySourceTest, ASilentPackBesideOneThatAnswersIsLeftOut) {
+    sysfs.plug("BAT0", silentBattery);
+    sysfs.plug("BAT1", battery(25));
+    EXPECT_EQ(readTable().percent, 50);
+    EXPECT_EQ(readTable().rawMaxCapacity, 5000);
+}
+
+TEST_F(SysfsBatterySourceTest, ASilentPackDoesNotKeepTheBatteryFromBeingFull) {
+    auto full = battery(50);
+    full["status"] = "Full";
+    sysfs.plug("BAT0", full);
+    sysfs.plug("BAT1", silentBattery);
+    EXPECT_TRUE(readTable().fullyCharged);
+}
+
+TEST_F(SysfsBatterySourceTest, ABatteryThatFallsSilentIsUnreadableUntilItAnswers) {
+    sysfs.plug("BAT0", battery(25));
+    ASSERT_EQ(readTable().percent, 50);
+    sysfs.unplug("BAT0");
+    sysfs.plug("BAT0", silentBattery);
+    EXPECT_EQ(read(), BatteryReading(UnreadableBattery{}));
+    EXPECT_EQ(read(), BatteryReading(UnreadableBattery{}));
+    sysfs.unplug("BAT0");
+    sysfs.plug("BAT0", battery(30));
+    EXPECT_EQ(readTable().percent, 60);
+}
+
+TEST_F(SysfsBatterySourceTest, ABatteryThatNeverAnsweredLeavesTheWordToTheAdapters) {
+    sysfs.plug("BAT0", silentBattery);
+    sysfs.plug("AC", {{"type", "Mains"}, {"online", "1"}});
+    EXPECT_TRUE(readTable().isPluggedIn);
+    EXPECT_EQ(readTable().percent, std::nullopt);
+    sysfs.write("AC", "online", "0\n");
+    EXPECT_FALSE(readTable().isPluggedIn);
+}
+
+TEST_F(SysfsBatterySourceTest, ASilentBatteryAfterARemovedOneHasNoOldValues) {
+    sysfs.plug("BAT0", battery(25));
+    ASSERT_EQ(readTable().percent, 50);
+    sysfs.unplug("BAT0");
+    EXPECT_EQ(read(), BatteryReading(NoBattery{}));
+    sysfs.plug("BAT1", silentBattery);
+    EXPECT_EQ(readTable().percent, std::nullopt);
+}
+
+TEST_F(SysfsBatterySourceTest, APercentageIsNotLostInTheConversion) {
+    auto pack = battery(40);
+    pack["energy_full"] = "80000000";
+    pack["voltage_min_design"] = "15480000";
+    sysfs.plug("BAT0", pack);
+    EXPECT_EQ(readTable().percent, 50);
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <csignal>
+#include <utility>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "pipe.h"
+
+namespace quelby {
+
+// A child that runs the body, and is ended at the latest when this goes.
+class ChildProcess {
+public:
+    // Returns once the body has closed the descriptor that it is handed, which running a program does, too.
+    template <typename Body>
+    explicit ChildProcess(const Body& body) {
+        Pipe started;
+        pid_ = ::fork();
+        if (pid_ == 0) {
+            body(std::move(started.writing));
+            ::_exit(0);
+        }
+        started.writing.close();
+        waitForEnd(started.reading);
+    }
+
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+    ChildProcess(ChildProcess&&) = delete;
+    ChildProcess& operator=(ChildProcess&&) = delete;
+
+    ~ChildProcess() { end(); }
+
+    [[nodiscard]] pid_t pid() const { return pid_; }
+
+    void end() {
+        if (const pid_t pid = std::exchange(pid_, -1); pid > 0) {
+            ::kill(pid, SIGKILL);
+            ::waitpid(pid, nullptr, 0);
+        }
+    }
+
+private:
+    pid_t pid_ = -1;
+};
+
+[[noreturn]] inline void rest(FileDescriptor ready) {
+    ready.close();
+    for (;;) {
+        ::pause();
+    }
+}
+
+} // namespace quelby

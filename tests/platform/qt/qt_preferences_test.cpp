@@ -1,0 +1,48 @@
+#include "platform/qt/qt_preferences.h"
+
+#include <gtest/gtest.h>
+
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+class QtPreferencesTest : public testing::Test {
+protected:
+    [[nodiscard]] QtPreferences with(std::string_view content) const {
+        return QtPreferences(folder.write("preferences.conf", content));
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(QtPreferencesTest, ReadsTextsAndFlags) {
+    auto preferences =
+        with("[General]\nmenuBarDisplay=Current (mA)\nlaunchAtLogin=true\nhasShownChargingTip=false\n");
+    EXPECT_EQ(preferences.text("menuBarDisplay"), "Current (mA)");
+    EXPECT_TRUE(preferences.flag("launchAtLogin"));
+    EXPECT_FALSE(preferences.flag("hasShownChargingTip"));
+}
+
+TEST_F(QtPreferencesTest, HaveNothingUnderAnAbsentKey) {
+    auto preferences = with("");
+    EXPECT_EQ(preferences.text("menuBarDisplay"), std::nullopt);
+    EXPECT_FALSE(preferences.flag("launchAtLogin"));
+}
+
+TEST_F(QtPreferencesTest, CountAValueOfAnotherTypeAsAbsent) {
+    auto preferences = with("[General]\nmenuBarDisplay=a, list\nlaunchAtLogin=yes please\n");
+    EXPECT_EQ(preferences.text("menuBarDisplay"), std::nullopt);
+    EXPECT_FALSE(preferences.flag("launchAtLogin"));
+}
+
+TEST_F(QtPreferencesTest, HoldNothingWhereTheFileIsMissingOrRubbish) {
+    QtPreferences missing(folder.path() / "nowhere" / "preferences.conf");
+    EXPECT_EQ(missing.text("menuBarDisplay"), std::nullopt);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "nowhere"));
+    auto rubbish = with(std::string_view("\x7F\x00\xFF[[[\n===", 10));
+    EXPECT_EQ(rubbish.text("menuBarDisplay"), std::nullopt);
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,115 @@
+#include "platform/replay/machine_recorder.h"
+
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "monitor/power_monitor.h"
+#include "platform/replay/recording_line.h"
+#include "platform/replay/replayed_machine.h"
+#include "support/fake_platform.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+TEST(MachineRecorder, NotesWhatACycleWasTold) {
+    fake::Computer computer;
+    computer.battery.reading = PropertyTable{{"ExternalConnected", true}};
+    computer.processes.processors = 6;
+    computer.processes.top = std::nullopt;
+    computer.storageDraw.next = 1;
+    MachineRecorder recorder(computer.platform());
+    const auto monitor = PowerMonitor::create(recorder.platform());
+    monitor->startMonitoring();
+    EXPECT_EQ(recorder.takeCycle(), (RecordedCycle{.time = computer.clock.time,
+                                                   .battery = computer.battery.reading,
+                                                   .processors = 6,
+                                                   .cpuListing = computer.processes.cpu,
+                                                   .topListing = std::nullopt,
+                                                   .storageDraw = 1}));
+}
+
+TEST(MachineRecorder, NotesNoDrawWhereNothingWasDrawn) {
+    fake::Computer computer;
+    computer.battery.reading = PropertyTable{{"InstantAmperage", -1000}, {"Voltage", 12000}};
+    MachineRecorder recorder(computer.platform());
+    const auto monitor = PowerMonitor::create(recorder.platform());
+    monitor->startMonitoring();
+    EXPECT_EQ(recorder.takeCycle().storageDraw, std::nullopt);
+}
+
+struct Collect {
+    std::vector<std::string>& values;
+
+    template <typename T>
+    void operator()(FieldName field, const Published<T>& published) const {
+        if constexpr (std::is_same_v<T, double> || std::is_same_v<T, Int> || std::is_same_v<T, bool>) {
+            values.push_back(std::string(field.name) + std::to_string(published.get()));
+        } else if constexpr (std::is_same_v<T, std::string>) {
+            values.push_back(std::string(field.name) + published.get());
+        } else if constexpr (std::is_same_v<T, std::vector<ProcessInfo_Energy>>) {
+            for (const auto& process : published.get()) {
+                values.push_back(process.name + std::to_string(process.estimatedWatts));
+            }
+        }
+    }
+};
+
+std::vector<std::string> valuesOf(const PowerMonitor& monitor) {
+    std::vector<std::string> values;
+    forEachField(monitor, Collect{values});
+    return values;
+}
+
+// A computer that changes from cycle to cycle.
+void change(fake::Computer& computer, std::mt19937& random) {
+    const auto upTo = [&](int most) { return static_cast<int>(random() % static_cast<unsigned>(most + 1)); };
+    computer.clock.time += 3 + upTo(40);
+    computer.storageDraw.next = upTo(1);
+    computer.processes.cpu = "%CPU\n" + std::to_string(upTo(300)) + ".5\n";
+    computer.processes.top =
+        upTo(9) == 0 ? std::nullopt : std::optional("%CPU COMM\n" + std::to_string(upTo(90)) + ".25 a b\n");
+    computer.battery.reading =
+        PropertyTable{{"ExternalConnected", upTo(1) == 1},     {"InstantAmperage", -upTo(3000)},
+                      {"Voltage", 11000 + upTo(2000)},         {"AppleRawMaxCapacity", 5000},
+                      {"AppleRawCurrentCapacity", upTo(5000)}, {"TimeRemaining", upTo(300)}};
+    if (upTo(9) == 0) {
+        computer.battery.reading = UnreadableBattery{};
+    }
+}
+
+TEST(MachineRecorder, MakesARecordingThatGivesTheSameFields) {
+    fake::Computer computer;
+    MachineRecorder recorder(computer.platform());
+    const auto live = PowerMonitor::create(recorder.platform());
+    std::vector<std::vector<std::string>> expected;
+    std::string recording;
+    live->onUpdate = [&] {
+        expected.push_back(valuesOf(*live));
+        recording += recordingLine(recorder.takeCycle()) + '\n';
+    };
+    std::mt19937 random(7);
+    change(computer, random);
+    live->startMonitoring();
+    for (int cycle = 1; cycle < 300; ++cycle) {
+        change(computer, random);
+        computer.runLoop.fireTimers();
+    }
+
+    const TemporaryFolder folder;
+    auto machine = ReplayedMachine::open(folder.write("it.jsonl", recording));
+    ASSERT_TRUE(machine);
+    fake::Loop loop;
+    fake::Choices preferences;
+    const auto replayed = PowerMonitor::create({*machine, *machine, *machine, loop, preferences, *machine});
+    replayed->startMonitoring();
+    for (const auto& values : expected) {
+        ASSERT_EQ(valuesOf(*replayed), values);
+        loop.fireTimers();
+    }
+    EXPECT_TRUE(machine->isAtLastLine());
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,125 @@
+#include "platform/replay/recording_writer.h"
+
+#include <csignal>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include "platform/replay/recording_line.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::IsEmpty;
+
+class RecordingWriterTest : public testing::Test {
+protected:
+    [[nodiscard]] std::vector<std::string> files() const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
+            names.push_back(entry.path().filename());
+        }
+        return names;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path file = folder.path() / "it.jsonl";
+    const RecordedCycle first{.time = 1};
+    const RecordedCycle second{.time = 2};
+};
+
+TEST_F(RecordingWriterTest, WritesALineForEachCycle) {
+    auto writer = RecordingWriter::open(file);
+    ASSERT_TRUE(writer);
+    ASSERT_TRUE(writer->append(first));
+    ASSERT_TRUE(writer->append(second));
+    EXPECT_EQ(writer->lines(), 2);
+    EXPECT_EQ(folder.read("it.jsonl"), recordingLine(first) + '\n' + recordingLine(second) + '\n');
+    EXPECT_THAT(files(), ElementsAre("it.jsonl"));
+}
+
+TEST_F(RecordingWriterTest, MakesAnOrdinaryFile) {
+    const mode_t mask = ::umask(022);
+    auto writer = RecordingWriter::open(file);
+    ::umask(mask);
+    ASSERT_TRUE(writer->append(first));
+
+    struct stat status {};
+
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0644U);
+}
+
+TEST_F(RecordingWriterTest, LeavesAnOlderFileUntilItsFirstLineIsWritten) {
+    folder.write("it.jsonl", "old");
+    ::chmod(file.c_str(), 0600);
+    {
+        auto writer = RecordingWriter::open(file);
+        ASSERT_TRUE(writer);
+        EXPECT_EQ(folder.read("it.jsonl"), "old");
+    }
+    EXPECT_EQ(folder.read("it.jsonl"), "old");
+    EXPECT_THAT(files(), ElementsAre("it.jsonl"));
+    auto writer = RecordingWriter::open(file);
+    ASSERT_TRUE(writer->append(first));
+    EXPECT_EQ(folder.read("it.jsonl"), recordingLine(first) + '\n');
+
+    struct stat status {};
+
+    ASSERT_EQ(::stat(file.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0600U);
+}
+
+TEST_F(RecordingWriterTest, ReplacesTheTargetOfASymbolicLink) {
+    folder.write("target.jsonl", "old");
+    std::filesystem::create_symlink("target.jsonl", file);
+    auto writer = RecordingWriter::open(file);
+    ASSERT_TRUE(writer->append(first));
+    EXPECT_TRUE(std::filesystem::is_symlink(file));
+    EXPECT_EQ(folder.read("target.jsonl"), recordingLine(first) + '\n');
+}
+
+// The limit on a file's size stands for a full disk: the write that crosses it is cut short, the next one
+// fails.
+TEST_F(RecordingWriterTest, KeepsWholeLinesWhenTheDiskIsFull) {
+    const auto line = recordingLine(first) + '\n';
+    rlimit former{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &former), 0);
+    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+    auto writer = RecordingWriter::open(file);
+    const rlimit room{line.size() * 2 + 10, former.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &room), 0);
+    const bool fits = writer->append(first) && writer->append(first);
+    const auto tooMuch = writer->append(first);
+    ::setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, formerHandler);
+    EXPECT_TRUE(fits);
+    ASSERT_FALSE(tooMuch);
+    EXPECT_THAT(tooMuch.error().sentence, EndsWith("File too large"));
+    EXPECT_EQ(writer->lines(), 2);
+    EXPECT_EQ(folder.read("it.jsonl"), line + line);
+}
+
+TEST_F(RecordingWriterTest, SaysWhyADeviceTakesNothing) {
+    auto writer = RecordingWriter::open("/dev/full");
+    ASSERT_TRUE(writer);
+    EXPECT_EQ(writer->append(first).error().sentence,
+              "cannot record to \"/dev/full\": No space left on device");
+}
+
+TEST_F(RecordingWriterTest, SaysWhyAFileCannotBeMade) {
+    EXPECT_EQ(RecordingWriter::open(folder.path()).error().sentence,
+              "cannot record to \"" + folder.path().string() + "\": Is a directory");
+    const auto nowhere = folder.path() / "missing" / "it.jsonl";
+    EXPECT_EQ(RecordingWriter::open(nowhere).error().sentence,
+              "cannot record to \"" + nowhere.string() + "\": No such file or directory");
+    EXPECT_THAT(files(), IsEmpty());
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,88 @@
+#include "platform/replay/replayed_machine.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/posix/local_day.h"
+#include "platform/replay/recording_line.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+class ReplayedMachineTest : public testing::Test {
+protected:
+    [[nodiscard]] ReplayedMachine replay(const std::vector<RecordedCycle>& cycles) const {
+        std::string content;
+        for (const auto& cycle : cycles) {
+            content += recordingLine(cycle) + '\n';
+        }
+        return std::move(ReplayedMachine::open(folder.write("it.jsonl", content)).value());
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(ReplayedMachineTest, AnswersEverythingFromTheLineOfTheCycle) {
+    auto machine = replay({{.time = 1'700'000'000,
+                            .battery = UnreadableBattery{},
+                            .processors = 8,
+                            .cpuListing = "cpu",
+                            .topListing = "top",
+                            .storageDraw = 1},
+                           {.time = 1'700'000'003, .processors = 2, .storageDraw = 0}});
+    EXPECT_EQ(machine.now(), 1'700'000'000); // also before the first cycle
+    EXPECT_EQ(machine.readBattery(), BatteryReading(UnreadableBattery{}));
+    EXPECT_EQ(machine.now(), 1'700'000'000);
+    EXPECT_EQ(machine.startOfDay(), startOfLocalDay(1'700'000'000));
+    EXPECT_EQ(machine.logicalProcessors(), 8);
+    EXPECT_EQ(machine.cpuListing(), "cpu");
+    EXPECT_EQ(machine.topListing(), "top");
+    EXPECT_EQ(machine.draw(), 1);
+    EXPECT_EQ(machine.readBattery(), BatteryReading(NoBattery{}));
+    EXPECT_EQ(machine.now(), 1'700'000'003);
+    EXPECT_EQ(machine.cpuListing(), std::nullopt);
+    EXPECT_EQ(machine.draw(), 0);
+}
+
+TEST_F(ReplayedMachineTest, StaysAtItsLastLine) {
+    auto machine = replay({{.time = 1}, {.time = 2}});
+    EXPECT_FALSE(machine.isAtLastLine());
+    static_cast<void>(machine.readBattery());
+    EXPECT_FALSE(machine.isAtLastLine());
+    static_cast<void>(machine.readBattery());
+    EXPECT_TRUE(machine.isAtLastLine());
+    static_cast<void>(machine.readBattery());
+    EXPECT_TRUE(machine.isAtLastLine());
+    EXPECT_EQ(machine.now(), 2);
+}
+
+TEST_F(ReplayedMachineTest, OfOneLineIsAtItsEndWithTheFirstCycle) {
+    auto machine = replay({{.time = 1}});
+    EXPECT_FALSE(machine.isAtLastLine());
+    static_cast<void>(machine.readBattery());
+    EXPECT_TRUE(machine.isAtLastLine());
+}
+
+TEST_F(ReplayedMachineTest, DrawsTheSameAtEveryReplayWhereNothingIsRecorded) {
+    const auto draws = [&] {
+        auto machine = replay({{.time = 1}});
+        std::string text;
+        for (int i = 0; i < 64; ++i) {
+            text += machine.draw() == 0 ? '0' : '1';
+        }
+        return text;
+    };
+    const auto once = draws();
+    EXPECT_EQ(draws(), once);
+    EXPECT_NE(once.find('0'), std::string::npos);
+    EXPECT_NE(once.find('1'), std::string::npos);
+}
+
+TEST_F(ReplayedMachineTest, RefusesARecordingBeforeAnythingIsPlayed) {
+    const auto bad = folder.write("bad.jsonl", recordingLine({.time = 1}) + "\nnonsense\n");
+    EXPECT_EQ(ReplayedMachine::open(bad).error().sentence,
+              "cannot replay \"" + bad.string() + "\": line 2 is not a JSON object");
+}
+
+} // namespace
+} // namespace quelby

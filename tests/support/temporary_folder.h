@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace quelby {
+
+// An empty folder that goes with this object.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "quelby-test-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) {
+            throw std::runtime_error("cannot make a temporary folder");
+        }
+        path_ = name;
+    }
+
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+
+    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+
+    // Makes or replaces a file below the folder, with the folders on its way.
+    std::filesystem::path write(const std::filesystem::path& name, std::string_view content) const {
+        const auto file = path_ / name;
+        std::filesystem::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << content;
+        return file;
+    }
+
+    [[nodiscard]] std::string read(const std::filesystem::path& name) const {
+        std::ostringstream content;
+        content << std::ifstream(path_ / name, std::ios::binary).rdbuf();
+        return content.str();
+    }
+
+private:
+    std::filesystem::path path_;
+};
+
+} // namespace quelby
