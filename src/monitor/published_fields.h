@@ -23,13 +23,13 @@ using Date = double; // seconds since 1970-01-01 00:00 UTC
 
 // FIELD(type, name, default, unit), in the order in which they are shown everywhere.
 #define QUELBY_PUBLISHED_FIELDS(FIELD)                                                                       \
-    FIELD(Int, batteryPercent, 0, "%")                 /* state of charge */                                 \
-    FIELD(bool, isCharging, false, "")                 /* the battery says that it is charging */            \
-    FIELD(bool, isPluggedIn, false, "")                /* external power is connected */                     \
-    FIELD(bool, fullyCharged, false, "")               /* the battery says that it is full */                \
-    FIELD(bool, hasBattery, true, "")                  /* the battery service exists */                      \
-    FIELD(Int, batteryHealth, 100, "%")                /* full charge relative to design */                  \
-    FIELD(std::string, timeRemaining, "--:--", "h:mm") /* the system's own estimate */                       \
+    FIELD(Int, batteryPercent, 0, "%")             /* state of charge */                                     \
+    FIELD(bool, isCharging, false, "")             /* the battery says that it is charging */                \
+    FIELD(bool, isPluggedIn, false, "")            /* external power is connected */                         \
+    FIELD(bool, fullyCharged, false, "")           /* the battery says that it is full */                    \
+    FIELD(bool, hasBattery, true, "")              /* the battery service exists */                          \
+    FIELD(Int, batteryHealth, 100, "%")            /* full charge relative to design */                      \
+    FIELD(std::string, timeRemaining, "--:--", "") /* h:mm, the system's own estimate */                     \
     FIELD(Int, designCapacity, 0, "mAh")                                                                     \
     FIELD(Int, rawMaxCapacity, 0, "mAh")     /* full charge at present */                                    \
     FIELD(Int, rawCurrentCapacity, 0, "mAh") /* remaining charge */                                          \

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+#include "monitor/published_fields.h"
+
+namespace quelby::cli {
+
+// One cycle on one line, for logs and pipes, with its newline: the local time of day, the battery, the power,
+// the load and the busiest process.
+[[nodiscard]] std::string cycleLine(const PublishedFields& fields, Date time);
+
+// "discharging", "charging", "full", "plugged in" or "no battery".
+[[nodiscard]] std::string_view batteryState(const PublishedFields& fields);
+
+// The local time of day, "14:03:27".
+[[nodiscard]] std::string timeOfDay(Date time);
+
+} // namespace quelby::cli

@@ -1,0 +1,144 @@
+#include <algorithm>
+#include <csignal>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "support/laptop_recording.h"
+#include "support/quelbyctl.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr const char* enterScreen = "\x1b[?1049h";
+constexpr const char* leaveScreen = "\x1b[?25h\x1b[?1049l";
+
+class QuelbyctlWatch : public testing::Test {
+protected:
+    // Plays slowly, so that it is still there when a test does something to it.
+    [[nodiscard]] std::vector<std::string> watching(const std::vector<std::string>& more = {}) const {
+        std::vector<std::string> words{"watch", "--replay", recording, "--interval", "1000"};
+        words.insert(words.end(), more.begin(), more.end());
+        return quelbyctlWords(words);
+    }
+
+    TemporaryFolder folder;
+    std::string recording = folder.write("it.jsonl", laptopRecording(4));
+};
+
+TEST_F(QuelbyctlWatch, PrintsALineForEachCycleWhereThereIsNoTerminal) {
+    const auto result = quelbyctl({"watch", "--fast", "--replay", recording});
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_THAT(result.errors, IsEmpty());
+    EXPECT_EQ(result.output,
+              "22:13:20  80 % discharging, collecting data...  12.0 W  CPU 20.0 %, editor 30.0 %\n"
+              "22:13:50  79 % discharging, collecting data...  12.0 W  CPU 20.0 %, editor 30.0 %\n"
+              "22:14:20  78 % discharging, ~0h 39m remaining  12.0 W  CPU 20.0 %, editor 30.0 %\n"
+              "22:14:50  77 % discharging, ~0h 38m remaining  12.0 W  CPU 20.0 %, editor 30.0 %\n");
+}
+
+TEST_F(QuelbyctlWatch, PrintsAnObjectForEachCycleAsJson) {
+    const auto result = quelbyctl({"watch", "--json", "--fast", "--replay", recording});
+    std::istringstream lines(result.output);
+    int percent = 80;
+    for (std::string line; std::getline(lines, line); --percent) {
+        EXPECT_EQ(nlohmann::json::parse(line)["batteryPercent"], percent);
+    }
+    EXPECT_EQ(percent, 76);
+}
+
+TEST_F(QuelbyctlWatch, EndsAfterTheNumberOfCyclesAskedFor) {
+    const auto some = quelbyctl({"watch", "--count", "2", "--fast", "--replay", recording});
+    EXPECT_EQ(std::count(some.output.begin(), some.output.end(), '\n'), 2);
+    const auto one = quelbyctl({"watch", "--count", "1", "--interval", "1000"});
+    EXPECT_EQ(std::count(one.output.begin(), one.output.end(), '\n'), 1);
+    const auto all = quelbyctl({"watch", "--count", "100", "--fast", "--replay", recording});
+    EXPECT_EQ(std::count(all.output.begin(), all.output.end(), '\n'), 4);
+}
+
+TEST_F(QuelbyctlWatch, RedrawsInPlaceInATerminal) {
+    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40,
+                            plainEnvironment());
+    const auto result = program.end();
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_THAT(result.output, StartsWith(enterScreen));
+    EXPECT_THAT(result.output, EndsWith(leaveScreen));
+    for (const auto* level : {"80 % ", "79 % ", "78 % ", "77 % "}) {
+        EXPECT_THAT(result.output, HasSubstr(level));
+    }
+}
+
+TEST_F(QuelbyctlWatch, GivesTheTerminalBackOnCtrlC) {
+    TerminalProgram program(watching(), 80, 40, plainEnvironment());
+    program.showsUntil("Trend");
+    EXPECT_FALSE(program.echoes());
+    program.type("\x03");
+    const auto result = program.end();
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_THAT(result.output, EndsWith(leaveScreen));
+}
+
+TEST_F(QuelbyctlWatch, GivesTheTerminalBackHoweverItIsAskedToEnd) {
+    for (const int number : {SIGTERM, SIGHUP, SIGQUIT}) {
+        TerminalProgram program(watching(), 80, 40, plainEnvironment());
+        program.showsUntil("Trend");
+        program.signal(number);
+        const auto result = program.end();
+        EXPECT_EQ(result.exitStatus, 0);
+        EXPECT_THAT(result.output, EndsWith(leaveScreen));
+    }
+}
+
+TEST_F(QuelbyctlWatch, FollowsTheTerminalsSize) {
+    auto environment = plainEnvironment();
+    environment["NO_COLOR"] = "1";
+    TerminalProgram program(watching(), 80, 40, environment);
+    program.showsUntil(" Quelby" + std::string(64, ' ') + "22:13:20");
+    program.showsUntil("Trend");
+    program.resize(30, 5);
+    program.showsUntil(" Quelby" + std::string(14, ' ') + "22:13:20");
+    program.signal(SIGTERM);
+    EXPECT_THAT(program.end().output, Not(HasSubstr("Trend"))); // five lines have no room for it
+}
+
+TEST_F(QuelbyctlWatch, GivesTheTerminalBackWhileItIsStopped) {
+    TerminalProgram program(watching(), 80, 40, plainEnvironment());
+    program.showsUntil("Trend");
+    program.signal(SIGTSTP);
+    program.showsUntil(leaveScreen);
+    program.signal(SIGCONT);
+    const auto again = program.showsUntil("Trend");
+    EXPECT_THAT(again, HasSubstr(enterScreen));
+    EXPECT_FALSE(program.echoes());
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.end().exitStatus, 0);
+}
+
+TEST_F(QuelbyctlWatch, UsesNoColoursWhereNobodyWantsThem) {
+    auto environment = plainEnvironment();
+    TerminalProgram coloured(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
+    EXPECT_THAT(coloured.end().output, HasSubstr("\x1b[36m"));
+    environment["NO_COLOR"] = "1";
+    TerminalProgram plain(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
+    EXPECT_THAT(plain.end().output, Not(HasSubstr("\x1b[36m")));
+}
+
+TEST_F(QuelbyctlWatch, PrintsLinesInATerminalThatCannotRedraw) {
+    auto environment = plainEnvironment();
+    environment["TERM"] = "dumb";
+    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
+    const auto result = program.end();
+    EXPECT_THAT(result.output, StartsWith("22:13:20  80 %"));
+    EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
+}
+
+} // namespace
+} // namespace quelby
