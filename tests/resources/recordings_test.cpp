@@ -1,0 +1,87 @@
+// The recorded machines that come with the program show what their names say.
+
+#include <gtest/gtest.h>
+
+#include "monitor/power_monitor.h"
+#include "platform/replay/replayed_machine.h"
+#include "support/fake_platform.h"
+
+namespace quelby {
+namespace {
+
+class Recordings : public testing::Test {
+protected:
+    // Calls look(monitor) after each cycle; gives the number of cycles.
+    template <typename Look>
+    int play(const std::string& name, Look look) {
+        auto opened = ReplayedMachine::open(QUELBY_SOURCE_DIR "/resources/recordings/" + name + ".jsonl");
+        EXPECT_TRUE(opened) << opened.error().sentence;
+        auto& machine = *opened;
+        fake::Loop loop;
+        fake::Choices preferences;
+        const auto monitor = PowerMonitor::create({machine, machine, machine, loop, preferences, machine});
+        int cycles = 0;
+        monitor->onUpdate = [&] {
+            ++cycles;
+            look(*monitor);
+        };
+        monitor->startMonitoring();
+        while (!machine.isAtLastLine()) {
+            loop.fireTimers();
+        }
+        return cycles;
+    }
+
+    static constexpr int fourMinutes = 80; // cycles
+};
+
+TEST_F(Recordings, ALaptopOnBatteryDischargesUnderChangingLoad) {
+    double least = 1000;
+    double most = 0;
+    Int first = 0;
+    Int last = 0;
+    const int cycles = play("laptop-on-battery", [&](const PowerMonitor& monitor) {
+        EXPECT_FALSE(monitor.isPluggedIn);
+        EXPECT_EQ(monitor.totalPower, monitor.realWatts); // measured
+        EXPECT_EQ(monitor.topProcesses.get().size(), 5U);
+        least = std::min(least, monitor.totalPower.get());
+        most = std::max(most, monitor.totalPower.get());
+        first = first == 0 ? monitor.batteryPercent.get() : first;
+        last = monitor.batteryPercent;
+    });
+    EXPECT_GE(cycles, fourMinutes);
+    EXPECT_GT(most, 2 * least);
+    EXPECT_LT(last, first);
+}
+
+TEST_F(Recordings, AChargingLaptopBecomesFull) {
+    bool charged = false;
+    const int cycles = play("laptop-charging-to-full", [&](const PowerMonitor& monitor) {
+        EXPECT_TRUE(monitor.isPluggedIn);
+        EXPECT_NE(monitor.isCharging, monitor.fullyCharged);
+        EXPECT_FALSE(charged && monitor.isCharging);
+        charged = monitor.fullyCharged;
+    });
+    EXPECT_GE(cycles, fourMinutes);
+    EXPECT_TRUE(charged);
+}
+
+TEST_F(Recordings, AHeldLaptopStaysAtItsLimit) {
+    const int cycles = play("laptop-held-at-limit", [&](const PowerMonitor& monitor) {
+        EXPECT_TRUE(monitor.isPluggedIn);
+        EXPECT_FALSE(monitor.isCharging);
+        EXPECT_EQ(monitor.batteryPercent, 80);
+    });
+    EXPECT_GE(cycles, fourMinutes);
+}
+
+TEST_F(Recordings, ADesktopHasNoBattery) {
+    const int cycles = play("desktop-without-battery", [&](const PowerMonitor& monitor) {
+        EXPECT_FALSE(monitor.hasBattery);
+        EXPECT_GT(monitor.totalPower, 10);
+    });
+    EXPECT_GE(cycles, fourMinutes);
+}
+
+} // namespace
+} // namespace quelby
