@@ -1,6 +1,5 @@
 #include "cli/command_line.h"
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "base/number_text.h"
@@ -9,7 +8,6 @@ namespace quelby::cli {
 
 namespace {
 
-constexpr int wrongUsage = 2;
 constexpr double shortestInterval = 0.01;     // seconds
 constexpr double longestInterval = 1'000'000; // eleven days; a timer counts milliseconds in 32 bits
 
@@ -31,6 +29,14 @@ std::chrono::duration<double> parseInterval(const std::string& text) {
     return std::chrono::duration<double>(*seconds);
 }
 
+TimeRange parseRange(const std::string& text) {
+    const auto range = timeRange(text);
+    if (!range) {
+        throw CLI::ValidationError(fmt::format("--range takes 30m, 1h, 24h or 7d, not \"{}\"", text));
+    }
+    return *range;
+}
+
 // Numbers are parsed here and not by the option library, which would follow the locale.
 void addRepetition(CLI::App& command, Repetition& repetition) {
     command
@@ -45,22 +51,10 @@ void addRepetition(CLI::App& command, Repetition& repetition) {
         ->type_name("SECONDS");
 }
 
-void addJsonFlag(CLI::App& command, OutputForm& form, const char* help) {
-    command.add_flag_callback(
-        "--json", [&] { form = OutputForm::json; }, help);
-}
-
-void addPath(CLI::App& app, const char* name, const char* type, std::optional<std::filesystem::path>& path,
-             const char* help) {
-    app.add_option_function<std::string>(
-           name, [&](const std::string& text) { path = text; }, help)
-        ->type_name(type);
-}
-
-void addRoot(CLI::App& app, const char* name, std::filesystem::path& root, const char* help) {
-    app.add_option_function<std::string>(
-           name, [&](const std::string& text) { root = text; }, help)
-        ->type_name("DIR");
+CLI::Option* addForm(CLI::App& command, const char* name, OutputForm form, OutputForm& chosen,
+                     const char* help) {
+    return command.add_flag_callback(
+        name, [&chosen, form] { chosen = form; }, help);
 }
 
 // The command line as it is being read.
@@ -71,44 +65,32 @@ struct Reading {
     StatusCommand status;
     WatchCommand watch;
     RecordCommand record;
+    HistoryCommand history;
 
     Reading() {
-        app.set_version_flag("--version", "quelbyctl " QUELBY_VERSION, "Print the version and exit");
-        app.set_help_flag("--help,-h", "Print this help and exit");
+        addCommonOptions(app, request.arguments);
         app.require_subcommand(1);
         app.footer(
             "The options of quelbyctl itself (see quelbyctl --help) may stand before and behind a command.");
-        app.fallthrough(); // so that the common options may also stand behind the command
-        addMachineOptions();
+        app.fallthrough();
         addStatus();
         addWatch();
         addRecord();
-    }
-
-    void addMachineOptions() {
-        auto& machine = request.machine;
-        addPath(app, "--replay", "FILE", machine.replay, "A recorded machine takes the place of this one");
-        app.add_flag_callback(
-            "--fast", [this] { request.pace = Pace::withoutWaiting; },
-            "With --replay: play the recording without waiting");
-        addPath(app, "--data-dir", "DIR", machine.dataDir, "Takes the place of the folder with the history");
-        addPath(app, "--config-dir", "DIR", machine.configDir, "Takes the place of the helper's folder");
-        addPath(app, "--preferences", "FILE", machine.preferences, "Takes the place of the preference store");
-        addRoot(app, "--sysfs-root", machine.roots.sysfs, "Takes the place of /sys");
-        addRoot(app, "--proc-root", machine.roots.proc, "Takes the place of /proc");
+        addHistory();
     }
 
     void addStatus() {
         auto* const command = app.add_subcommand(
             "status", "All figures after one cycle; with --replay, after the last line of the recording");
-        addJsonFlag(*command, status.form, "As one JSON object");
+        addForm(*command, "--json", OutputForm::json, status.form, "As one JSON object");
         command->final_callback([this] { request.command = status; });
     }
 
     void addWatch() {
         auto* const command = app.add_subcommand(
             "watch", "All figures, renewed in place in a terminal; elsewhere a line for each cycle");
-        addJsonFlag(*command, watch.form, "One JSON object for each cycle, on a line of its own");
+        addForm(*command, "--json", OutputForm::json, watch.form,
+                "One JSON object for each cycle, a line each");
         addRepetition(*command, watch.repetition);
         command->final_callback([this] { request.command = watch; });
     }
@@ -126,10 +108,17 @@ struct Reading {
         command->final_callback([this] { request.command = record; });
     }
 
-    void requireReplayForPace() const {
-        if (request.pace == Pace::withoutWaiting && !request.machine.replay) {
-            throw CLI::ValidationError("--fast needs --replay");
-        }
+    void addHistory() {
+        auto* const command =
+            app.add_subcommand("history", "The stored power curve with its statistics, and today's energy");
+        command
+            ->add_option_function<std::string>(
+                "--range", [this](const std::string& text) { history.range = parseRange(text); },
+                "30m, 1h, 24h or 7d; 30m unless named")
+            ->type_name("RANGE");
+        auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
+        addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);
+        command->final_callback([this] { request.command = history; });
     }
 };
 
@@ -137,17 +126,10 @@ struct Reading {
 
 std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv) {
     Reading reading;
-    try {
-        reading.app.parse(argc, argv);
-        reading.requireReplayForPace();
-        return reading.request;
-    } catch (const CLI::CallForHelp&) {
-        return Answer{0, reading.app.help()}; // or that of the command, if one was named
-    } catch (const CLI::CallForVersion& version) {
-        return Answer{0, std::string(version.what()) + '\n'};
-    } catch (const CLI::ParseError& error) {
-        return Answer{wrongUsage, fmt::format("quelbyctl: {} (quelbyctl --help tells more)\n", error.what())};
+    if (auto answer = parseArguments(reading.app, reading.request.arguments, argc, argv)) {
+        return *std::move(answer);
     }
+    return reading.request;
 }
 
 } // namespace quelby::cli

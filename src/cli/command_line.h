@@ -5,16 +5,14 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <variant>
 
-#include "platform/host/machine.h"
+#include "console/machine_arguments.h"
+#include "history/time_range.h"
 
 namespace quelby::cli {
 
-enum class OutputForm { text, json };
-
-enum class Pace { asAsked, withoutWaiting };
+enum class OutputForm { text, json, csv };
 
 struct StatusCommand {
     OutputForm form = OutputForm::text;
@@ -35,18 +33,16 @@ struct RecordCommand {
     Repetition repetition;
 };
 
-using Command = std::variant<StatusCommand, WatchCommand, RecordCommand>;
-
-struct Request {
-    MachineOptions machine;
-    Pace pace = Pace::asAsked; // of a recording
-    Command command;
+struct HistoryCommand {
+    TimeRange range = TimeRange::thirtyMinutes;
+    OutputForm form = OutputForm::text;
 };
 
-// The command line asked for a text (help, version), or it is wrong.
-struct Answer {
-    int exitStatus = 0;
-    std::string text; // for standard output where the exit status is 0, for standard error otherwise
+using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand>;
+
+struct Request {
+    MachineArguments arguments;
+    Command command;
 };
 
 [[nodiscard]] std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv);

@@ -1,6 +1,6 @@
 #include "cli/record_command.h"
 
-#include "cli/cycles.h"
+#include "cli/cycle_run.h"
 #include "platform/replay/machine_recorder.h"
 #include "platform/replay/recording_writer.h"
 
@@ -13,8 +13,9 @@ Result<void> runRecord(Machine& machine, const RecordCommand& command, Pace pace
         return tl::make_unexpected(writer.error());
     }
     MachineRecorder recorder(machine.platform());
-    return runCycles(machine, recorder.platform(), paced(command.repetition, pace),
-                     [&](const PowerMonitor&) { return writer->append(recorder.takeCycle()); });
+    auto run = cycleRun(command.repetition, pace);
+    run.afterCycle = [&](const PowerMonitor&) { return writer->append(recorder.takeCycle()); };
+    return runCycles(machine, recorder.platform(), run);
 }
 
 } // namespace quelby::cli

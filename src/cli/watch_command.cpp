@@ -2,12 +2,12 @@
 
 #include <csignal>
 
-#include "cli/cycle_line.h"
-#include "cli/cycles.h"
+#include "cli/cycle_run.h"
 #include "cli/fields_json.h"
-#include "cli/signals.h"
-#include "cli/standard_output.h"
 #include "cli/terminal/terminal_screen.h"
+#include "console/cycle_line.h"
+#include "console/signals.h"
+#include "console/standard_output.h"
 
 namespace quelby::cli {
 
@@ -17,12 +17,13 @@ class TerminalWatch {
 public:
     explicit TerminalWatch(Machine& machine) : machine_(machine), platform_(machine.platform()) {}
 
-    [[nodiscard]] Result<void> run(const Repetition& repetition) {
+    [[nodiscard]] Result<void> run(CycleRun run) {
         const SignalListener listener({SIGWINCH, SIGTSTP}, [this](int signal) { listen(signal); });
-        return runCycles(machine_, platform_, repetition, [this](const PowerMonitor& monitor) {
+        run.afterCycle = [this](const PowerMonitor& monitor) {
             shown_ = &monitor;
             return draw();
-        });
+        };
+        return runCycles(machine_, platform_, run);
     }
 
 private:
@@ -48,22 +49,23 @@ private:
     const PowerMonitor* shown_ = nullptr; // the run's; none before its first cycle
 };
 
-Result<void> watchLineByLine(Machine& machine, const Repetition& repetition, OutputForm form) {
+Result<void> watchLineByLine(Machine& machine, CycleRun run, OutputForm form) {
     const auto platform = machine.platform();
-    return runCycles(machine, platform, repetition, [&](const PowerMonitor& monitor) {
+    run.afterCycle = [&](const PowerMonitor& monitor) {
         return writeToStandardOutput(form == OutputForm::json ? fieldsAsJson(monitor) + '\n'
                                                               : cycleLine(monitor, platform.clock.now()));
-    });
+    };
+    return runCycles(machine, platform, run);
 }
 
 } // namespace
 
 Result<void> runWatch(Machine& machine, const WatchCommand& command, Pace pace) {
-    const auto repetition = paced(command.repetition, pace);
+    const auto run = cycleRun(command.repetition, pace);
     if (command.form == OutputForm::text && canDrawInPlace()) {
-        return TerminalWatch(machine).run(repetition);
+        return TerminalWatch(machine).run(run);
     }
-    return watchLineByLine(machine, repetition, command.form);
+    return watchLineByLine(machine, run, command.form);
 }
 
 } // namespace quelby::cli

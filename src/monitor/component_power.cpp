@@ -23,7 +23,7 @@ double gpuWeight(double load) {
 }
 
 void splitMeasuredPower(PublishedFields& fields) {
-    fields.totalPower = fields.realWatts;
+    fields.totalPower = fields.realWatts.get();
     const double total = fields.totalPower;
     const double cpu = cpuWeight(fields.cpuUsage);
     const double gpu = gpuWeight(fields.cpuUsage);

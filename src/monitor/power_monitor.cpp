@@ -7,16 +7,18 @@
 
 namespace quelby {
 
-std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, Interval interval) {
-    return std::make_shared<PowerMonitor>(Private{}, platform, interval);
+std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, const MonitorOptions& options) {
+    return std::make_shared<PowerMonitor>(Private{}, platform, options);
 }
 
-PowerMonitor::PowerMonitor(Private, const Platform& platform, Interval interval)
-    : platform_(platform), interval_(interval) {}
+PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptions& options)
+    : platform_(platform), options_(options) {}
 
 void PowerMonitor::startMonitoring() {
     restorePreferences();
+    openHistory();
     collectAllData();
+    loadHistory();
     scheduleCycles();
 }
 
@@ -34,8 +36,32 @@ void PowerMonitor::restorePreferences() {
     launchAtLogin = platform_.preferences.flag("launchAtLogin");
 }
 
+void PowerMonitor::openHistory() {
+    historyStore_.reset(); // before its successor opens the same file
+    if (options_.history) {
+        historyStore_.emplace(platform_.folders.applicationSupport(), platform_.clock, *options_.history);
+    }
+}
+
+void PowerMonitor::loadHistory() {
+    if (!historyStore_) {
+        return;
+    }
+    auto result = historyStore_->loadData(historyRange);
+    historyData = std::move(result.points);
+    historyAvg = result.avg;
+    historyMin = result.min;
+    historyMax = result.max;
+    todayWh = historyStore_->todayWh();
+}
+
+void PowerMonitor::selectHistoryRange(TimeRange range) {
+    historyRange = range;
+    loadHistory();
+}
+
 void PowerMonitor::scheduleCycles() {
-    dataTimer_ = platform_.runLoop.repeat(interval_, [weak = weak_from_this()] {
+    dataTimer_ = platform_.runLoop.repeat(options_.interval, [weak = weak_from_this()] {
         if (const auto monitor = weak.lock()) {
             monitor->collectAllData();
         }
@@ -50,6 +76,7 @@ void PowerMonitor::collectAllData() {
     readTopProcesses();
     sampleBattery();
     predictBattery();
+    recordReading();
     if (onUpdate) {
         onUpdate();
     }
@@ -89,6 +116,12 @@ void PowerMonitor::sampleBattery() {
 
 void PowerMonitor::predictBattery() {
     quelby::predictBattery(batteryRecord_, *this);
+}
+
+void PowerMonitor::recordReading() {
+    if (historyStore_) {
+        historyStore_->addReading(totalPower, batteryPercent, isCharging, cpuUsage);
+    }
 }
 
 } // namespace quelby

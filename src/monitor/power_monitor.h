@@ -9,11 +9,17 @@
 #include <functional>
 #include <memory>
 
+#include "history/history_store.h"
 #include "monitor/battery_prediction.h"
 #include "monitor/published_fields.h"
 #include "platform/platform.h"
 
 namespace quelby {
+
+struct MonitorOptions {
+    std::chrono::duration<double> interval = std::chrono::seconds(3); // from one cycle to the next
+    std::optional<HistoryAccess> history; // none: no history. Two recorders would count energy twice.
+};
 
 class PowerMonitor : public PublishedFields, public std::enable_shared_from_this<PowerMonitor> {
     struct Private {
@@ -21,29 +27,31 @@ class PowerMonitor : public PublishedFields, public std::enable_shared_from_this
     };
 
 public:
-    using Interval = std::chrono::duration<double>;
-    static constexpr Interval cycleInterval = std::chrono::seconds(3);
-
     // A monitor at rest, every field at its default; asks the platform for nothing yet. The platform's parts
     // outlive the monitor. Shared, because whoever shows the figures shares it, and because the timer holds
     // it weakly.
     [[nodiscard]] static std::shared_ptr<PowerMonitor> create(const Platform& platform,
-                                                              Interval interval = cycleInterval);
+                                                              const MonitorOptions& options = {});
 
-    PowerMonitor(Private, const Platform& platform, Interval interval);
+    PowerMonitor(Private, const Platform& platform, const MonitorOptions& options);
 
-    // Restores the preferences, runs one cycle at once, and then one each interval. Called again while it
-    // runs, it leaves two timers running.
+    // Restores the preferences, opens the history, runs one cycle at once, loads the history that is shown,
+    // and then runs a cycle each interval. Called again while it runs, it leaves two timers running.
     void startMonitoring();
 
     // No further cycles; the fields keep their values. Harmless when nothing runs.
     void stopMonitoring();
+
+    // Shows another range of the history, or the same one renewed, which the cycles never do.
+    void selectHistoryRange(TimeRange range);
 
     // Called at the end of every cycle.
     std::function<void()> onUpdate;
 
 private:
     void restorePreferences();
+    void openHistory();
+    void loadHistory();
     void scheduleCycles();
     void collectAllData();
     void readBatteryIOKit();
@@ -52,10 +60,12 @@ private:
     void readTopProcesses();
     void sampleBattery();
     void predictBattery();
+    void recordReading();
 
     Platform platform_;
-    Interval interval_;
+    MonitorOptions options_;
     std::shared_ptr<RepeatingTimer> dataTimer_;
+    std::optional<HistoryStore> historyStore_;
     BatteryRecord batteryRecord_;
 };
 

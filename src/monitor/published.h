@@ -45,11 +45,9 @@ public:
 
     explicit Published(T value) : value_(std::move(value)) {}
 
-    // Observers belong to this one object, so it stays where it is; from another one it takes the value.
+    // Observers belong to this one object, so it stays where it is.
     Published(const Published&) = delete;
-
-    Published& operator=(const Published& other) { return *this = T(other.value_); }
-
+    Published& operator=(const Published&) = delete;
     ~Published() = default;
 
     [[nodiscard]] const T& get() const { return value_; }

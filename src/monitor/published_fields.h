@@ -72,6 +72,7 @@ using Date = double; // seconds since 1970-01-01 00:00 UTC
     FIELD(bool, shouldShowChargingTip, false, "")
 
 struct PublishedFields {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a type and a name cannot stand in parentheses
 #define QUELBY_DECLARE_FIELD(type, name, value, unit) Published<type> name{type(value)};
     QUELBY_PUBLISHED_FIELDS(QUELBY_DECLARE_FIELD)
 #undef QUELBY_DECLARE_FIELD

@@ -4,6 +4,7 @@
 
 #include "platform/battery_source.h"
 #include "platform/clock.h"
+#include "platform/folders.h"
 #include "platform/preferences.h"
 #include "platform/process_lister.h"
 #include "platform/run_loop.h"
@@ -15,6 +16,7 @@ struct Platform {
     BatterySource& battery;
     ProcessLister& processes;
     Clock& clock;
+    Folders& folders;
     RunLoop& runLoop;
     Preferences& preferences;
     StorageDraw& storageDraw;

@@ -1,10 +1,11 @@
-// The readers of the system that this program was built for.
+// What the system that this program was built for brings with it.
 #pragma once
 
 #include <filesystem>
 #include <memory>
 
 #include "platform/battery_source.h"
+#include "platform/folders.h"
 #include "platform/process_lister.h"
 
 namespace quelby {
@@ -20,7 +21,8 @@ struct SystemReaders {
     std::unique_ptr<ProcessLister> processes;
 };
 
-// Never null. The build picks the system's own definition.
+// Never null. The build picks the system's own definitions.
 [[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
+[[nodiscard]] std::unique_ptr<Folders> makeSystemFolders();
 
 } // namespace quelby

@@ -23,11 +23,13 @@ const std::map<std::string, std::set<std::string>> floorsBelow{
     {"platform", {"base"}},
     {"history", {"base", "platform"}},
     {"monitor", {"base", "platform", "history"}},
-    {"cli", {"base", "platform", "history", "monitor"}},
+    {"console", {"base", "platform", "history", "monitor"}},
+    {"cli", {"base", "platform", "history", "monitor", "console"}},
+    {"app", {"base", "platform", "history", "monitor", "console"}},
 };
 
 // The only folders that may know of Qt.
-const std::vector<std::string> foldersWithQt{"cli", "platform/qt"};
+const std::vector<std::string> foldersWithQt{"console", "platform/qt"};
 
 std::vector<fs::path> sourceFiles() {
     std::vector<fs::path> files;

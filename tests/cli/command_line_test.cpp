@@ -52,22 +52,22 @@ TEST(CommandLine, TakesTheCommonOptionsBeforeAndBehindTheCommand) {
           std::vector{"watch", "--replay", "r", "--fast", "--sysfs-root", "s", "--proc-root", "p",
                       "--preferences", "f", "--data-dir", "d", "--config-dir", "c"}}) {
         const auto asked = request(words);
-        EXPECT_EQ(asked.machine.replay, "r");
-        EXPECT_EQ(asked.machine.roots.sysfs, "s");
-        EXPECT_EQ(asked.machine.roots.proc, "p");
-        EXPECT_EQ(asked.machine.preferences, "f");
-        EXPECT_EQ(asked.machine.dataDir, "d");
-        EXPECT_EQ(asked.machine.configDir, "c");
-        EXPECT_EQ(asked.pace, Pace::withoutWaiting);
+        EXPECT_EQ(asked.arguments.machine.replay, "r");
+        EXPECT_EQ(asked.arguments.machine.roots.sysfs, "s");
+        EXPECT_EQ(asked.arguments.machine.roots.proc, "p");
+        EXPECT_EQ(asked.arguments.machine.preferences, "f");
+        EXPECT_EQ(asked.arguments.machine.dataDir, "d");
+        EXPECT_EQ(asked.arguments.machine.configDir, "c");
+        EXPECT_EQ(asked.arguments.pace, Pace::withoutWaiting);
     }
 }
 
 TEST(CommandLine, LooksAtThisComputerUnlessToldOtherwise) {
     const auto asked = request({"status"});
-    EXPECT_EQ(asked.machine.replay, std::nullopt);
-    EXPECT_EQ(asked.machine.roots.sysfs, "/sys");
-    EXPECT_EQ(asked.machine.roots.proc, "/proc");
-    EXPECT_EQ(asked.pace, Pace::asAsked);
+    EXPECT_EQ(asked.arguments.machine.replay, std::nullopt);
+    EXPECT_EQ(asked.arguments.machine.roots.sysfs, "/sys");
+    EXPECT_EQ(asked.arguments.machine.roots.proc, "/proc");
+    EXPECT_EQ(asked.arguments.pace, Pace::asAsked);
 }
 
 TEST(CommandLine, RefusesWrongUsageWithOneSentence) {

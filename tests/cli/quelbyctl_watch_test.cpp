@@ -114,6 +114,7 @@ TEST_F(QuelbyctlWatch, GivesTheTerminalBackWhileItIsStopped) {
     program.showsUntil("Trend");
     program.signal(SIGTSTP);
     program.showsUntil(leaveScreen);
+    program.waitUntilStopped();
     program.signal(SIGCONT);
     const auto again = program.showsUntil("Trend");
     EXPECT_THAT(again, HasSubstr(enterScreen));

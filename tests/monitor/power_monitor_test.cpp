@@ -32,7 +32,8 @@ TEST_F(PowerMonitorTest, RunsACycleAtOnceAndThenEveryThreeSeconds) {
 }
 
 TEST_F(PowerMonitorTest, FollowsAnotherIntervalWhereOneIsAskedFor) {
-    const auto quick = PowerMonitor::create(computer.platform(), std::chrono::milliseconds(500));
+    const auto quick =
+        PowerMonitor::create(computer.platform(), {.interval = std::chrono::milliseconds(500)});
     quick->startMonitoring();
     EXPECT_THAT(computer.runLoop.intervals(), ElementsAre(0.5));
 }

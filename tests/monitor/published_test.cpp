@@ -28,16 +28,6 @@ TEST(Published, TellsAlsoOfAnEqualValue) {
     EXPECT_EQ(calls, 1);
 }
 
-TEST(Published, TakesTheValueOfAnotherFieldAndTells) {
-    Published<int> source(7);
-    Published<int> field(1);
-    int told = 0;
-    const auto subscription = field.observe([&](int coming) { told = coming; });
-    field = source;
-    EXPECT_EQ(field, 7);
-    EXPECT_EQ(told, 7);
-}
-
 TEST(Published, CallsObserversInTheOrderOfTheirSubscription) {
     Published<int> field(0);
     std::string order;

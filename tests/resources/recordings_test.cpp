@@ -17,9 +17,11 @@ protected:
         auto opened = ReplayedMachine::open(QUELBY_SOURCE_DIR "/resources/recordings/" + name + ".jsonl");
         EXPECT_TRUE(opened) << opened.error().sentence;
         auto& machine = *opened;
+        fake::NamedFolders folders;
         fake::Loop loop;
         fake::Choices preferences;
-        const auto monitor = PowerMonitor::create({machine, machine, machine, loop, preferences, machine});
+        const auto monitor =
+            PowerMonitor::create({machine, machine, machine, folders, loop, preferences, machine});
         int cycles = 0;
         monitor->onUpdate = [&] {
             ++cycles;

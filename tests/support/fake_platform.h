@@ -40,6 +40,13 @@ struct WallClock final : Clock {
     double startOfDay() override { return time - 3600; }
 };
 
+// Nobody's folder, so that a test which means to keep something says where.
+struct NamedFolders final : Folders {
+    std::filesystem::path support = "/proc/nowhere";
+
+    std::filesystem::path applicationSupport() override { return support; }
+};
+
 // Timers fire when the test says so.
 class Loop final : public RunLoop {
 public:
@@ -121,12 +128,13 @@ struct Computer {
     Battery battery;
     Processes processes;
     WallClock clock;
+    NamedFolders folders;
     Loop runLoop;
     Choices preferences;
     Draw storageDraw;
 
     [[nodiscard]] Platform platform() {
-        return {battery, processes, clock, runLoop, preferences, storageDraw};
+        return {battery, processes, clock, folders, runLoop, preferences, storageDraw};
     }
 };
 

@@ -147,6 +147,12 @@ void TerminalProgram::signal(int number) const {
     ::kill(process_, number);
 }
 
+void TerminalProgram::waitUntilStopped() const {
+    int status = 0;
+    EXPECT_EQ(::waitpid(process_, &status, WUNTRACED), process_);
+    EXPECT_TRUE(WIFSTOPPED(status));
+}
+
 bool TerminalProgram::echoes() const {
     termios settings{};
     return ::tcgetattr(terminal_.number(), &settings) == 0 && (settings.c_lflag & ECHO) != 0;

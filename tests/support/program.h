@@ -40,6 +40,9 @@ public:
     void resize(int columns, int rows) const;
     void signal(int number) const;
 
+    // Returns when the program has been stopped, as by SIGSTOP.
+    void waitUntilStopped() const;
+
     // Whether what is typed is shown, as in a terminal that nobody has changed.
     [[nodiscard]] bool echoes() const;
 

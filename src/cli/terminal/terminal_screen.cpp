@@ -1,12 +1,13 @@
 #include "cli/terminal/terminal_screen.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
 
-#include "cli/standard_output.h"
+#include "console/standard_output.h"
 
 namespace quelby::cli {
 
@@ -24,7 +25,19 @@ std::string_view environment(const char* name) {
     return value == nullptr ? "" : value;
 }
 
+TerminalSize terminalSize() {
+    winsize size{};
+    if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0 || size.ws_row == 0) {
+        return {};
+    }
+    return {size.ws_col, size.ws_row};
+}
+
 } // namespace
+
+int curveWidth() {
+    return std::clamp(terminalSize().columns, 20, 120);
+}
 
 bool canDrawInPlace() {
     return ::isatty(STDOUT_FILENO) == 1 && environment("TERM") != "dumb";
@@ -70,11 +83,7 @@ void TerminalScreen::leave() {
 }
 
 TerminalSize TerminalScreen::size() const {
-    winsize size{};
-    if (::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) != 0 || size.ws_col == 0 || size.ws_row == 0) {
-        return {};
-    }
-    return {size.ws_col, size.ws_row};
+    return terminalSize();
 }
 
 Result<void> TerminalScreen::show(const std::vector<std::string>& lines) {

@@ -17,6 +17,9 @@ namespace quelby::cli {
 // On a terminal, unless NO_COLOR asks for none (https://no-color.org).
 [[nodiscard]] Colours terminalColours();
 
+// How wide a curve may be: as the terminal is, within reason, and 80 columns elsewhere.
+[[nodiscard]] int curveWidth();
+
 // The terminal's second screen, with the cursor hidden and typing not shown. What was on the terminal comes
 // back with the end of this object.
 class TerminalScreen {

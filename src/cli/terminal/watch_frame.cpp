@@ -7,8 +7,8 @@
 #include <fmt/format.h>
 
 #include "base/utf8.h"
-#include "cli/cycle_line.h"
 #include "cli/terminal/display_width.h"
+#include "console/cycle_line.h"
 
 namespace quelby::cli {
 

@@ -7,15 +7,17 @@
 
 #include "base/problem.h"
 #include "platform/platform.h"
+#include "platform/replay/replayed_machine.h"
 #include "platform/system_readers.h"
 
 namespace quelby {
 
 struct MachineOptions {
-    std::optional<std::filesystem::path> replay;      // a recording instead of this computer
-    std::optional<std::filesystem::path> dataDir;     // instead of the user's application-support folder
-    std::optional<std::filesystem::path> configDir;   // instead of the helper's folder
-    std::optional<std::filesystem::path> preferences; // instead of the user's preference store
+    std::optional<std::filesystem::path> replay;       // a recording instead of this computer
+    AfterLastLine afterLastLine = AfterLastLine::stay; // of the recording
+    std::optional<std::filesystem::path> dataDir;      // instead of the user's application-support folder
+    std::optional<std::filesystem::path> configDir;    // instead of the helper's folder
+    std::optional<std::filesystem::path> preferences;  // instead of the user's preference store
     SystemRoots roots;
 };
 
@@ -35,7 +37,7 @@ public:
     [[nodiscard]] virtual bool hasEnded() const = 0;
 
     // The problem names the recording and says what is wrong with it. With a recording, the preferences are
-    // empty unless a file is named.
+    // empty and the folders temporary, unless they are named.
     [[nodiscard]] static Result<std::unique_ptr<Machine>> make(const MachineOptions& options);
 };
 

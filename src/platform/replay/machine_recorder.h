@@ -13,7 +13,7 @@ public:
     explicit MachineRecorder(const Platform& real) : real_(real) {}
 
     [[nodiscard]] Platform platform() {
-        return {*this, *this, *this, real_.runLoop, real_.preferences, *this};
+        return {*this, *this, *this, real_.folders, real_.runLoop, real_.preferences, *this};
     }
 
     // The answers since the last call: those of one cycle, if called at the end of each.

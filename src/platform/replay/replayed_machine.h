@@ -10,15 +10,19 @@
 
 namespace quelby {
 
+// What follows the last line: nothing more, or the first one again, the clock running on.
+enum class AfterLastLine { stay, startAgain };
+
 // It answers everything from one line of the recording, and its clock stands still at that line's time.
 // Reading the battery is how a cycle begins, so that is what goes on to the next line: the first reading
-// belongs to the first line. After the last line it stays there.
+// belongs to the first line.
 class ReplayedMachine final : public BatterySource, public ProcessLister, public Clock, public StorageDraw {
 public:
-    [[nodiscard]] static Result<ReplayedMachine> open(const std::filesystem::path& recording);
+    [[nodiscard]] static Result<ReplayedMachine> open(const std::filesystem::path& recording,
+                                                      AfterLastLine afterLastLine = AfterLastLine::stay);
 
-    // The cycle of the last line is under way or done.
-    [[nodiscard]] bool isAtLastLine() const { return started_ && !next_; }
+    // The cycle of the last line is under way or done; never where it starts again.
+    [[nodiscard]] bool isAtLastLine() const;
 
     [[nodiscard]] BatteryReading readBattery() override;
 
@@ -28,7 +32,7 @@ public:
 
     [[nodiscard]] std::int64_t logicalProcessors() override { return present_.processors; }
 
-    [[nodiscard]] double now() override { return present_.time; }
+    [[nodiscard]] double now() override { return present_.time + clockAdvance_; }
 
     [[nodiscard]] double startOfDay() override;
 
@@ -36,12 +40,18 @@ public:
     [[nodiscard]] int draw() override;
 
 private:
-    ReplayedMachine(RecordingReader reader, RecordedCycle first);
+    ReplayedMachine(RecordingReader reader, RecordedCycle first, AfterLastLine afterLastLine);
+
+    void goOn();
 
     RecordingReader reader_;
+    AfterLastLine afterLastLine_;
+    double firstTime_;
     RecordedCycle present_;
     std::optional<RecordedCycle> next_;
     bool started_ = false;
+    double clockAdvance_ = 0; // seconds that the clock is ahead of the lines' times
+    double lastStep_ = 3;     // seconds between the last two lines
     RandomStorageDraw unrecordedDraws_{1};
 };
 

@@ -100,9 +100,11 @@ TEST(MachineRecorder, MakesARecordingThatGivesTheSameFields) {
     const TemporaryFolder folder;
     auto machine = ReplayedMachine::open(folder.write("it.jsonl", recording));
     ASSERT_TRUE(machine);
+    fake::NamedFolders folders;
     fake::Loop loop;
     fake::Choices preferences;
-    const auto replayed = PowerMonitor::create({*machine, *machine, *machine, loop, preferences, *machine});
+    const auto replayed =
+        PowerMonitor::create({*machine, *machine, *machine, folders, loop, preferences, *machine});
     replayed->startMonitoring();
     for (const auto& values : expected) {
         ASSERT_EQ(valuesOf(*replayed), values);

@@ -1,4 +1,4 @@
-#include "cli/cycle_line.h"
+#include "console/cycle_line.h"
 
 #include <ctime>
 
@@ -7,7 +7,7 @@
 #include "base/arithmetic.h"
 #include "base/utf8.h"
 
-namespace quelby::cli {
+namespace quelby {
 
 namespace {
 
@@ -55,4 +55,4 @@ std::string cycleLine(const PublishedFields& fields, Date time) {
                        fields.totalPower.get(), fields.cpuUsage.get(), busiestText(fields));
 }
 
-} // namespace quelby::cli
+} // namespace quelby

@@ -4,7 +4,7 @@
 
 #include "base/problem.h"
 
-namespace quelby::cli {
+namespace quelby {
 
 // At once and whole, so that what reads from a pipe sees each cycle when it happens.
 [[nodiscard]] Result<void> writeToStandardOutput(std::string_view text);
@@ -12,4 +12,4 @@ namespace quelby::cli {
 // Nothing can be said about a failure here.
 void writeToStandardError(std::string_view text);
 
-} // namespace quelby::cli
+} // namespace quelby

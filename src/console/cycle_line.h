@@ -4,7 +4,7 @@
 
 #include "monitor/published_fields.h"
 
-namespace quelby::cli {
+namespace quelby {
 
 // One cycle on one line, for logs and pipes, with its newline: the local time of day, the battery, the power,
 // the load and the busiest process.
@@ -16,4 +16,4 @@ namespace quelby::cli {
 // The local time of day, "14:03:27".
 [[nodiscard]] std::string timeOfDay(Date time);
 
-} // namespace quelby::cli
+} // namespace quelby

@@ -1,4 +1,4 @@
-#include "cli/signals.h"
+#include "console/signals.h"
 
 #include <array>
 #include <cerrno>
@@ -8,7 +8,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace quelby::cli {
+namespace quelby {
 
 namespace {
 
@@ -83,4 +83,4 @@ void SignalListener::deliver() {
     }
 }
 
-} // namespace quelby::cli
+} // namespace quelby

@@ -1,6 +1,7 @@
-// What listing the processes costs in one cycle of the monitor, beside a bare scan that opens, reads and
-// closes every /proc/PID/stat and makes nothing of it. The two are measured in turn, so that whatever else
-// the computer does falls on both; CPU time of this program, medians.
+// What one whole cycle of the monitor costs on this computer (battery, both listings, all calculations),
+// beside a bare scan that opens, reads and closes every /proc/PID/stat and makes nothing of it, and beside
+// one refresh of `top -b`. Scan and cycle are measured in turn, so that whatever else the computer does falls
+// on both; CPU time, medians.
 #include <algorithm>
 #include <array>
 #include <cctype>
@@ -16,10 +17,15 @@
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/prctl.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/linux/processes/proc_process_lister.h"
+#include "monitor/power_monitor.h"
+#include "platform/posix/file_descriptor.h"
+#include "platform/posix/system_clock.h"
+#include "platform/system_readers.h"
+#include "support/fake_platform.h"
 
 namespace {
 
@@ -90,11 +96,30 @@ std::size_t bareScan() {
     return bytes;
 }
 
-std::size_t cycle(quelby::ProcessLister& lister) {
-    const auto cpu = lister.cpuListing();
-    const auto top = lister.topListing();
-    return cpu && top ? cpu->size() + top->size() : 0;
-}
+// A monitor on this computer, whose cycles come when they are asked for.
+class Cycles {
+public:
+    std::size_t run() {
+        if (started_) {
+            runLoop_.fireTimers();
+        } else {
+            monitor_->startMonitoring();
+            started_ = true;
+        }
+        return monitor_->topProcesses.get().size();
+    }
+
+private:
+    quelby::SystemReaders readers_ = quelby::makeSystemReaders({});
+    quelby::SystemClock clock_;
+    quelby::fake::NamedFolders folders_;
+    quelby::fake::Loop runLoop_;
+    quelby::fake::Choices preferences_;
+    quelby::fake::Draw storageDraw_;
+    std::shared_ptr<quelby::PowerMonitor> monitor_ = quelby::PowerMonitor::create(
+        {*readers_.battery, *readers_.processes, clock_, folders_, runLoop_, preferences_, storageDraw_});
+    bool started_ = false;
+};
 
 double cpuMilliseconds() {
     struct timespec time = {};
@@ -118,21 +143,51 @@ double median(std::vector<double> values) {
     return *middle;
 }
 
+double childrenMilliseconds() {
+    rusage usage{};
+    ::getrusage(RUSAGE_CHILDREN, &usage);
+    const auto milliseconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) / 1e3;
+    };
+    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
+}
+
+double costOfTop(int refreshes) {
+    const double before = childrenMilliseconds();
+    const auto command = fmt::format("top -b -d 0.05 -n {} > /dev/null", refreshes);
+    if (std::system(command.c_str()) != 0) {
+        std::fputs("top cannot be run\n", stderr);
+        std::exit(EXIT_FAILURE);
+    }
+    return childrenMilliseconds() - before;
+}
+
+// Without what its start costs.
+double costOfOneTopRefresh() {
+    constexpr int refreshes = 20;
+    return (costOfTop(refreshes + 1) - costOfTop(1)) / refreshes;
+}
+
 void compare(std::size_t count, std::size_t wokenOneIn) {
     constexpr int pairs = 61;
+    const double top = [&] {
+        const Sleepers sleepers(count);
+        return costOfOneTopRefresh();
+    }();
     const Sleepers sleepers(count);
-    quelby::ProcProcessLister lister("/proc");
-    std::vector<double> bare;
-    std::vector<double> listed;
-    const double first = costOf([&] { return cycle(lister); });
+    Cycles cycles;
+    std::vector<double> scans;
+    std::vector<double> wholeCycles;
+    const double first = costOf([&] { return cycles.run(); });
     for (int i = 0; i < pairs; ++i) {
-        bare.push_back(costOf(bareScan));
+        scans.push_back(costOf(bareScan));
         sleepers.wakeOneIn(wokenOneIn);
-        listed.push_back(costOf([&] { return cycle(lister); }));
+        wholeCycles.push_back(costOf([&] { return cycles.run(); }));
     }
-    fmt::print("{:>9} {:>10} {:>12.3f} {:>12.3f} {:>12.3f} {:>7.2f}\n", count,
-               fmt::format("1 in {}", wokenOneIn), median(bare), median(listed), first,
-               median(listed) / median(bare));
+    const double scan = median(scans);
+    const double cycle = median(wholeCycles);
+    fmt::print("{:>9} {:>9} {:>11.2f} {:>11.2f} {:>11.2f} {:>11.2f} {:>9.2f} {:>9.2f}\n", count,
+               fmt::format("1 in {}", wokenOneIn), cycle, first, scan, top, cycle / scan, cycle / top);
 }
 
 void ignoreSignal(int) {}
@@ -141,8 +196,9 @@ void ignoreSignal(int) {}
 
 int main() {
     std::signal(SIGUSR1, ignoreSignal);
-    fmt::print("{:>9} {:>10} {:>12} {:>12} {:>12} {:>7}\n", "children", "woken", "bare scan ms",
-               "listings ms", "first ms", "ratio");
+    std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    fmt::print("{:>9} {:>9} {:>11} {:>11} {:>11} {:>11} {:>9} {:>9}\n", "processes", "woken", "cycle ms",
+               "first ms", "scan ms", "top -b ms", "to scan", "to top");
     for (const std::size_t count : {std::size_t{100}, std::size_t{500}, std::size_t{2000}}) {
         for (const std::size_t wokenOneIn : {count, std::size_t{5}, std::size_t{1}}) {
             compare(count, wokenOneIn);

@@ -1,4 +1,4 @@
-#include "cli/utf8_locale.h"
+#include "console/utf8_locale.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -6,7 +6,7 @@
 
 #include <langinfo.h>
 
-namespace quelby::cli {
+namespace quelby {
 
 void useUtf8Locale() {
     std::setlocale(LC_ALL, "");
@@ -16,4 +16,4 @@ void useUtf8Locale() {
     }
 }
 
-} // namespace quelby::cli
+} // namespace quelby

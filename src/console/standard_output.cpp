@@ -1,11 +1,11 @@
-#include "cli/standard_output.h"
+#include "console/standard_output.h"
 
 #include <cerrno>
 #include <system_error>
 
 #include <unistd.h>
 
-namespace quelby::cli {
+namespace quelby {
 
 namespace {
 
@@ -37,4 +37,4 @@ void writeToStandardError(std::string_view text) {
     static_cast<void>(writeWhole(STDERR_FILENO, text));
 }
 
-} // namespace quelby::cli
+} // namespace quelby

@@ -1,11 +1,11 @@
-#include "cli/cycle_line.h"
+#include "console/cycle_line.h"
 
 #include <cstdlib>
 #include <ctime>
 
 #include <gtest/gtest.h>
 
-namespace quelby::cli {
+namespace quelby {
 namespace {
 
 class CycleLineTest : public testing::Test {
@@ -53,4 +53,4 @@ TEST_F(CycleLineTest, HasNoTimeForAnAbsurdClock) {
 }
 
 } // namespace
-} // namespace quelby::cli
+} // namespace quelby

@@ -7,7 +7,7 @@
 
 #include "platform/posix/file_descriptor.h"
 
-namespace quelby::cli {
+namespace quelby {
 
 // Signals as ordinary calls in the run loop. A signal has one listener at a time, and its default handling
 // again when the listener is gone.
@@ -28,4 +28,4 @@ private:
     QObject notifierOwner_;
 };
 
-} // namespace quelby::cli
+} // namespace quelby

@@ -1,0 +1,39 @@
+// The command line that both programs share.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+
+#include "platform/host/machine.h"
+
+namespace quelby {
+
+enum class Pace { asAsked, withoutWaiting };
+
+// Which machine to look at, and how fast a recorded one goes.
+struct MachineArguments {
+    MachineOptions machine;
+    Pace pace = Pace::asAsked;
+};
+
+// The command line asked for a text (help, version), or it is wrong.
+struct Answer {
+    int exitStatus = 0;
+    std::string text; // for standard output where the exit status is 0, for standard error otherwise
+};
+
+// Help, version and the options of MachineArguments, which live as long as the parser.
+void addCommonOptions(CLI::App& parser, MachineArguments& arguments);
+
+// Parses what the system handed to main(). Nothing if the words were understood and the program is to do its
+// work.
+[[nodiscard]] std::optional<Answer> parseArguments(CLI::App& parser, const MachineArguments& arguments,
+                                                   int argc, const char* const* argv);
+
+void addPathOption(CLI::App& parser, const char* name, const char* type,
+                   std::optional<std::filesystem::path>& path, const char* help);
+
+} // namespace quelby

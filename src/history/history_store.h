@@ -1,0 +1,64 @@
+// The consumption history, in an SQLite database of the user's own.
+//
+//   readings     a row for each cycle (3 seconds), kept for 2 hours
+//   minute_avg   the mean of each minute, kept for 48 hours
+//   hour_avg     the mean of each hour (of its minutes' means), kept for 30 days
+//
+// Each row's key is its time in whole seconds since 1970-01-01 00:00 UTC: of the reading, of the minute's or
+// of the hour's start. So a second reading within one second replaces the first.
+//
+// Minutes and hours are computed anew from all rows that are still there, once a minute at the most and
+// driven by readings only; then what is too old is deleted. The oldest minute and the oldest hour are
+// therefore in the end the mean of what was left of them. That is accepted.
+//
+// How durable, how costly: the database is in write-ahead mode, and the log is flushed to the disk only when
+// it is copied into the database, about every thousand pages (a handful of times an hour), not with each
+// reading. A recorder that is killed loses at most the reading in flight. A machine that loses its power may
+// lose the readings since the last copy, some minutes, but never the database.
+//
+// Nothing here reports an error: without a connection nothing is recorded and every answer is empty. One
+// thread only.
+#pragma once
+
+#include <filesystem>
+
+#include "history/history_curve.h"
+#include "history/sqlite/connection.h"
+#include "history/time_range.h"
+#include "platform/clock.h"
+
+namespace quelby {
+
+enum class HistoryAccess {
+    readOnly,  // reads beside a recorder, and records nothing
+    recording, // one process at a time; see RecorderLock
+};
+
+class HistoryStore {
+public:
+    // The history lies in `Quelby/history.db` below the application-support folder. The clock outlives the
+    // store.
+    HistoryStore(const std::filesystem::path& applicationSupport, Clock& clock, HistoryAccess access);
+
+    // W of the whole system, %, and % of the whole machine.
+    void addReading(double watts, std::int64_t batteryPct, bool isCharging, double cpuUsage);
+
+    // The curve of the range up to now, thinned for a chart.
+    [[nodiscard]] HistoryResult loadData(TimeRange range);
+
+    // Watt-hours since the start of the local day: each raw reading counts for 3 seconds, and each minute
+    // that is older than the raw readings reach for 60. Readings that are past their 2 hours and not yet
+    // deleted count twice.
+    [[nodiscard]] double todayWh();
+
+private:
+    void createTables();
+    void aggregateIfNeeded();
+
+    Clock& clock_;
+    HistoryAccess access_;
+    Connection db_;              // empty where opening failed
+    double lastAggregation_ = 0; // seconds since 1970
+};
+
+} // namespace quelby

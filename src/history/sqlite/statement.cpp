@@ -1,0 +1,44 @@
+#include "history/sqlite/statement.h"
+
+namespace quelby {
+
+Statement::Statement(sqlite3* connection, const std::string& text) {
+    sqlite3_stmt* prepared = nullptr;
+    outcome_ = sqlite3_prepare_v2(connection, text.c_str(), -1, &prepared, nullptr);
+    statement_.reset(prepared);
+}
+
+void Statement::bind(int parameter, std::int64_t value) {
+    if (statement_) {
+        sqlite3_bind_int64(statement_.get(), parameter, value);
+    }
+}
+
+void Statement::bind(int parameter, std::int32_t value) {
+    if (statement_) {
+        sqlite3_bind_int(statement_.get(), parameter, value);
+    }
+}
+
+void Statement::bind(int parameter, double value) {
+    if (statement_) {
+        sqlite3_bind_double(statement_.get(), parameter, value);
+    }
+}
+
+bool Statement::step() {
+    if (statement_) {
+        outcome_ = sqlite3_step(statement_.get());
+    }
+    return outcome_ == SQLITE_ROW;
+}
+
+std::int64_t Statement::integer(int column) const {
+    return sqlite3_column_int64(statement_.get(), column);
+}
+
+double Statement::number(int column) const {
+    return sqlite3_column_double(statement_.get(), column);
+}
+
+} // namespace quelby

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include <sqlite3.h>
+
+namespace quelby {
+
+// One prepared statement. Where preparing failed, binding and stepping do nothing.
+class Statement {
+public:
+    // The connection outlives the statement.
+    Statement(sqlite3* connection, const std::string& text);
+
+    // Parameters count from 1.
+    void bind(int parameter, std::int64_t value);
+    void bind(int parameter, std::int32_t value);
+    void bind(int parameter, double value);
+
+    // True while there is a row to be read.
+    [[nodiscard]] bool step();
+
+    // SQLite's code of what happened last: SQLITE_OK, SQLITE_ROW, SQLITE_DONE, or what went wrong.
+    [[nodiscard]] int outcome() const { return outcome_; }
+
+    // Of the present row; columns count from 0. NULL reads as 0.
+    [[nodiscard]] std::int64_t integer(int column) const;
+    [[nodiscard]] double number(int column) const;
+
+private:
+    struct Finalize {
+        void operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+    };
+
+    std::unique_ptr<sqlite3_stmt, Finalize> statement_; // null where preparing failed
+    int outcome_ = SQLITE_OK;
+};
+
+} // namespace quelby
