@@ -63,6 +63,33 @@ TEST_F(ReplayedMachineTest, OfOneLineIsAtItsEndWithTheFirstCycle) {
     EXPECT_TRUE(machine.isAtLastLine());
 }
 
+TEST_F(ReplayedMachineTest, StartsAgainWithItsClockRunningOn) {
+    const auto file = folder.write("it.jsonl", recordingLine({.time = 100, .processors = 1}) + '\n' +
+                                                   recordingLine({.time = 104, .processors = 2}) + '\n' +
+                                                   recordingLine({.time = 110, .processors = 3}) + '\n');
+    auto machine = ReplayedMachine::open(file, AfterLastLine::startAgain);
+    ASSERT_TRUE(machine);
+    std::vector<std::pair<double, std::int64_t>> cycles;
+    for (int cycle = 0; cycle < 8; ++cycle) {
+        static_cast<void>(machine->readBattery());
+        cycles.emplace_back(machine->now(), machine->logicalProcessors());
+        EXPECT_FALSE(machine->isAtLastLine());
+    }
+    const std::vector<std::pair<double, std::int64_t>> expected{{100, 1}, {104, 2}, {110, 3}, {116, 1},
+                                                                {120, 2}, {126, 3}, {132, 1}, {136, 2}};
+    EXPECT_EQ(cycles, expected);
+}
+
+TEST_F(ReplayedMachineTest, OfOneLineStartsAgainEveryThreeSeconds) {
+    auto machine = ReplayedMachine::open(folder.write("it.jsonl", recordingLine({.time = 100})),
+                                         AfterLastLine::startAgain);
+    static_cast<void>(machine->readBattery());
+    static_cast<void>(machine->readBattery());
+    EXPECT_EQ(machine->now(), 103);
+    static_cast<void>(machine->readBattery());
+    EXPECT_EQ(machine->now(), 106);
+}
+
 TEST_F(ReplayedMachineTest, DrawsTheSameAtEveryReplayWhereNothingIsRecorded) {
     const auto draws = [&] {
         auto machine = replay({{.time = 1}});

@@ -113,10 +113,19 @@ TEST_P(RecordedMachines, GiveTheirOutcome) {
     }
 }
 
+std::string formName(const testing::TestParamInfo<std::tuple<Unreadable, Layout>>& form) {
+    constexpr std::array unreadable{"FailsToRead", "IsFolder", "IsMissing", "IsEmpty"};
+    constexpr std::array layout{"Folders", "Links"};
+    const auto [how, where] = form.param;
+    return std::string(unreadable.at(static_cast<std::size_t>(how))) + "In" +
+           layout.at(static_cast<std::size_t>(where));
+}
+
 INSTANTIATE_TEST_SUITE_P(InEveryForm, RecordedMachines,
                          testing::Combine(testing::Values(Unreadable::FailsToRead, Unreadable::IsFolder,
                                                           Unreadable::IsMissing, Unreadable::IsEmpty),
-                                          testing::Values(Layout::Folders, Layout::Links)));
+                                          testing::Values(Layout::Folders, Layout::Links)),
+                         formName);
 
 } // namespace
 } // namespace quelby
