@@ -12,15 +12,15 @@ add_library(quelby_rules INTERFACE)
 # -Wno-missing-field-initializers: what an initializer leaves out gets the default that its record names.
 target_compile_options(quelby_rules INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
-    -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wformat=2 -Wundef -Werror -Wno-missing-field-initializers)
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wundef -Werror -Wno-missing-field-initializers)
 # Qt would otherwise take words such as "signals" for itself.
 target_compile_definitions(quelby_rules INTERFACE QT_NO_KEYWORDS)
 target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(QUELBY_SANITIZERS)
-    # The sanitizers' own code makes the compiler see null dereferences and uninitialized values where there are none.
+    # The sanitizers' own code makes the compiler see uninitialized values where there are none.
     target_compile_options(quelby_rules INTERFACE
         -fsanitize=${QUELBY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer
-        -Wno-null-dereference -Wno-maybe-uninitialized)
+        -Wno-maybe-uninitialized)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
 endif()
 
