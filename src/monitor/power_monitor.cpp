@@ -12,7 +12,11 @@ std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, con
 }
 
 PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptions& options)
-    : platform_(platform), options_(options) {}
+    : platform_(platform)
+    , options_(options)
+    , storeDisplay_(menuBarDisplay.observe([preferences = &platform_.preferences](MenuBarDisplay coming) {
+        preferences->setText("menuBarDisplay", rawValue(coming));
+    })) {}
 
 void PowerMonitor::startMonitoring() {
     restorePreferences();

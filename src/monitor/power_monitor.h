@@ -67,6 +67,7 @@ private:
     std::shared_ptr<RepeatingTimer> dataTimer_;
     std::optional<HistoryStore> historyStore_;
     BatteryRecord batteryRecord_;
+    Subscription storeDisplay_; // keeps every choice of what the title shows
 };
 
 } // namespace quelby

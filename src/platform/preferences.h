@@ -13,6 +13,12 @@ public:
 
     [[nodiscard]] virtual std::optional<std::string> text(std::string_view key) = 0;
     [[nodiscard]] virtual bool flag(std::string_view key) = 0; // false when absent
+
+    // Kept at once, whole or not at all; a failure is silent.
+    virtual void setText(std::string_view key, std::string_view value) = 0;
+    virtual void setFlag(std::string_view key, bool value) = 0;
+    virtual void remove(std::string_view key) = 0;
+    virtual void removeAll() = 0;
 };
 
 } // namespace quelby

@@ -22,10 +22,12 @@ const std::map<std::string, std::set<std::string>> floorsBelow{
     {"base", {}},
     {"platform", {"base"}},
     {"history", {"base", "platform"}},
-    {"monitor", {"base", "platform", "history"}},
-    {"console", {"base", "platform", "history", "monitor"}},
-    {"cli", {"base", "platform", "history", "monitor", "console"}},
-    {"app", {"base", "platform", "history", "monitor", "console"}},
+    {"monitor", {"base", "platform", "history", "helper"}},
+    {"helper", {"base", "platform"}},
+    {"ui", {"base", "platform", "history", "helper", "monitor"}},
+    {"console", {"base", "platform", "history", "helper", "monitor"}},
+    {"cli", {"base", "platform", "history", "helper", "monitor", "ui", "console"}},
+    {"app", {"base", "platform", "history", "helper", "monitor", "ui", "console"}},
 };
 
 // The only folders that may know of Qt.

@@ -269,6 +269,18 @@ TEST_F(PowerMonitorTest, RestoresThePreferences) {
     EXPECT_TRUE(monitor->launchAtLogin);
 }
 
+TEST_F(PowerMonitorTest, StoresEveryChoiceOfTheTitle) {
+    monitor->menuBarDisplay = MenuBarDisplay::iconOnly;
+    EXPECT_EQ(computer.preferences.texts.at("menuBarDisplay"), "Icon Only");
+    monitor->menuBarDisplay = MenuBarDisplay::iconOnly;
+    EXPECT_EQ(computer.preferences.writes, 2); // also of an equal value
+}
+
+TEST_F(PowerMonitorTest, StoresNothingWhereNothingWasStored) {
+    monitor->startMonitoring();
+    EXPECT_EQ(computer.preferences.writes, 0);
+}
+
 TEST_F(PowerMonitorTest, KeepsTheDefaultDisplayForAnUnknownPreference) {
     computer.preferences.texts["menuBarDisplay"] = "Battery";
     monitor->startMonitoring();

@@ -112,6 +112,28 @@ struct Choices final : Preferences {
         const auto found = flags.find(key);
         return found != flags.end() && found->second;
     }
+
+    void setText(std::string_view key, std::string_view value) override {
+        ++writes;
+        texts.insert_or_assign(std::string(key), std::string(value));
+    }
+
+    void setFlag(std::string_view key, bool value) override {
+        ++writes;
+        flags.insert_or_assign(std::string(key), value);
+    }
+
+    void remove(std::string_view key) override {
+        texts.erase(std::string(key));
+        flags.erase(std::string(key));
+    }
+
+    void removeAll() override {
+        texts.clear();
+        flags.clear();
+    }
+
+    int writes = 0;
 };
 
 struct Draw final : StorageDraw {

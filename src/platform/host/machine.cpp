@@ -1,5 +1,6 @@
 #include "platform/host/machine.h"
 
+#include <map>
 #include <random>
 
 #include "platform/host/temporary_folder.h"
@@ -14,11 +15,43 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class NoPreferences final : public Preferences {
+// Preferences of a demonstration, which nobody keeps.
+class MemoryPreferences final : public Preferences {
 public:
-    [[nodiscard]] std::optional<std::string> text(std::string_view) override { return std::nullopt; }
+    [[nodiscard]] std::optional<std::string> text(std::string_view key) override { return find(texts_, key); }
 
-    [[nodiscard]] bool flag(std::string_view) override { return false; }
+    [[nodiscard]] bool flag(std::string_view key) override { return find(flags_, key).value_or(false); }
+
+    void setText(std::string_view key, std::string_view value) override {
+        texts_.insert_or_assign(std::string(key), value);
+    }
+
+    void setFlag(std::string_view key, bool value) override {
+        flags_.insert_or_assign(std::string(key), value);
+    }
+
+    void remove(std::string_view key) override {
+        texts_.erase(std::string(key));
+        flags_.erase(std::string(key));
+    }
+
+    void removeAll() override {
+        texts_.clear();
+        flags_.clear();
+    }
+
+private:
+    template <typename T>
+    using ByKey = std::map<std::string, T, std::less<>>;
+
+    template <typename T>
+    static std::optional<T> find(const ByKey<T>& values, std::string_view key) {
+        const auto found = values.find(key);
+        return found == values.end() ? std::nullopt : std::optional(found->second);
+    }
+
+    ByKey<std::string> texts_;
+    ByKey<bool> flags_;
 };
 
 class NamedFolders final : public Folders {
@@ -96,7 +129,7 @@ private:
         if (options.preferences) {
             return std::make_unique<QtPreferences>(options.preferences);
         }
-        return std::make_unique<NoPreferences>();
+        return std::make_unique<MemoryPreferences>();
     }
 
     ReplayedMachine machine_;

@@ -30,4 +30,31 @@ bool QtPreferences::flag(std::string_view key) {
     return value.typeId() == QMetaType::Bool ? value.toBool() : value.toString() == QLatin1String("true");
 }
 
+void QtPreferences::setText(std::string_view key, std::string_view value) {
+    set(qtKey(key), QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size())));
+}
+
+void QtPreferences::setFlag(std::string_view key, bool value) {
+    set(qtKey(key), value);
+}
+
+// What is stored already is not written again: restoring the preferences must not cost a write at every
+// start.
+void QtPreferences::set(const QString& key, const QVariant& value) {
+    if (settings_.value(key).toString() != value.toString()) {
+        settings_.setValue(key, value);
+        settings_.sync();
+    }
+}
+
+void QtPreferences::remove(std::string_view key) {
+    settings_.remove(qtKey(key));
+    settings_.sync();
+}
+
+void QtPreferences::removeAll() {
+    settings_.clear();
+    settings_.sync();
+}
+
 } // namespace quelby

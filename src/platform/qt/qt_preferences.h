@@ -17,8 +17,14 @@ public:
 
     [[nodiscard]] std::optional<std::string> text(std::string_view key) override;
     [[nodiscard]] bool flag(std::string_view key) override;
+    void setText(std::string_view key, std::string_view value) override;
+    void setFlag(std::string_view key, bool value) override;
+    void remove(std::string_view key) override;
+    void removeAll() override;
 
 private:
+    void set(const QString& key, const QVariant& value);
+
     QSettings settings_;
 };
 

@@ -36,6 +36,40 @@ TEST_F(QtPreferencesTest, CountAValueOfAnotherTypeAsAbsent) {
     EXPECT_FALSE(preferences.flag("launchAtLogin"));
 }
 
+TEST_F(QtPreferencesTest, KeepWhatIsSet) {
+    {
+        auto preferences = with("");
+        preferences.setText("menuBarDisplay", "Battery %");
+        preferences.setFlag("launchAtLogin", true);
+        preferences.setText("other", "a, \"quoted\" list; ünïcode \\ \n");
+    }
+    QtPreferences again(folder.path() / "preferences.conf");
+    EXPECT_EQ(again.text("menuBarDisplay"), "Battery %");
+    EXPECT_TRUE(again.flag("launchAtLogin"));
+    EXPECT_EQ(again.text("other"), "a, \"quoted\" list; ünïcode \\ \n");
+    again.setFlag("launchAtLogin", false);
+    again.remove("other");
+    QtPreferences third(folder.path() / "preferences.conf");
+    EXPECT_FALSE(third.flag("launchAtLogin"));
+    EXPECT_EQ(third.text("other"), std::nullopt);
+    third.removeAll();
+    EXPECT_EQ(QtPreferences(folder.path() / "preferences.conf").text("menuBarDisplay"), std::nullopt);
+}
+
+TEST_F(QtPreferencesTest, DoNotWriteWhatIsStoredAlready) {
+    auto preferences = with("[General]\n; a comment\nmenuBarDisplay=Battery %\nlaunchAtLogin=true\n");
+    preferences.setText("menuBarDisplay", "Battery %");
+    preferences.setFlag("launchAtLogin", true);
+    EXPECT_EQ(folder.read("preferences.conf"),
+              "[General]\n; a comment\nmenuBarDisplay=Battery %\nlaunchAtLogin=true\n");
+}
+
+TEST_F(QtPreferencesTest, AreSilentWhereNothingCanBeStored) {
+    QtPreferences nowhere(folder.write("a file", "") / "preferences.conf");
+    nowhere.setText("menuBarDisplay", "Battery %");
+    EXPECT_EQ(folder.read("a file"), "");
+}
+
 TEST_F(QtPreferencesTest, HoldNothingWhereTheFileIsMissingOrRubbish) {
     QtPreferences missing(folder.path() / "nowhere" / "preferences.conf");
     EXPECT_EQ(missing.text("menuBarDisplay"), std::nullopt);
