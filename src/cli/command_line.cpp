@@ -1,6 +1,11 @@
 #include "cli/command_line.h"
 
+#include <algorithm>
+#include <array>
+#include <iterator>
+
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include "base/number_text.h"
 
@@ -37,6 +42,29 @@ TimeRange parseRange(const std::string& text) {
     return *range;
 }
 
+MenuBarDisplay parseDisplay(const std::string& text) {
+    const auto display = menuBarDisplay(text);
+    if (!display) {
+        std::vector<std::string_view> names;
+        std::transform(allMenuBarDisplays.begin(), allMenuBarDisplays.end(), std::back_inserter(names),
+                       [](MenuBarDisplay one) { return rawValue(one); });
+        throw CLI::ValidationError(
+            fmt::format("--display takes one of \"{}\", not \"{}\"", fmt::join(names, "\", \""), text));
+    }
+    return *display;
+}
+
+TitleFormat parseTitleFormat(const std::string& text) {
+    constexpr std::array names{std::pair("plain", TitleFormat::plain), std::pair("json", TitleFormat::json),
+                               std::pair("waybar", TitleFormat::waybar)};
+    for (const auto& [name, format] : names) {
+        if (text == name) {
+            return format;
+        }
+    }
+    throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
+}
+
 // Numbers are parsed here and not by the option library, which would follow the locale.
 void addRepetition(CLI::App& command, Repetition& repetition) {
     command
@@ -66,6 +94,7 @@ struct Reading {
     WatchCommand watch;
     RecordCommand record;
     HistoryCommand history;
+    TitleCommand title;
 
     Reading() {
         addCommonOptions(app, request.arguments);
@@ -77,6 +106,7 @@ struct Reading {
         addWatch();
         addRecord();
         addHistory();
+        addTitle();
     }
 
     void addStatus() {
@@ -119,6 +149,23 @@ struct Reading {
         auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
         addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);
         command->final_callback([this] { request.command = history; });
+    }
+
+    void addTitle() {
+        auto* const command =
+            app.add_subcommand("title", "What the menu bar shows, for status bars and scripts");
+        command
+            ->add_option_function<std::string>(
+                "--display", [this](const std::string& text) { title.display = parseDisplay(text); },
+                "Another figure than the chosen one, such as \"Battery %\"")
+            ->type_name("VALUE");
+        command
+            ->add_option_function<std::string>(
+                "--format", [this](const std::string& text) { title.format = parseTitleFormat(text); },
+                "plain, json or waybar; plain unless named")
+            ->type_name("FORMAT");
+        command->add_flag("--follow", title.follow, "Print a line whenever it changes, until interrupted");
+        command->final_callback([this] { request.command = title; });
     }
 };
 

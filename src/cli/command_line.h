@@ -9,6 +9,7 @@
 
 #include "console/machine_arguments.h"
 #include "history/time_range.h"
+#include "monitor/menu_bar_display.h"
 
 namespace quelby::cli {
 
@@ -38,7 +39,15 @@ struct HistoryCommand {
     OutputForm form = OutputForm::text;
 };
 
-using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand>;
+enum class TitleFormat { plain, json, waybar };
+
+struct TitleCommand {
+    std::optional<MenuBarDisplay> display; // none: the user's choice
+    TitleFormat format = TitleFormat::plain;
+    bool follow = false; // a line whenever it changes, instead of one
+};
+
+using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand, TitleCommand>;
 
 struct Request {
     MachineArguments arguments;

@@ -2,6 +2,7 @@
 #include "cli/history_command.h"
 #include "cli/record_command.h"
 #include "cli/status_command.h"
+#include "cli/title_command.h"
 #include "cli/watch_command.h"
 #include "console/program.h"
 
@@ -19,6 +20,8 @@ struct RunCommand {
     Result<void> operator()(const RecordCommand& command) const { return runRecord(machine, command, pace); }
 
     Result<void> operator()(const HistoryCommand& command) const { return runHistory(machine, command); }
+
+    Result<void> operator()(const TitleCommand& command) const { return runTitle(machine, command, pace); }
 };
 
 Result<void> carryOut(const Request& request) {

@@ -11,14 +11,6 @@ namespace quelby {
 
 namespace {
 
-std::string batteryText(const PublishedFields& fields) {
-    if (!fields.hasBattery) {
-        return std::string(batteryState(fields));
-    }
-    return fmt::format("{} % {}, {}", fields.batteryPercent.get(), batteryState(fields),
-                       fields.predictedTime.get());
-}
-
 std::string busiestText(const PublishedFields& fields) {
     const auto& processes = fields.topProcesses.get();
     return processes.empty()
@@ -39,6 +31,14 @@ std::string_view batteryState(const PublishedFields& fields) {
         return "full";
     }
     return fields.isCharging ? "charging" : "plugged in";
+}
+
+std::string batteryText(const PublishedFields& fields) {
+    if (!fields.hasBattery) {
+        return std::string(batteryState(fields));
+    }
+    return fmt::format("{} % {}, {}", fields.batteryPercent.get(), batteryState(fields),
+                       fields.predictedTime.get());
 }
 
 std::string timeOfDay(Date time) {

@@ -53,8 +53,8 @@ std::string_view menuBarSymbol(const PublishedFields& fields) {
     return levelSymbol(fields.batteryPercent);
 }
 
-std::string menuBarTitle(const PublishedFields& fields) {
-    switch (fields.menuBarDisplay) {
+std::string menuBarTitle(const PublishedFields& fields, MenuBarDisplay display) {
+    switch (display) {
     case MenuBarDisplay::watts:
         return wattsTitle(fields);
     case MenuBarDisplay::percentage:

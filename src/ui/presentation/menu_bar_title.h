@@ -12,8 +12,9 @@ namespace quelby {
 // same symbol as one of 76 %.
 [[nodiscard]] std::string_view menuBarSymbol(const PublishedFields& fields);
 
-// Empty, or the figure with one leading blank, which keeps it off the symbol. Watts become the level while
-// the helper holds the charge, because then nothing is more interesting than that.
-[[nodiscard]] std::string menuBarTitle(const PublishedFields& fields);
+// Empty, or the figure that the display asks for, with one leading blank, which keeps it off the symbol.
+// Watts become the level while the helper holds the charge, because then nothing is more interesting than
+// that.
+[[nodiscard]] std::string menuBarTitle(const PublishedFields& fields, MenuBarDisplay display);
 
 } // namespace quelby

@@ -7,9 +7,8 @@ namespace {
 
 class MenuBarTitleTest : public testing::Test {
 protected:
-    void expectTitle(MenuBarDisplay display, const std::string& title) {
-        fields.menuBarDisplay = display;
-        EXPECT_EQ(menuBarTitle(fields), title);
+    void expectTitle(MenuBarDisplay display, const std::string& title) const {
+        EXPECT_EQ(menuBarTitle(fields, display), title);
     }
 
     PublishedFields fields;

@@ -1,0 +1,37 @@
+#include "cli/title_command.h"
+
+#include "cli/cycle_run.h"
+#include "cli/title_output.h"
+#include "console/standard_output.h"
+
+namespace quelby::cli {
+
+namespace {
+
+std::string lineOf(const PowerMonitor& monitor, const TitleCommand& command) {
+    return titleLine(monitor, command.display.value_or(monitor.menuBarDisplay), command.format) + '\n';
+}
+
+} // namespace
+
+Result<void> runTitle(Machine& machine, const TitleCommand& command, Pace pace) {
+    const auto once = [&](const PowerMonitor& monitor) {
+        return writeToStandardOutput(lineOf(monitor, command));
+    };
+    if (!command.follow) {
+        return runCycles(machine, machine.platform(), untilTheEnd(machine, once));
+    }
+    auto run = cycleRun({}, pace);
+    std::string shown;
+    run.afterCycle = [&](const PowerMonitor& monitor) -> Result<void> {
+        auto line = lineOf(monitor, command);
+        if (line == shown) {
+            return {}; // a bar redraws for every line
+        }
+        shown = line;
+        return writeToStandardOutput(line);
+    };
+    return runCycles(machine, machine.platform(), run);
+}
+
+} // namespace quelby::cli
