@@ -5,26 +5,9 @@
 
 #include <unistd.h>
 
+#include "platform/posix/write_whole.h"
+
 namespace quelby {
-
-namespace {
-
-// False with errno set.
-bool writeWhole(int file, std::string_view text) {
-    while (!text.empty()) {
-        const auto count = ::write(file, text.data(), text.size());
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count < 0) {
-            return false;
-        }
-        text.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
-}
-
-} // namespace
 
 Result<void> writeToStandardOutput(std::string_view text) {
     if (writeWhole(STDOUT_FILENO, text)) {

@@ -44,7 +44,17 @@ struct WallClock final : Clock {
 struct NamedFolders final : Folders {
     std::filesystem::path support = "/proc/nowhere";
 
+    std::optional<std::filesystem::path> helperResources;
+
     std::filesystem::path applicationSupport() override { return support; }
+
+    std::filesystem::path configuration() override { return support / "configuration"; }
+
+    std::filesystem::path helper() override { return support / "helper"; }
+
+    std::optional<std::filesystem::path> resources() override { return helperResources; }
+
+    std::filesystem::path program() override { return support / "quelby"; }
 };
 
 // Timers fire when the test says so.

@@ -3,7 +3,7 @@
 #include <map>
 #include <random>
 
-#include "platform/host/temporary_folder.h"
+#include "platform/host/chosen_folders.h"
 #include "platform/posix/system_clock.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_run_loop.h"
@@ -54,34 +54,20 @@ private:
     ByKey<bool> flags_;
 };
 
-class NamedFolders final : public Folders {
-public:
-    explicit NamedFolders(const fs::path& applicationSupport)
-        : applicationSupport_(fs::absolute(applicationSupport)) {}
-
-    [[nodiscard]] fs::path applicationSupport() override { return applicationSupport_; }
-
-private:
-    fs::path applicationSupport_;
-};
-
-class TemporaryFolders final : public Folders {
-public:
-    [[nodiscard]] fs::path applicationSupport() override { return folder_.path(); }
-
-private:
-    TemporaryFolder folder_;
-};
+ChosenFolders::Named namedFolders(const MachineOptions& options) {
+    return {
+        .applicationSupport = options.dataDir, .configuration = std::nullopt, .helper = options.configDir};
+}
 
 class ThisComputer final : public Machine {
 public:
     explicit ThisComputer(const MachineOptions& options)
         : readers_(makeSystemReaders(options.roots))
-        , folders_(makeFolders(options))
+        , folders_(makeSystemFolders(), namedFolders(options))
         , preferences_(options.preferences) {}
 
     [[nodiscard]] Platform platform() override {
-        return {*readers_.battery, *readers_.processes, clock_,      *folders_,
+        return {*readers_.battery, *readers_.processes, clock_,      folders_,
                 runLoop_,          preferences_,        storageDraw_};
     }
 
@@ -90,13 +76,9 @@ public:
     [[nodiscard]] bool hasEnded() const override { return false; }
 
 private:
-    static std::unique_ptr<Folders> makeFolders(const MachineOptions& options) {
-        return options.dataDir ? std::make_unique<NamedFolders>(*options.dataDir) : makeSystemFolders();
-    }
-
     SystemReaders readers_;
     SystemClock clock_;
-    std::unique_ptr<Folders> folders_;
+    ChosenFolders folders_;
     QtRunLoop runLoop_;
     QtPreferences preferences_;
     RandomStorageDraw storageDraw_{std::random_device{}()};
@@ -106,11 +88,11 @@ class RecordedComputer final : public Machine {
 public:
     RecordedComputer(ReplayedMachine machine, const MachineOptions& options)
         : machine_(std::move(machine))
-        , folders_(makeFolders(options))
+        , folders_(makeSystemFolders(), namedFolders(options))
         , preferences_(makePreferences(options)) {}
 
     [[nodiscard]] Platform platform() override {
-        return {machine_, machine_, machine_, *folders_, runLoop_, *preferences_, machine_};
+        return {machine_, machine_, machine_, folders_, runLoop_, *preferences_, machine_};
     }
 
     [[nodiscard]] MachineKind kind() const override { return MachineKind::recorded; }
@@ -118,13 +100,6 @@ public:
     [[nodiscard]] bool hasEnded() const override { return machine_.isAtLastLine(); }
 
 private:
-    static std::unique_ptr<Folders> makeFolders(const MachineOptions& options) {
-        if (options.dataDir) {
-            return std::make_unique<NamedFolders>(*options.dataDir);
-        }
-        return std::make_unique<TemporaryFolders>();
-    }
-
     static std::unique_ptr<Preferences> makePreferences(const MachineOptions& options) {
         if (options.preferences) {
             return std::make_unique<QtPreferences>(options.preferences);
@@ -133,7 +108,7 @@ private:
     }
 
     ReplayedMachine machine_;
-    std::unique_ptr<Folders> folders_;
+    DemonstrationFolders folders_;
     QtRunLoop runLoop_;
     std::unique_ptr<Preferences> preferences_;
 };

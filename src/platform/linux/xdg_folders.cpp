@@ -23,11 +23,34 @@ std::filesystem::path home() {
     return user == nullptr ? "/" : user->pw_dir;
 }
 
+std::filesystem::path userFolder(const char* variable, const std::filesystem::path& belowHome) {
+    const auto named = absolutePathIn(variable);
+    return named.empty() ? home() / belowHome : named;
+}
+
 } // namespace
 
 std::filesystem::path XdgFolders::applicationSupport() {
-    const auto dataHome = absolutePathIn("XDG_DATA_HOME");
-    return dataHome.empty() ? home() / ".local" / "share" : dataHome;
+    return userFolder("XDG_DATA_HOME", ".local/share");
+}
+
+std::filesystem::path XdgFolders::configuration() {
+    return userFolder("XDG_CONFIG_HOME", ".config");
+}
+
+std::filesystem::path XdgFolders::helper() {
+    return "/var/lib/quelby";
+}
+
+std::optional<std::filesystem::path> XdgFolders::resources() {
+    const auto folder = program().parent_path().parent_path() / "libexec" / "quelby";
+    std::error_code failure;
+    return std::filesystem::is_directory(folder, failure) ? std::optional(folder) : std::nullopt;
+}
+
+std::filesystem::path XdgFolders::program() {
+    std::error_code failure;
+    return std::filesystem::read_symlink("/proc/self/exe", failure);
 }
 
 } // namespace quelby

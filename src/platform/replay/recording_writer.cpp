@@ -9,6 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/posix/write_whole.h"
 #include "platform/replay/recording_line.h"
 
 namespace quelby {
@@ -84,27 +85,14 @@ Result<RecordingWriter> RecordingWriter::open(const std::filesystem::path& file)
 
 Result<void> RecordingWriter::append(const RecordedCycle& cycle) {
     const auto line = recordingLine(cycle) + '\n';
-    if (auto written = write(line); !written) {
+    if (!writeWhole(file_.number(), line)) {
+        const int cause = errno;
         static_cast<void>(::ftruncate(file_.number(), length_)); // a device cannot be cut, and need not be
-        return written;
+        return cannotRecord(named_, cause);
     }
     length_ += static_cast<off_t>(line.size());
     ++lines_;
     return beginning_.empty() ? Result<void>() : takePlace();
-}
-
-Result<void> RecordingWriter::write(std::string_view line) {
-    while (!line.empty()) {
-        const auto count = ::write(file_.number(), line.data(), line.size());
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count <= 0) {
-            return cannotRecord(named_, count < 0 ? errno : ENOSPC);
-        }
-        line.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return {};
 }
 
 Result<void> RecordingWriter::takePlace() {

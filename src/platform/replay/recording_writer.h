@@ -36,7 +36,6 @@ public:
 private:
     RecordingWriter(std::filesystem::path named, std::filesystem::path beginning, FileDescriptor file);
 
-    [[nodiscard]] Result<void> write(std::string_view line);
     [[nodiscard]] Result<void> takePlace();
 
     std::filesystem::path named_;

@@ -42,6 +42,19 @@ TEST(XdgFolders, KeepDataWhereTheVariableSays) {
     EXPECT_EQ(XdgFolders().applicationSupport(), "/somewhere/else");
 }
 
+TEST(XdgFolders, KeepSettingsWhereTheVariableSays) {
+    const Variable configHome("XDG_CONFIG_HOME", "/somewhere/else");
+    EXPECT_EQ(XdgFolders().configuration(), "/somewhere/else");
+    const Variable home("HOME", "/home/somebody");
+    const Variable unset("XDG_CONFIG_HOME", std::nullopt);
+    EXPECT_EQ(XdgFolders().configuration(), "/home/somebody/.config");
+}
+
+TEST(XdgFolders, KnowTheProgramAndThatItsResourcesAreNotInstalled) {
+    EXPECT_EQ(XdgFolders().program().filename(), "linux_tests");
+    EXPECT_EQ(XdgFolders().resources(), std::nullopt);
+}
+
 TEST(XdgFolders, PassOverAVariableThatIsEmptyOrNotAbsolute) {
     const Variable home("HOME", "/home/somebody");
     for (const auto& value :

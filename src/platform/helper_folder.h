@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quelby {
+
+// The two files that the program shares with the charge-limit helper. The helper replaces status.json at any
+// time, so a text may be torn; whoever decodes it finds out.
+class HelperFolder {
+public:
+    virtual ~HelperFolder() = default;
+
+    // Nothing where there is no such file, or it cannot be read.
+    [[nodiscard]] virtual std::optional<std::string> config() = 0;
+    [[nodiscard]] virtual std::optional<std::string> status() = 0;
+
+    // Makes the folder where it is missing; a failure is silent.
+    virtual void replaceConfig(std::string_view text) = 0;
+};
+
+} // namespace quelby
