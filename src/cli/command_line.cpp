@@ -49,7 +49,7 @@ MenuBarDisplay parseDisplay(const std::string& text) {
         std::transform(allMenuBarDisplays.begin(), allMenuBarDisplays.end(), std::back_inserter(names),
                        [](MenuBarDisplay one) { return rawValue(one); });
         throw CLI::ValidationError(
-            fmt::format("--display takes one of \"{}\", not \"{}\"", fmt::join(names, "\", \""), text));
+            fmt::format("--display takes one of \"{}\", not \"{}\"", fmt::join(names, R"(", ")"), text));
     }
     return *display;
 }
@@ -63,6 +63,43 @@ TitleFormat parseTitleFormat(const std::string& text) {
         }
     }
     throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
+}
+
+// "on" or "off".
+std::optional<bool> switchPosition(const std::string& text) {
+    return text == "on" ? std::optional(true) : text == "off" ? std::optional(false) : std::nullopt;
+}
+
+LimitCommand parseLimit(const std::string& text) {
+    const auto percent = wholeNumber(text);
+    const bool settable = percent && *percent >= 20 && *percent <= 100 && *percent % 5 == 0;
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(fmt::format(
+            "limit takes show, on, off or a percentage from 20 to 100 in steps of 5, not \"{}\"", text));
+    }
+    return {.enable = switchPosition(text), .percent = settable ? percent : std::nullopt};
+}
+
+CalibrationCommand parseCalibration(const std::string& text) {
+    const auto days = wholeNumber(text);
+    const bool settable = days == 7 || days == 14 || days == 30 || days == 60;
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(
+            fmt::format("calibration takes show, on, off, 7, 14, 30 or 60, not \"{}\"", text));
+    }
+    return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
+}
+
+HelperCommand parseHelper(const std::string& text) {
+    constexpr std::array names{std::pair("status", HelperWish::status),
+                               std::pair("install", HelperWish::install),
+                               std::pair("uninstall", HelperWish::uninstall)};
+    for (const auto& [name, wish] : names) {
+        if (text == name) {
+            return {wish};
+        }
+    }
+    throw CLI::ValidationError(fmt::format("helper takes status, install or uninstall, not \"{}\"", text));
 }
 
 // Numbers are parsed here and not by the option library, which would follow the locale.
@@ -95,6 +132,9 @@ struct Reading {
     RecordCommand record;
     HistoryCommand history;
     TitleCommand title;
+    LimitCommand limit;
+    CalibrationCommand calibration;
+    HelperCommand helper;
 
     Reading() {
         addCommonOptions(app, request.arguments);
@@ -107,6 +147,25 @@ struct Reading {
         addRecord();
         addHistory();
         addTitle();
+        addSetting("limit", "The charge limit: show (unless named otherwise), on, off, or a percentage",
+                   limit, parseLimit);
+        addSetting(
+            "calibration",
+            "The battery's calibration: show (unless named otherwise), on, off, or 7, 14, 30 or 60 days",
+            calibration, parseCalibration);
+        addSetting("helper", "The charge-limit helper: status (unless named otherwise), install or uninstall",
+                   helper, parseHelper);
+    }
+
+    // A command with one word behind it, which may be missing.
+    template <typename T>
+    void addSetting(const char* name, const char* help, T& setting, T (*parse)(const std::string&)) {
+        auto* const command = app.add_subcommand(name, help);
+        command
+            ->add_option_function<std::string>(
+                "VALUE", [&setting, parse](const std::string& text) { setting = parse(text); }, "What to do")
+            ->type_name("");
+        command->final_callback([this, &setting] { request.command = setting; });
     }
 
     void addStatus() {

@@ -47,7 +47,25 @@ struct TitleCommand {
     bool follow = false; // a line whenever it changes, instead of one
 };
 
-using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand, TitleCommand>;
+// Shows the setting unless it says what to change.
+struct LimitCommand {
+    std::optional<bool> enable;
+    std::optional<std::int64_t> percent; // 20 to 100, in steps of 5
+};
+
+struct CalibrationCommand {
+    std::optional<bool> enable;
+    std::optional<std::int64_t> days; // 7, 14, 30 or 60
+};
+
+enum class HelperWish { status, install, uninstall };
+
+struct HelperCommand {
+    HelperWish wish = HelperWish::status;
+};
+
+using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand, TitleCommand,
+                             LimitCommand, CalibrationCommand, HelperCommand>;
 
 struct Request {
     MachineArguments arguments;

@@ -14,7 +14,7 @@ namespace quelby::cli {
 
 namespace {
 
-constexpr int curveRows = 8;
+constexpr std::int64_t curveRows = 8;
 constexpr int scaleColumns = 9; // "  12.3 W " at the left of the curve
 constexpr std::array<std::string_view, 9> cells{" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
 
@@ -35,6 +35,7 @@ std::vector<std::optional<double>> columnMeans(const HistoryView& view, int colu
         ++column.points;
     }
     std::vector<std::optional<double>> means;
+    means.reserve(sums.size());
     for (const auto& column : sums) {
         means.push_back(column.points == 0 ? std::nullopt : std::optional(column.sum / column.points));
     }
@@ -42,11 +43,11 @@ std::vector<std::optional<double>> columnMeans(const HistoryView& view, int colu
 }
 
 // The part of a column in one row, where rows count from the bottom and the top of all is `most`.
-std::string_view cell(std::optional<double> mean, int row, double most) {
+std::string_view cell(std::optional<double> mean, std::int64_t row, double most) {
     if (!mean || most <= 0) {
         return cells.front();
     }
-    const auto eighths = truncated(std::round(*mean / most * curveRows * 8));
+    const auto eighths = truncated(std::round(*mean / most * static_cast<double>(curveRows) * 8));
     const auto inRow = std::clamp<std::int64_t>(difference(eighths, row * 8), row == 0 ? 1 : 0, 8);
     return cells.at(static_cast<std::size_t>(inRow));
 }
@@ -54,7 +55,7 @@ std::string_view cell(std::optional<double> mean, int row, double most) {
 std::string curve(const HistoryView& view, int columns) {
     const auto means = columnMeans(view, columns - scaleColumns);
     std::string text;
-    for (int row = curveRows - 1; row >= 0; --row) {
+    for (auto row = curveRows - 1; row >= 0; --row) {
         const bool labelled = row == curveRows - 1 || row == 0;
         const double label = row == 0 ? 0 : view.result.max;
         std::string line = labelled ? fmt::format("{:>6.1f} W ", label) : std::string(scaleColumns, ' ');

@@ -1,5 +1,7 @@
 #include "cli/command_line.h"
+#include "cli/helper_command.h"
 #include "cli/history_command.h"
+#include "cli/limit_command.h"
 #include "cli/record_command.h"
 #include "cli/status_command.h"
 #include "cli/title_command.h"
@@ -22,6 +24,14 @@ struct RunCommand {
     Result<void> operator()(const HistoryCommand& command) const { return runHistory(machine, command); }
 
     Result<void> operator()(const TitleCommand& command) const { return runTitle(machine, command, pace); }
+
+    Result<void> operator()(const LimitCommand& command) const { return runLimit(machine, command); }
+
+    Result<void> operator()(const CalibrationCommand& command) const {
+        return runCalibration(machine, command);
+    }
+
+    Result<void> operator()(const HelperCommand& command) const { return runHelper(machine, command); }
 };
 
 Result<void> carryOut(const Request& request) {

@@ -12,7 +12,7 @@
 namespace quelby {
 
 // What is made of the figures.
-using Look = std::function<Result<void>(const PowerMonitor& monitor)>;
+using Look = std::function<Result<void>(PowerMonitor& monitor)>;
 
 struct CycleRun {
     std::chrono::duration<double> interval{3}; // zero: one cycle right after the other

@@ -20,6 +20,8 @@ PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptio
 
 void PowerMonitor::startMonitoring() {
     restorePreferences();
+    loadDaemonConfig();
+    checkDaemonInstalled();
     openHistory();
     collectAllData();
     loadHistory();
@@ -80,6 +82,7 @@ void PowerMonitor::collectAllData() {
     readTopProcesses();
     sampleBattery();
     predictBattery();
+    readDaemonStatus();
     recordReading();
     if (onUpdate) {
         onUpdate();

@@ -42,6 +42,30 @@ public:
     // No further cycles; the fields keep their values. Harmless when nothing runs.
     void stopMonitoring();
 
+    // Switches the limit, and tells the helper. The first time that it is switched on, ever, the charging tip
+    // is to be shown.
+    void toggleChargeLimit(bool enabled);
+
+    // % of full charge; tells the helper.
+    void setChargeLimit(double percent);
+
+    // Tells the helper.
+    void updateCalibrationSettings(bool enabled, Int days);
+
+    // Asks for the administrator's password, and waits for it. A helper that was installed gets the settings
+    // at once; where it was not, nothing changes.
+    void installDaemon();
+
+    // Likewise. The limit is off afterwards; the other settings stay in memory.
+    void uninstallDaemon();
+
+    // Removes the helper, if the user agrees, the history, all preferences, the start at login and the
+    // program itself, and calls `then` at the end, whatever could not be removed.
+    void fullUninstall(const std::function<void()>& then);
+
+    // Starts the program at login, or no longer. The choice is kept also where the system does not follow it.
+    void setLaunchAtLogin(bool enabled);
+
     // Shows another range of the history, or the same one renewed, which the cycles never do.
     void selectHistoryRange(TimeRange range);
 
@@ -50,6 +74,10 @@ public:
 
 private:
     void restorePreferences();
+    void loadDaemonConfig();
+    void checkDaemonInstalled();
+    void writeDaemonConfig();
+    void readDaemonStatus();
     void openHistory();
     void loadHistory();
     void scheduleCycles();

@@ -5,9 +5,13 @@
 #include "platform/battery_source.h"
 #include "platform/clock.h"
 #include "platform/folders.h"
+#include "platform/helper_folder.h"
+#include "platform/login_item.h"
 #include "platform/preferences.h"
+#include "platform/privileged_shell.h"
 #include "platform/process_lister.h"
 #include "platform/run_loop.h"
+#include "platform/service_manager.h"
 #include "platform/storage_draw.h"
 
 namespace quelby {
@@ -17,8 +21,12 @@ struct Platform {
     ProcessLister& processes;
     Clock& clock;
     Folders& folders;
+    HelperFolder& helperFolder;
+    LoginItem& loginItem;
     RunLoop& runLoop;
     Preferences& preferences;
+    PrivilegedShell& privilegedShell;
+    ServiceManager& serviceManager;
     StorageDraw& storageDraw;
 };
 

@@ -6,7 +6,10 @@
 
 #include "platform/battery_source.h"
 #include "platform/folders.h"
+#include "platform/login_item.h"
+#include "platform/privileged_shell.h"
 #include "platform/process_lister.h"
+#include "platform/service_manager.h"
 
 namespace quelby {
 
@@ -21,8 +24,15 @@ struct SystemReaders {
     std::unique_ptr<ProcessLister> processes;
 };
 
+struct SystemServices {
+    std::unique_ptr<LoginItem> loginItem;
+    std::unique_ptr<PrivilegedShell> privilegedShell;
+    std::unique_ptr<ServiceManager> serviceManager;
+};
+
 // Never null. The build picks the system's own definitions.
 [[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
 [[nodiscard]] std::unique_ptr<Folders> makeSystemFolders();
+[[nodiscard]] SystemServices makeSystemServices(Folders& folders);
 
 } // namespace quelby

@@ -107,13 +107,13 @@ TEST_F(PowerMonitorTest, RenewsTheFieldsInOrder) {
             [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
     });
     monitor->startMonitoring();
-    EXPECT_THAT(order,
-                ElementsAre("launchAtLogin", "hasBattery", "designCapacity", "rawMaxCapacity",
-                            "rawCurrentCapacity", "cycleCount", "batteryPercent", "isCharging", "isPluggedIn",
-                            "fullyCharged", "batteryHealth", "amperage", "voltage", "realWatts",
-                            "batteryTemp", "timeRemaining", "cpuUsage", "cpuPower", "gpuPower", "memPower",
-                            "diskPower", "netPower", "totalPower", "chargePower", "acTotal", "efficiency",
-                            "powerHistory", "topProcesses", "predictedTime", "batteryRateStr"));
+    EXPECT_THAT(order, ElementsAre("launchAtLogin", "daemonInstalled", "hasBattery", "designCapacity",
+                                   "rawMaxCapacity", "rawCurrentCapacity", "cycleCount", "batteryPercent",
+                                   "isCharging", "isPluggedIn", "fullyCharged", "batteryHealth", "amperage",
+                                   "voltage", "realWatts", "batteryTemp", "timeRemaining", "cpuUsage",
+                                   "cpuPower", "gpuPower", "memPower", "diskPower", "netPower", "totalPower",
+                                   "chargePower", "acTotal", "efficiency", "powerHistory", "topProcesses",
+                                   "predictedTime", "batteryRateStr"));
 }
 
 TEST_F(PowerMonitorTest, UsesTheLoadOfTheSameCycle) {

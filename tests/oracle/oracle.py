@@ -5,6 +5,7 @@ clock and no file. Every sum and product is made in the order in which the rule 
 very same and not merely close.
 """
 import copy
+import json
 import re
 
 DEFAULTS = {  # in declaration order
@@ -92,15 +93,20 @@ class Monitor:
         self.fields = copy.deepcopy(DEFAULTS)
         self.samples = []  # (seconds since 1970, percent), oldest first
         self.last_sample_time = 0.0
+        self.started = False
 
     def cycle(self, line, unrecorded_draw=0):
         """Answers a copy of all fields. The draw, 0 or 1, stands in where the line needs one and holds none."""
+        if not self.started:  # the service manager is asked once
+            self.fields["daemonInstalled"] = line.get("helperLoaded") or False
+            self.started = True
         self.read_battery(line["battery"])
         self.read_cpu_usage(line["cpuListing"], line["processors"])
         self.calculate_power(line.get("storageDraw", unrecorded_draw))
         self.read_top_processes(line["topListing"])
         self.sample_battery(line["time"])
         self.predict_battery()
+        self.read_daemon_status(line.get("status"))
         return copy.deepcopy(self.fields)
 
     # Battery
@@ -155,6 +161,29 @@ class Monitor:
         hundredths_of_a_degree = table.integer("Temperature")
         if hundredths_of_a_degree is not None:
             fields["batteryTemp"] = hundredths_of_a_degree / 100.0
+
+    # The charge-limit helper
+
+    def read_daemon_status(self, text):
+        status = daemon_status(text)
+        if status is None:
+            return
+        fields = self.fields
+        fields["chargingInhibited"] = status["chargingInhibited"]
+        fields["calibrationActive"] = status["calibrationActive"]
+        fields["daemonInstalled"] = status["daemonRunning"]
+        fields["chargeLimitStatus"] = self.limit_status(status.get("calibrationPhase"))
+
+    def limit_status(self, phase):
+        fields = self.fields
+        limit = int(fields["chargeLimitPercent"])
+        if fields["calibrationActive"]:
+            return "Calibrating: " + ("in progress" if phase is None else phase)
+        if fields["chargingInhibited"]:
+            return f"Holding at {limit}%"
+        if fields["chargeLimitEnabled"] and fields["isPluggedIn"] and fields["batteryPercent"] < limit:
+            return f"Charging to {limit}%"
+        return "Waiting for charger" if fields["chargeLimitEnabled"] and not fields["isPluggedIn"] else ""
 
     # Load of the processors
 
@@ -257,6 +286,27 @@ class Monitor:
         percent_per_hour = change * 3600.0 / (seconds if seconds > 1.0 else 1.0)
         fields["batteryRateStr"] = rate_text(change, percent_per_hour)
         fields["predictedTime"] = prediction(change, percent_per_hour, fields["batteryPercent"])
+
+
+def daemon_status(text):
+    """The helper's record, or None where the text is not wholly one."""
+    if text is None:
+        return None
+    try:
+        status = json.loads(text, object_pairs_hook=distinct_keys)
+    except ValueError:
+        return None
+    kinds = {"daemonRunning": (bool,), "chargingInhibited": (bool,), "calibrationActive": (bool,),
+             "batteryPercent": (int,), "lastUpdate": (int, float)}
+    if not isinstance(status, dict) or any(type(status.get(key)) not in kind for key, kind in kinds.items()):
+        return None
+    return status if isinstance(status.get("calibrationPhase"), (str, type(None))) else None
+
+
+def distinct_keys(pairs):
+    if len({key for key, _ in pairs}) < len(pairs):
+        raise ValueError("a key stands there twice")
+    return dict(pairs)
 
 
 def trimmed(piece):

@@ -42,6 +42,29 @@ def next_battery(rng, laptop, oddity):
     return random_boundary_battery(rng)
 
 
+def random_status(rng):
+    """The text of the helper's status.json: mostly whole, sometimes not what it should be."""
+    if rng.random() < 0.2:
+        return rng.choice(STATUSES)
+    status = {
+        "daemonRunning": rng.random() < 0.5,
+        "chargingInhibited": rng.random() < 0.5,
+        "calibrationActive": rng.random() < 0.3,
+        "batteryPercent": rng.randint(0, 100),
+        "lastUpdate": rng.choice((0, 1, 1700000000.25)),
+    }
+    if rng.random() < 0.6:
+        status["calibrationPhase"] = rng.choice((None, "", "discharging", "\u00fc %d"))
+    if rng.random() < 0.3:
+        status[rng.choice(list(status))] = rng.choice((None, 1, 1.5, True, "text", [], {}))
+    if rng.random() < 0.1:
+        del status[rng.choice(list(status))]
+    if rng.random() < 0.1:
+        status["unknown"] = [1, {"a": 2}]
+    text = json.dumps(status)
+    return text[:-1] if rng.random() < 0.05 else text
+
+
 def random_line(rng, time, battery, processors):
     line = {
         "time": time,
@@ -53,7 +76,7 @@ def random_line(rng, time, battery, processors):
     if rng.random() < 0.7:
         line["storageDraw"] = rng.choice((0, 1))
     if rng.random() < 0.2:
-        line["status"] = rng.choice(STATUSES)
+        line["status"] = random_status(rng)
     if rng.random() < 0.2:
         line["helperLoaded"] = rng.random() < 0.5
     if rng.random() < 0.05:

@@ -5,6 +5,7 @@
 #include "monitor/power_monitor.h"
 #include "platform/replay/replayed_machine.h"
 #include "support/fake_platform.h"
+#include "support/playing.h"
 
 namespace quelby {
 namespace {
@@ -17,11 +18,8 @@ protected:
         auto opened = ReplayedMachine::open(QUELBY_SOURCE_DIR "/resources/recordings/" + name + ".jsonl");
         EXPECT_TRUE(opened) << opened.error().sentence;
         auto& machine = *opened;
-        fake::NamedFolders folders;
-        fake::Loop loop;
-        fake::Choices preferences;
-        const auto monitor =
-            PowerMonitor::create({machine, machine, machine, folders, loop, preferences, machine});
+        fake::Computer rest;
+        const auto monitor = PowerMonitor::create(playing(machine, rest));
         int cycles = 0;
         monitor->onUpdate = [&] {
             ++cycles;
@@ -29,7 +27,7 @@ protected:
         };
         monitor->startMonitoring();
         while (!machine.isAtLastLine()) {
-            loop.fireTimers();
+            rest.runLoop.fireTimers();
         }
         return cycles;
     }

@@ -57,6 +57,57 @@ struct NamedFolders final : Folders {
     std::filesystem::path program() override { return support / "quelby"; }
 };
 
+struct Helper final : HelperFolder {
+    std::optional<std::string> configText;
+    std::optional<std::string> statusText;
+    int writes = 0;
+
+    std::optional<std::string> config() override { return configText; }
+
+    std::optional<std::string> status() override { return statusText; }
+
+    void replaceConfig(std::string_view text) override {
+        ++writes;
+        configText = text;
+    }
+};
+
+struct Services final : ServiceManager {
+    bool helperLoaded = false;
+    int questions = 0;
+
+    bool isHelperLoaded() override {
+        ++questions;
+        return helperLoaded;
+    }
+};
+
+// A user who agrees, or not.
+struct Administrator final : PrivilegedShell {
+    bool agrees = true;
+    std::vector<std::string> scripts;
+
+    bool run(const std::string& script) override {
+        scripts.push_back(script);
+        return agrees;
+    }
+};
+
+struct Login final : LoginItem {
+    bool works = true;
+    std::vector<std::string> wishes;
+
+    bool registerProgram() override {
+        wishes.emplace_back("register");
+        return works;
+    }
+
+    bool unregisterProgram() override {
+        wishes.emplace_back("unregister");
+        return works;
+    }
+};
+
 // Timers fire when the test says so.
 class Loop final : public RunLoop {
 public:
@@ -161,12 +212,26 @@ struct Computer {
     Processes processes;
     WallClock clock;
     NamedFolders folders;
+    Helper helper;
+    Login login;
     Loop runLoop;
     Choices preferences;
+    Administrator administrator;
+    Services services;
     Draw storageDraw;
 
     [[nodiscard]] Platform platform() {
-        return {battery, processes, clock, folders, runLoop, preferences, storageDraw};
+        return {.battery = battery,
+                .processes = processes,
+                .clock = clock,
+                .folders = folders,
+                .helperFolder = helper,
+                .loginItem = login,
+                .runLoop = runLoop,
+                .preferences = preferences,
+                .privilegedShell = administrator,
+                .serviceManager = services,
+                .storageDraw = storageDraw};
     }
 };
 

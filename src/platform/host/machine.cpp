@@ -4,6 +4,7 @@
 #include <random>
 
 #include "platform/host/chosen_folders.h"
+#include "platform/posix/helper_files.h"
 #include "platform/posix/system_clock.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_run_loop.h"
@@ -59,6 +60,38 @@ ChosenFolders::Named namedFolders(const MachineOptions& options) {
         .applicationSupport = options.dataDir, .configuration = std::nullopt, .helper = options.configDir};
 }
 
+// What the recorded helper said; where it said nothing, what lies in the folder.
+class RecordedHelper final : public HelperFolder {
+public:
+    RecordedHelper(const ReplayedMachine& machine, std::filesystem::path folder)
+        : machine_(machine), files_(std::move(folder)) {}
+
+    [[nodiscard]] std::optional<std::string> config() override { return files_.config(); }
+
+    [[nodiscard]] std::optional<std::string> status() override {
+        return machine_.helperStatus() ? machine_.helperStatus() : files_.status();
+    }
+
+    void replaceConfig(std::string_view text) override { files_.replaceConfig(text); }
+
+private:
+    const ReplayedMachine& machine_;
+    HelperFiles files_;
+};
+
+// A demonstration installs nothing, and nobody is asked for a password.
+class NoPrivileges final : public PrivilegedShell {
+public:
+    [[nodiscard]] bool run(const std::string&) override { return false; }
+};
+
+class NoLoginItem final : public LoginItem {
+public:
+    [[nodiscard]] bool registerProgram() override { return false; }
+
+    [[nodiscard]] bool unregisterProgram() override { return false; }
+};
+
 class ThisComputer final : public Machine {
 public:
     explicit ThisComputer(const MachineOptions& options)
@@ -67,8 +100,17 @@ public:
         , preferences_(options.preferences) {}
 
     [[nodiscard]] Platform platform() override {
-        return {*readers_.battery, *readers_.processes, clock_,      folders_,
-                runLoop_,          preferences_,        storageDraw_};
+        return {.battery = *readers_.battery,
+                .processes = *readers_.processes,
+                .clock = clock_,
+                .folders = folders_,
+                .helperFolder = helper_,
+                .loginItem = *services_.loginItem,
+                .runLoop = runLoop_,
+                .preferences = preferences_,
+                .privilegedShell = *services_.privilegedShell,
+                .serviceManager = *services_.serviceManager,
+                .storageDraw = storageDraw_};
     }
 
     [[nodiscard]] MachineKind kind() const override { return MachineKind::thisComputer; }
@@ -79,6 +121,8 @@ private:
     SystemReaders readers_;
     SystemClock clock_;
     ChosenFolders folders_;
+    HelperFiles helper_{folders_.helper()};
+    SystemServices services_ = makeSystemServices(folders_);
     QtRunLoop runLoop_;
     QtPreferences preferences_;
     RandomStorageDraw storageDraw_{std::random_device{}()};
@@ -92,7 +136,17 @@ public:
         , preferences_(makePreferences(options)) {}
 
     [[nodiscard]] Platform platform() override {
-        return {machine_, machine_, machine_, folders_, runLoop_, *preferences_, machine_};
+        return {.battery = machine_,
+                .processes = machine_,
+                .clock = machine_,
+                .folders = folders_,
+                .helperFolder = helper_,
+                .loginItem = loginItem_,
+                .runLoop = runLoop_,
+                .preferences = *preferences_,
+                .privilegedShell = privilegedShell_,
+                .serviceManager = machine_,
+                .storageDraw = machine_};
     }
 
     [[nodiscard]] MachineKind kind() const override { return MachineKind::recorded; }
@@ -109,6 +163,9 @@ private:
 
     ReplayedMachine machine_;
     DemonstrationFolders folders_;
+    RecordedHelper helper_{machine_, folders_.helper()};
+    NoLoginItem loginItem_;
+    NoPrivileges privilegedShell_;
     QtRunLoop runLoop_;
     std::unique_ptr<Preferences> preferences_;
 };

@@ -1,5 +1,8 @@
+#include "platform/linux/autostart_entry.h"
 #include "platform/linux/battery/sysfs_battery_source.h"
+#include "platform/linux/pkexec_shell.h"
 #include "platform/linux/processes/proc_process_lister.h"
+#include "platform/linux/systemd_service_manager.h"
 #include "platform/linux/xdg_folders.h"
 #include "platform/system_readers.h"
 
@@ -12,6 +15,11 @@ SystemReaders makeSystemReaders(const SystemRoots& roots) {
 
 std::unique_ptr<Folders> makeSystemFolders() {
     return std::make_unique<XdgFolders>();
+}
+
+SystemServices makeSystemServices(Folders& folders) {
+    return {std::make_unique<AutostartEntry>(folders.configuration(), folders.program()),
+            std::make_unique<PkexecShell>(), std::make_unique<SystemdServiceManager>()};
 }
 
 } // namespace quelby

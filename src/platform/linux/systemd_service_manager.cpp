@@ -1,11 +1,15 @@
 #include "platform/linux/systemd_service_manager.h"
 
 #include "platform/posix/child_process.h"
+#include "platform/posix/service_query.h"
 
 namespace quelby {
 
 bool SystemdServiceManager::isHelperLoaded() {
-    return runToTheEnd({"systemctl", "is-active", "--quiet", "com.quelby.limiter.service"}) == 0;
+    const auto query = systemdQuery();
+    auto words = query.arguments;
+    words.insert(words.begin(), query.program);
+    return runToTheEnd(words) == 0;
 }
 
 } // namespace quelby

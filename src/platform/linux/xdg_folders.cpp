@@ -5,6 +5,8 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include "platform/helper_names.h"
+
 namespace quelby {
 
 namespace {
@@ -39,7 +41,7 @@ std::filesystem::path XdgFolders::configuration() {
 }
 
 std::filesystem::path XdgFolders::helper() {
-    return "/var/lib/quelby";
+    return linux_helper::folder;
 }
 
 std::optional<std::filesystem::path> XdgFolders::resources() {

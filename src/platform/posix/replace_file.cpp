@@ -18,9 +18,10 @@ bool replaceFile(const std::filesystem::path& file, std::string_view content, mo
     if (!opened.isOpen()) {
         return false;
     }
+    static_cast<void>(::fchmod(opened.number(), mode)); // some file systems have no modes
     // Flushed before it gets the name: after a loss of power there is the old text or the new one as well.
-    const bool replaced = writeWhole(opened.number(), content) && ::fchmod(opened.number(), mode) == 0 &&
-                          ::fsync(opened.number()) == 0 && ::rename(neighbour.c_str(), file.c_str()) == 0;
+    const bool replaced = writeWhole(opened.number(), content) && ::fsync(opened.number()) == 0 &&
+                          ::rename(neighbour.c_str(), file.c_str()) == 0;
     if (!replaced) {
         ::unlink(neighbour.c_str());
     }

@@ -7,6 +7,7 @@ namespace quelby {
 RecordedCycle MachineRecorder::takeCycle() {
     // Asked for here, because a cycle whose lister fails does not ask.
     cycle_.processors = real_.processes.logicalProcessors();
+    cycle_.helperLoaded = helperLoaded_;
     return std::exchange(cycle_, {});
 }
 
@@ -38,6 +39,22 @@ int MachineRecorder::draw() {
     const int drawn = real_.storageDraw.draw();
     cycle_.storageDraw = drawn;
     return drawn;
+}
+
+std::optional<std::string> MachineRecorder::config() {
+    return real_.helperFolder.config();
+}
+
+std::optional<std::string> MachineRecorder::status() {
+    return cycle_.status = real_.helperFolder.status();
+}
+
+void MachineRecorder::replaceConfig(std::string_view text) {
+    real_.helperFolder.replaceConfig(text);
+}
+
+bool MachineRecorder::isHelperLoaded() {
+    return helperLoaded_ = real_.serviceManager.isHelperLoaded();
 }
 
 } // namespace quelby

@@ -7,13 +7,23 @@
 namespace quelby {
 
 // The platform that it offers passes every question on to the real one and notes the answer.
-class MachineRecorder final : BatterySource, ProcessLister, Clock, StorageDraw {
+class MachineRecorder final : BatterySource, ProcessLister, Clock, HelperFolder, ServiceManager, StorageDraw {
 public:
     // The real platform's parts outlive the recorder.
     explicit MachineRecorder(const Platform& real) : real_(real) {}
 
     [[nodiscard]] Platform platform() {
-        return {*this, *this, *this, real_.folders, real_.runLoop, real_.preferences, *this};
+        return {.battery = *this,
+                .processes = *this,
+                .clock = *this,
+                .folders = real_.folders,
+                .helperFolder = *this,
+                .loginItem = real_.loginItem,
+                .runLoop = real_.runLoop,
+                .preferences = real_.preferences,
+                .privilegedShell = real_.privilegedShell,
+                .serviceManager = *this,
+                .storageDraw = *this};
     }
 
     // The answers since the last call: those of one cycle, if called at the end of each.
@@ -26,10 +36,15 @@ private:
     std::int64_t logicalProcessors() override;
     double now() override;
     double startOfDay() override;
+    std::optional<std::string> config() override;
+    std::optional<std::string> status() override;
+    void replaceConfig(std::string_view text) override;
+    bool isHelperLoaded() override;
     int draw() override;
 
     Platform real_;
     RecordedCycle cycle_;
+    bool helperLoaded_ = false; // as was told at the start, and holds for every cycle
 };
 
 } // namespace quelby

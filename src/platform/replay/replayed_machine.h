@@ -7,6 +7,7 @@
 #include "platform/process_lister.h"
 #include "platform/random_storage_draw.h"
 #include "platform/replay/recording_reader.h"
+#include "platform/service_manager.h"
 
 namespace quelby {
 
@@ -16,7 +17,11 @@ enum class AfterLastLine { stay, startAgain };
 // It answers everything from one line of the recording, and its clock stands still at that line's time.
 // Reading the battery is how a cycle begins, so that is what goes on to the next line: the first reading
 // belongs to the first line.
-class ReplayedMachine final : public BatterySource, public ProcessLister, public Clock, public StorageDraw {
+class ReplayedMachine final : public BatterySource,
+                              public ProcessLister,
+                              public Clock,
+                              public ServiceManager,
+                              public StorageDraw {
 public:
     [[nodiscard]] static Result<ReplayedMachine> open(const std::filesystem::path& recording,
                                                       AfterLastLine afterLastLine = AfterLastLine::stay);
@@ -35,6 +40,11 @@ public:
     [[nodiscard]] double now() override { return present_.time + clockAdvance_; }
 
     [[nodiscard]] double startOfDay() override;
+
+    // The text of the helper's status.json, where there was one.
+    [[nodiscard]] const std::optional<std::string>& helperStatus() const { return present_.status; }
+
+    [[nodiscard]] bool isHelperLoaded() override { return present_.helperLoaded; }
 
     // Where nothing was recorded, the same draws come at every replay.
     [[nodiscard]] int draw() override;

@@ -8,6 +8,7 @@
 #include "platform/replay/recording_line.h"
 #include "platform/replay/replayed_machine.h"
 #include "support/fake_platform.h"
+#include "support/playing.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -100,15 +101,12 @@ TEST(MachineRecorder, MakesARecordingThatGivesTheSameFields) {
     const TemporaryFolder folder;
     auto machine = ReplayedMachine::open(folder.write("it.jsonl", recording));
     ASSERT_TRUE(machine);
-    fake::NamedFolders folders;
-    fake::Loop loop;
-    fake::Choices preferences;
-    const auto replayed =
-        PowerMonitor::create({*machine, *machine, *machine, folders, loop, preferences, *machine});
+    fake::Computer rest;
+    const auto replayed = PowerMonitor::create(playing(*machine, rest));
     replayed->startMonitoring();
     for (const auto& values : expected) {
         ASSERT_EQ(valuesOf(*replayed), values);
-        loop.fireTimers();
+        rest.runLoop.fireTimers();
     }
     EXPECT_TRUE(machine->isAtLastLine());
 }

@@ -1,0 +1,82 @@
+// What the monitor tells the charge-limit helper, and hears from it.
+
+#include "base/arithmetic.h"
+#include "helper/charge_limit_status.h"
+#include "helper/daemon_config.h"
+#include "helper/daemon_status.h"
+#include "monitor/power_monitor.h"
+
+namespace quelby {
+
+void PowerMonitor::loadDaemonConfig() {
+    const auto text = platform_.helperFolder.config();
+    const auto config = text ? decodeDaemonConfig(*text) : std::nullopt;
+    if (!config) {
+        return;
+    }
+    chargeLimitEnabled = config->chargeLimitEnabled;
+    chargeLimitPercent = static_cast<double>(config->chargeLimitPercent);
+    calibrationEnabled = config->calibrationEnabled;
+    calibrationIntervalDays = config->calibrationIntervalDays;
+    if (config->lastCalibrationTimestamp > 0) {
+        lastCalibrationDate = config->lastCalibrationTimestamp;
+    }
+}
+
+void PowerMonitor::writeDaemonConfig() {
+    const auto text = encode(DaemonConfig{.chargeLimitEnabled = chargeLimitEnabled,
+                                          .chargeLimitPercent = truncated(chargeLimitPercent),
+                                          .calibrationEnabled = calibrationEnabled,
+                                          .calibrationIntervalDays = calibrationIntervalDays,
+                                          .lastCalibrationTimestamp = lastCalibrationDate.get().value_or(0)});
+    if (text) {
+        platform_.helperFolder.replaceConfig(*text);
+    }
+}
+
+void PowerMonitor::checkDaemonInstalled() {
+    daemonInstalled = platform_.serviceManager.isHelperLoaded();
+}
+
+// A helper that no longer writes leaves its last words standing: how old they are is not looked at.
+void PowerMonitor::readDaemonStatus() {
+    const auto text = platform_.helperFolder.status();
+    auto status = text ? decodeDaemonStatus(*text) : std::nullopt;
+    if (!status) {
+        return;
+    }
+    chargingInhibited = status->chargingInhibited;
+    calibrationActive = status->calibrationActive;
+    daemonInstalled = status->daemonRunning;
+    chargeLimitStatus = quelby::chargeLimitStatus({.calibrationActive = calibrationActive,
+                                                   .calibrationPhase = std::move(status->calibrationPhase),
+                                                   .chargingInhibited = chargingInhibited,
+                                                   .chargeLimitEnabled = chargeLimitEnabled,
+                                                   .isPluggedIn = isPluggedIn,
+                                                   .batteryPercent = batteryPercent,
+                                                   .chargeLimitPercent = chargeLimitPercent});
+}
+
+void PowerMonitor::toggleChargeLimit(bool enabled) {
+    constexpr std::string_view tipShown = "hasShownChargingTip";
+    chargeLimitEnabled = enabled;
+    writeDaemonConfig();
+    if (!enabled || platform_.preferences.flag(tipShown)) {
+        return;
+    }
+    platform_.preferences.setFlag(tipShown, true);
+    shouldShowChargingTip = true;
+}
+
+void PowerMonitor::setChargeLimit(double percent) {
+    chargeLimitPercent = percent;
+    writeDaemonConfig();
+}
+
+void PowerMonitor::updateCalibrationSettings(bool enabled, Int days) {
+    calibrationEnabled = enabled;
+    calibrationIntervalDays = days;
+    writeDaemonConfig();
+}
+
+} // namespace quelby

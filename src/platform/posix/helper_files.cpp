@@ -1,0 +1,35 @@
+#include "platform/posix/helper_files.h"
+
+#include "platform/posix/shared_file.h"
+
+namespace quelby {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t longestText = 64 << 10; // bytes; a real one has some hundred
+
+void makeOpenFolder(const fs::path& folder) {
+    std::error_code ignored;
+    if (fs::create_directories(folder, ignored)) {
+        fs::permissions(folder, fs::perms::all, ignored);
+    }
+}
+
+} // namespace
+
+std::optional<std::string> HelperFiles::config() {
+    return readSharedFile(configFile(), longestText);
+}
+
+std::optional<std::string> HelperFiles::status() {
+    return readSharedFile(folder_ / "status.json", longestText);
+}
+
+void HelperFiles::replaceConfig(std::string_view text) {
+    makeOpenFolder(folder_);
+    writeSharedFile(configFile(), text);
+}
+
+} // namespace quelby

@@ -1,0 +1,33 @@
+// The folder through which this program and the charge-limit helper talk, any number of users with one helper
+// that runs as root:
+//
+//   config.json   what the helper is to do; written by this program
+//   status.json   what it is doing; written by the helper alone
+//
+// Nobody locks anything. Whoever reads a file that is not whole passes over it, and reads again in time.
+#pragma once
+
+#include <filesystem>
+
+#include "platform/helper_folder.h"
+
+namespace quelby {
+
+class HelperFiles final : public HelperFolder {
+public:
+    explicit HelperFiles(std::filesystem::path folder) : folder_(std::move(folder)) {}
+
+    // Nothing also where a file is longer than 64 KiB. Neither waits, whatever lies there.
+    [[nodiscard]] std::optional<std::string> config() override;
+    [[nodiscard]] std::optional<std::string> status() override;
+
+    // A folder that it makes is open to everybody, and so is the file, whatever the process's umask.
+    void replaceConfig(std::string_view text) override;
+
+private:
+    [[nodiscard]] std::filesystem::path configFile() const { return folder_ / "config.json"; }
+
+    std::filesystem::path folder_;
+};
+
+} // namespace quelby

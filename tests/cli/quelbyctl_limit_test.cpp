@@ -1,0 +1,93 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include "support/laptop_recording.h"
+#include "support/quelbyctl.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class QuelbyctlLimit : public testing::Test {
+protected:
+    [[nodiscard]] ProgramResult ctl(std::vector<std::string> words) const {
+        words.insert(words.end(), {"--replay", recording, "--config-dir", folder.path() / "helper",
+                                   "--preferences", folder.path() / "preferences.conf"});
+        return quelbyctl(words);
+    }
+
+    [[nodiscard]] nlohmann::json config() const {
+        return nlohmann::json::parse(folder.read("helper/config.json"));
+    }
+
+    TemporaryFolder folder;
+    std::string recording = folder.write("it.jsonl", laptopRecording(3));
+};
+
+TEST_F(QuelbyctlLimit, ShowsAndChangesNothing) {
+    for (const auto& words : std::vector<std::vector<std::string>>{{"limit"}, {"limit", "show"}}) {
+        EXPECT_EQ(ctl(words).output, "charge limit off, 80%\n");
+    }
+    EXPECT_EQ(ctl({"calibration"}).output, "calibration off, every 30 days, never done\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "helper"));
+}
+
+TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {
+    EXPECT_EQ(ctl({"limit", "on"}).output, "charge limit on, 80%, but the helper is not installed\n");
+    EXPECT_EQ(config()["chargeLimitEnabled"], true);
+    EXPECT_THAT(folder.read("preferences.conf"), HasSubstr("hasShownChargingTip=true"));
+    EXPECT_EQ(ctl({"limit", "95"}).exitStatus, 0);
+    EXPECT_EQ(config()["chargeLimitPercent"], 95);
+    EXPECT_EQ(config()["chargeLimitEnabled"], true);
+    EXPECT_EQ(ctl({"limit", "off"}).output, "charge limit off, 95%\n");
+    EXPECT_EQ(ctl({"calibration", "60"}).exitStatus, 0);
+    EXPECT_EQ(config()["calibrationEnabled"], true);
+    EXPECT_EQ(config()["calibrationIntervalDays"], 60);
+    EXPECT_EQ(ctl({"calibration", "off"}).output, "calibration off, every 60 days, never done\n");
+    EXPECT_EQ(config()["calibrationIntervalDays"], 60);
+    EXPECT_EQ(config()["chargeLimitPercent"], 95);
+}
+
+TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
+    folder.write("helper/status.json",
+                 R"({"daemonRunning":true,"chargingInhibited":true,"calibrationActive":false,)"
+                 R"("batteryPercent":80,"lastUpdate":0})");
+    EXPECT_EQ(ctl({"limit", "on"}).output, "charge limit on, 80%: Holding at 80%\n");
+    EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\n");
+}
+
+TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {
+    for (const auto* value : {"15", "101", "83", "80.0", "-80", "yes", ""}) {
+        EXPECT_EQ(ctl({"limit", value}).exitStatus, 2) << value;
+    }
+    for (const auto* value : {"1", "31", "week", "-7"}) {
+        EXPECT_EQ(ctl({"calibration", value}).exitStatus, 2) << value;
+    }
+    EXPECT_EQ(ctl({"helper", "restart"}).exitStatus, 2);
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "helper"));
+}
+
+TEST_F(QuelbyctlLimit, SaysWhereTheSettingsCannotBeWritten) {
+    const auto refused = quelbyctl({"limit", "on", "--replay", recording, "--config-dir", recording});
+    EXPECT_EQ(refused.exitStatus, 1);
+    EXPECT_THAT(refused.output, IsEmpty());
+    EXPECT_EQ(refused.errors, "quelbyctl: cannot write the helper's settings to \"" + recording + "\"\n");
+}
+
+TEST_F(QuelbyctlLimit, InstallsNothingForARecordingNorWhatDidNotComeWithTheProgram) {
+    EXPECT_EQ(ctl({"helper", "install"}).errors,
+              "quelbyctl: a recorded machine has no helper that could be installed or removed\n");
+    const auto missing = quelbyctl({"helper", "install", "--config-dir", folder.path() / "helper"});
+    EXPECT_EQ(missing.exitStatus, 1);
+    EXPECT_EQ(
+        missing.errors,
+        "quelbyctl: cannot install the helper: its program \"pwr_limiter\" did not come with this one\n");
+    EXPECT_FALSE(std::filesystem::exists(folder.path() / "helper"));
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,206 @@
+#include "platform/posix/helper_files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "platform/posix/ordinary_user.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+namespace {
+
+namespace fs = std::filesystem;
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+constexpr std::size_t longestText = 64 << 10;
+
+mode_t modeOf(const fs::path& path) {
+    struct stat status {};
+
+    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
+}
+
+// The mask of this process for files that it makes, until the end of the block.
+class Umask {
+public:
+    explicit Umask(mode_t mask) : former_(::umask(mask)) {}
+
+    Umask(const Umask&) = delete;
+    Umask& operator=(const Umask&) = delete;
+
+    ~Umask() { ::umask(former_); }
+
+private:
+    mode_t former_;
+};
+
+class HelperFilesTest : public testing::Test {
+protected:
+    void SetUp() override { fs::permissions(folder.path(), fs::perms(0755)); }
+
+    void TearDown() override { fs::permissions(folder.path(), fs::perms(0755)); }
+
+    // Nobody may make, replace or remove a file in it.
+    void closeFolder() const { fs::permissions(folder.path(), fs::perms(0555)); }
+
+    [[nodiscard]] std::vector<std::string> names() const {
+        std::vector<std::string> names;
+        for (const auto& entry : fs::directory_iterator(folder.path())) {
+            names.push_back(entry.path().filename());
+        }
+        return names;
+    }
+
+    TemporaryFolder folder;
+    HelperFiles files{folder.path()};
+    fs::path config = folder.path() / "config.json";
+};
+
+TEST_F(HelperFilesTest, AreReadWhole) {
+    folder.write("config.json", "the config\n");
+    folder.write("status.json", "");
+    EXPECT_EQ(files.config(), "the config\n");
+    EXPECT_EQ(files.status(), "");
+}
+
+TEST_F(HelperFilesTest, AreReadThroughALink) {
+    folder.write("elsewhere", "text");
+    fs::create_symlink("elsewhere", folder.path() / "status.json");
+    EXPECT_EQ(files.status(), "text");
+}
+
+TEST_F(HelperFilesTest, GiveNothingWhereThereIsNoRegularFile) {
+    EXPECT_EQ(files.config(), std::nullopt);
+    fs::create_directory(config);
+    EXPECT_EQ(files.config(), std::nullopt);
+    fs::create_symlink("missing", folder.path() / "status.json");
+    EXPECT_EQ(files.status(), std::nullopt);
+    EXPECT_EQ(HelperFiles("/nonexistent").status(), std::nullopt);
+}
+
+TEST_F(HelperFilesTest, DoNotWaitForAPipeNorReadADevice) {
+    ASSERT_EQ(::mkfifo((folder.path() / "status.json").c_str(), 0666), 0);
+    fs::create_symlink("/dev/zero", config);
+    EXPECT_EQ(files.status(), std::nullopt);
+    EXPECT_EQ(files.config(), std::nullopt);
+}
+
+TEST_F(HelperFilesTest, GiveNothingLongerThanARecord) {
+    const std::string longest(longestText, ' ');
+    folder.write("config.json", longest);
+    folder.write("status.json", longest + ' ');
+    EXPECT_EQ(files.config(), longest);
+    EXPECT_EQ(files.status(), std::nullopt);
+}
+
+TEST_F(HelperFilesTest, GiveNothingThatMayNotBeRead) {
+    folder.write("status.json", "secret");
+    fs::permissions(folder.path() / "status.json", fs::perms(0));
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] {
+        if (files.status()) {
+            ::_exit(2);
+        }
+    }));
+}
+
+TEST_F(HelperFilesTest, OpenFolderAndFileToEverybodyWhateverTheUmask) {
+    const Umask mask(0077);
+    const auto shared = folder.path() / "made" / "shared";
+    HelperFiles(shared).replaceConfig("text");
+    EXPECT_EQ(folder.read("made/shared/config.json"), "text");
+    EXPECT_EQ(modeOf(shared), 0777U);
+    EXPECT_EQ(modeOf(shared / "config.json"), 0666U);
+    EXPECT_EQ(modeOf(shared.parent_path()), 0700U);
+}
+
+TEST_F(HelperFilesTest, MakeAFolderThatIsNamedWithASlash) {
+    HelperFiles(folder.path() / "shared/").replaceConfig("text");
+    EXPECT_EQ(folder.read("shared/config.json"), "text");
+    EXPECT_EQ(modeOf(folder.path() / "shared"), 0777U);
+}
+
+TEST_F(HelperFilesTest, LeaveTheModeOfAFolderThatIsThere) {
+    files.replaceConfig("text");
+    EXPECT_EQ(modeOf(folder.path()), 0755U);
+}
+
+TEST_F(HelperFilesTest, ReplaceTheConfigAndLeaveNothingBesideIt) {
+    folder.write("config.json", "an older and longer text");
+    fs::permissions(config, fs::perms(0600));
+    fs::create_hard_link(config, folder.path() / "the old one");
+    files.replaceConfig("new");
+    EXPECT_EQ(folder.read("config.json"), "new");
+    EXPECT_EQ(modeOf(config), 0666U);
+    EXPECT_EQ(folder.read("the old one"), "an older and longer text");
+    fs::remove(folder.path() / "the old one");
+    EXPECT_THAT(names(), ElementsAre("config.json"));
+}
+
+TEST_F(HelperFilesTest, ReplaceWhateverElseLiesThere) {
+    ASSERT_EQ(::mkfifo(config.c_str(), 0666), 0);
+    files.replaceConfig("text");
+    EXPECT_EQ(files.config(), "text");
+}
+
+// Anybody may lay a link into the folder, and root may be the one who writes.
+TEST_F(HelperFilesTest, LeaveAloneWhatALinkLeadsTo) {
+    folder.write("precious", "untouched");
+    fs::create_symlink("precious", config);
+    files.replaceConfig("text");
+    EXPECT_EQ(folder.read("precious"), "untouched");
+    EXPECT_EQ(files.config(), "text");
+    EXPECT_FALSE(fs::is_symlink(config));
+}
+
+TEST_F(HelperFilesTest, AreRewrittenInPlaceWhereTheFolderIsClosed) {
+    folder.write("config.json", "an older and longer text");
+    fs::permissions(config, fs::perms(0666));
+    closeFolder();
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("new"); }));
+    EXPECT_EQ(folder.read("config.json"), "new");
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("and longer again"); }));
+    EXPECT_EQ(folder.read("config.json"), "and longer again");
+    EXPECT_THAT(names(), ElementsAre("config.json"));
+}
+
+TEST_F(HelperFilesTest, FollowNoLinkInAClosedFolder) {
+    folder.write("precious", "untouched");
+    fs::permissions(folder.path() / "precious", fs::perms(0666));
+    fs::create_symlink("precious", config);
+    closeFolder();
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("text"); }));
+    EXPECT_EQ(folder.read("precious"), "untouched");
+}
+
+TEST_F(HelperFilesTest, DoNotWaitForAPipeInAClosedFolder) {
+    ASSERT_EQ(::mkfifo(config.c_str(), 0666), 0);
+    fs::permissions(config, fs::perms(0666));
+    closeFolder();
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("text"); }));
+    EXPECT_TRUE(fs::is_fifo(config));
+}
+
+TEST_F(HelperFilesTest, StayAsTheyWereWhereNothingMayBeWritten) {
+    folder.write("config.json", "old");
+    fs::permissions(config, fs::perms(0444));
+    closeFolder();
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("new"); }));
+    EXPECT_EQ(folder.read("config.json"), "old");
+}
+
+TEST_F(HelperFilesTest, PassOverAFolderThatCannotBe) {
+    folder.write("a file", "content");
+    HelperFiles(folder.path() / "a file").replaceConfig("text");
+    HelperFiles(folder.path() / "a file" / "below").replaceConfig("text");
+    EXPECT_EQ(folder.read("a file"), "content");
+    fs::create_directories(config / "not empty");
+    files.replaceConfig("text");
+    EXPECT_TRUE(fs::is_directory(config));
+    EXPECT_THAT(names(), UnorderedElementsAre("a file", "config.json"));
+}
+
+} // namespace
+} // namespace quelby
