@@ -1,5 +1,6 @@
 #include "helper/launchd_property_list.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/program.h"
@@ -35,6 +36,18 @@ TEST_F(LaunchdPropertyList, IsWellFormed) {
     const auto check = runProgram({"/usr/bin/env", "xmllint", "--nonet", "--noout", file});
     EXPECT_EQ(check.exitStatus, 0) << check.errors;
     EXPECT_EQ(check.errors, "");
+}
+
+// Its exit status is 0 also for a broken file, so what it makes of this one is looked at.
+TEST_F(LaunchdPropertyList, IsReadByThePropertyListTool) {
+    const auto converted = runProgram({"/usr/bin/env", "plistutil", "-i", file, "-f", "xml"});
+    EXPECT_EQ(converted.errors, "");
+    for (const auto* content :
+         {"<key>Label</key>", "<string>com.quelby.limiter</string>", "<key>ProgramArguments</key>",
+          "<string>/Library/PrivilegedHelperTools/pwr_limiter</string>", "<key>RunAtLoad</key>",
+          "<key>KeepAlive</key>"}) {
+        EXPECT_THAT(converted.output, testing::HasSubstr(content));
+    }
 }
 
 TEST_F(LaunchdPropertyList, SaysWhatIsStartedAndWhen) {

@@ -1,23 +1,27 @@
 #include "platform/host/temporary_folder.h"
 
-#include <cstdlib>
-#include <string>
+#include <random>
+
+#include <fmt/format.h>
 
 namespace quelby {
 
-namespace fs = std::filesystem;
+namespace {
 
-TemporaryFolder::TemporaryFolder() {
-    std::error_code ignored;
-    std::string name = (fs::temp_directory_path(ignored) / "quelby-XXXXXX").string();
-    path_ = ::mkdtemp(name.data()) == nullptr ? fs::path("/dev/null") : fs::path(name);
+std::filesystem::path unknownName() {
+    std::random_device random;
+    std::error_code failure;
+    const auto folder = std::filesystem::temp_directory_path(failure);
+    return (failure ? "/tmp" : folder) / fmt::format("quelby-{:08x}{:08x}", random(), random());
 }
+
+} // namespace
+
+TemporaryFolder::TemporaryFolder() : path_(unknownName()) {}
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code ignored;
-    if (path_ != "/dev/null") {
-        fs::remove_all(path_, ignored);
-    }
+    std::filesystem::remove_all(path_, ignored);
 }
 
 } // namespace quelby

@@ -4,7 +4,8 @@
 
 namespace quelby {
 
-// A new, empty folder for this user alone, which goes with this object.
+// A folder that nobody else knows, and that goes with this object. It is made by whoever first writes to it,
+// so that those who only read leave no trace.
 class TemporaryFolder {
 public:
     TemporaryFolder();
@@ -12,7 +13,6 @@ public:
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
     ~TemporaryFolder();
 
-    // A path below which nothing can be made, where the folder could not be made.
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
 private:
