@@ -115,11 +115,12 @@ void HistoryStore::addReading(double watts, std::int64_t batteryPct, bool isChar
     if (!db_ || access_ != HistoryAccess::recording) {
         return;
     }
+    const auto timestamp = truncated(clock_.now());
     {
         Statement insertion(db_.get(),
                             "INSERT OR REPLACE INTO readings (timestamp, watts, battery_pct, is_charging, "
                             "cpu_usage) VALUES (?, ?, ?, ?, ?)");
-        insertion.bind(1, truncated(clock_.now()));
+        insertion.bind(1, timestamp);
         insertion.bind(2, watts);
         insertion.bind(3, in32Bits(batteryPct));
         insertion.bind(4, isCharging ? 1 : 0);
@@ -150,10 +151,11 @@ HistoryResult HistoryStore::loadData(TimeRange range) {
     if (!db_) {
         return {};
     }
+    const auto cutoff = truncated(clock_.now() - seconds(range));
     Statement query(db_.get(),
                     fmt::format("SELECT timestamp, watts FROM {} WHERE timestamp > ? ORDER BY timestamp",
                                 tableOf(range)));
-    query.bind(1, truncated(clock_.now() - seconds(range)));
+    query.bind(1, cutoff);
     std::vector<HistoryDataPoint> points;
     while (query.step()) {
         points.push_back({query.integer(0), query.number(1)});

@@ -20,7 +20,7 @@ ChosenFolders::Named completed(const ChosenFolders::Named& named, const fs::path
 
 } // namespace
 
-ChosenFolders::ChosenFolders(std::unique_ptr<Folders> system, Named named)
+ChosenFolders::ChosenFolders(std::unique_ptr<Folders> system, const Named& named)
     : system_(std::move(system))
     , named_{.applicationSupport = absolute(named.applicationSupport),
              .configuration = absolute(named.configuration),

@@ -17,7 +17,7 @@ public:
         std::optional<std::filesystem::path> helper;
     };
 
-    ChosenFolders(std::unique_ptr<Folders> system, Named named);
+    ChosenFolders(std::unique_ptr<Folders> system, const Named& named);
 
     [[nodiscard]] std::filesystem::path applicationSupport() override;
     [[nodiscard]] std::filesystem::path configuration() override;

@@ -14,8 +14,6 @@ namespace quelby {
 
 namespace {
 
-namespace fs = std::filesystem;
-
 // Preferences of a demonstration, which nobody keeps.
 class MemoryPreferences final : public Preferences {
 public:

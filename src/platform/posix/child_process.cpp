@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-extern char** environ; // POSIX has it, and no header that declares it
+extern char** environ; // NOLINT(readability-redundant-declaration): POSIX has it, but in no header
 
 namespace quelby {
 

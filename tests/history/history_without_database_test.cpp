@@ -1,0 +1,125 @@
+#include <gmock/gmock.h>
+
+#include "abandoned_handle.h"
+#include "history_fixture.h"
+
+namespace quelby {
+namespace {
+
+using testing::SizeIs;
+
+namespace fs = std::filesystem;
+
+HistoryStore storeThatCannotOpen(const fs::path& applicationSupport, Clock& clock) {
+    return abandoningTheHandle(
+        [&] { return HistoryStore(applicationSupport, clock, HistoryAccess::recording); });
+}
+
+void expectNothing(HistoryStore& store) {
+    store.addReading(10, 50, false, 25);
+    for (const auto range : allTimeRanges) {
+        EXPECT_EQ(store.loadData(range), HistoryResult{}) << label(range);
+    }
+    EXPECT_EQ(store.todayWh(), 0.0);
+}
+
+TEST(HistoryWithoutDatabase, RecordsNothingWhereNoFolderCanBeMade) {
+    const TemporaryFolder folder;
+    const auto regularFile = folder.write("file", "mine");
+    SetClock clock;
+    for (const fs::path& support : {regularFile, regularFile / "below", fs::path("/proc/nowhere")}) {
+        auto store = storeThatCannotOpen(support, clock);
+        expectNothing(store);
+        EXPECT_FALSE(fs::exists(historyFile(support)));
+    }
+    EXPECT_EQ(folder.read("file"), "mine");
+}
+
+TEST(HistoryWithoutDatabase, RecordsNothingWhereAFileIsInTheFoldersPlace) {
+    const TemporaryFolder folder;
+    SetClock clock;
+    folder.write("Quelby", "mine");
+    auto store = storeThatCannotOpen(folder.path(), clock);
+    expectNothing(store);
+    EXPECT_EQ(folder.read("Quelby"), "mine");
+}
+
+TEST(HistoryWithoutDatabase, RecordsNothingWhereAFolderIsInTheFilesPlace) {
+    const TemporaryFolder folder;
+    SetClock clock;
+    fs::create_directories(historyFile(folder.path()));
+    auto store = storeThatCannotOpen(folder.path(), clock);
+    expectNothing(store);
+    EXPECT_TRUE(fs::is_empty(historyFile(folder.path())));
+}
+
+TEST(HistoryWithoutDatabase, IsEmptyForAReaderAndStaysAway) {
+    const TemporaryFolder folder;
+    SetClock clock;
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    expectNothing(reader);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+using HistoryWithABadDatabase = HistoryTest;
+
+TEST_F(HistoryWithABadDatabase, LeavesAFileOfAnotherKindAsItIs) {
+    store.reset();
+    const std::string text = "Dear diary,\n" + std::string(10'000, '.');
+    folder.write("Quelby/history.db", text);
+    for (const auto access : {HistoryAccess::recording, HistoryAccess::readOnly}) {
+        HistoryStore other(folder.path(), clock, access);
+        expectNothing(other);
+    }
+    EXPECT_EQ(folder.read("Quelby/history.db"), text);
+}
+
+TEST_F(HistoryWithABadDatabase, LeavesADatabaseThatWasCutOffAsItIs) {
+    recordEvery(3, noon - hour, noon);
+    store.reset();
+    const auto whole = folder.read("Quelby/history.db");
+    for (const auto length : {std::size_t{100}, std::size_t{4096}, std::size_t{5000}, whole.size() / 2}) {
+        folder.write("Quelby/history.db", whole.substr(0, length));
+        for (const auto access : {HistoryAccess::recording, HistoryAccess::readOnly}) {
+            HistoryStore cut(folder.path(), clock, access);
+            expectNothing(cut);
+        }
+        EXPECT_EQ(folder.read("Quelby/history.db"), whole.substr(0, length)) << length;
+    }
+}
+
+TEST_F(HistoryWithABadDatabase, BeginsInAnEmptyFile) {
+    store.reset();
+    folder.write("Quelby/history.db", "");
+    openAgain();
+    recordAt(noon);
+    EXPECT_EQ(tables().readings.size(), 1U);
+}
+
+TEST_F(HistoryWithABadDatabase, SkipsWhatComesWhileAnotherHoldsTheLock) {
+    recordAt(noon);
+    Database other(file);
+    other.execute("BEGIN EXCLUSIVE");
+    recordAt(noon + 60); // and its aggregation
+    EXPECT_EQ(store->loadData(TimeRange::oneHour).points.size(), 1U);
+    other.execute("COMMIT");
+    recordAt(noon + 63);
+    EXPECT_THAT(tables().minutes, SizeIs(1)); // the run was due at 12:01 and is not made up for
+    recordAt(noon + 120);
+    const auto [readings, minutes, hours] = tables();
+    EXPECT_THAT(readings, SizeIs(3));
+    EXPECT_THAT(minutes, SizeIs(3));
+}
+
+TEST_F(HistoryWithABadDatabase, IsReadBesideALock) {
+    recordAt(noon);
+    Database other(file);
+    other.execute("BEGIN EXCLUSIVE");
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), 1U);
+    EXPECT_GT(reader.todayWh(), 0.0);
+    other.execute("COMMIT");
+}
+
+} // namespace
+} // namespace quelby

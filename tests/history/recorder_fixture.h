@@ -1,0 +1,41 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "history/history_file.h"
+#include "running_program.h"
+#include "support/laptop_recording.h"
+#include "support/quelbyctl.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+
+// A folder that the built recorder records a recording to.
+class RecorderTest : public testing::Test {
+protected:
+    static constexpr double firstTime = 1'700'000'000;
+
+    // A laptop that draws 12 W.
+    [[nodiscard]] std::string recording(double start, double step, int lines) const {
+        std::string text;
+        for (int line = 0; line < lines; ++line) {
+            auto cycle = laptopCycle(0);
+            cycle.time = start + step * line;
+            text += recordingLine(cycle) + '\n';
+        }
+        return folder.write("it.jsonl", text);
+    }
+
+    [[nodiscard]] std::vector<std::string> recorder(const std::string& recording,
+                                                    const std::vector<std::string>& more = {}) const {
+        std::vector<std::string> words{QUELBY_BINARY_DIR "/quelby", "--headless"};
+        words.insert(words.end(), {"--replay", recording, "--data-dir", folder.path()});
+        words.insert(words.end(), more.begin(), more.end());
+        return words;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path file = historyFile(folder.path());
+};
+
+} // namespace quelby
