@@ -2,7 +2,7 @@
 
 #include "history_fixture.h"
 #include "platform/posix/local_day.h"
-#include "time_zone.h"
+#include "support/time_zone.h"
 
 namespace quelby {
 namespace {

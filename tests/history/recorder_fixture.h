@@ -34,6 +34,9 @@ protected:
         return words;
     }
 
+    // A recorder that is killed leaves its temporary files behind, here.
+    [[nodiscard]] Environment environment() const { return {{"TMPDIR", folder.path()}}; }
+
     TemporaryFolder folder;
     std::filesystem::path file = historyFile(folder.path());
 };

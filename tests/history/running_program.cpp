@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <csignal>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -12,7 +13,10 @@ namespace quelby {
 
 namespace {
 
-[[noreturn]] void become(const std::vector<std::string>& words, int output) {
+[[noreturn]] void become(const std::vector<std::string>& words, const Environment& environment, int output) {
+    for (const auto& [name, value] : environment) {
+        ::setenv(name.c_str(), value.c_str(), 1);
+    }
     const int nothing = ::open("/dev/null", O_RDONLY | O_CLOEXEC);
     ::dup2(nothing, STDIN_FILENO);
     ::dup2(output, STDOUT_FILENO);
@@ -28,7 +32,7 @@ namespace {
 
 } // namespace
 
-RunningProgram::RunningProgram(const std::vector<std::string>& words) {
+RunningProgram::RunningProgram(const std::vector<std::string>& words, const Environment& environment) {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         ADD_FAILURE() << "no pipe";
@@ -38,7 +42,7 @@ RunningProgram::RunningProgram(const std::vector<std::string>& words) {
     const FileDescriptor writing(ends[1]);
     process_ = ::fork();
     if (process_ == 0) {
-        become(words, writing.number());
+        become(words, environment, writing.number());
     }
 }
 

@@ -7,7 +7,8 @@ namespace quelby {
 // One of the built programs at work, with its output in a pipe and nothing on standard input.
 class RunningProgram {
 public:
-    explicit RunningProgram(const std::vector<std::string>& words);
+    // The environment is added to the test's own.
+    explicit RunningProgram(const std::vector<std::string>& words, const Environment& environment = {});
     RunningProgram(const RunningProgram&) = delete;
     RunningProgram& operator=(const RunningProgram&) = delete;
     ~RunningProgram(); // kills the program

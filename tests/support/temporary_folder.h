@@ -33,7 +33,7 @@ public:
 
     // Makes or replaces a file below the folder, with the folders on its way.
     std::filesystem::path write(const std::filesystem::path& name, std::string_view content) const {
-        const auto file = path_ / name;
+        auto file = path_ / name;
         std::filesystem::create_directories(file.parent_path());
         std::ofstream(file, std::ios::binary) << content;
         return file;

@@ -47,10 +47,10 @@ fs::path ChosenFolders::program() {
 }
 
 DemonstrationFolders::DemonstrationFolders(std::unique_ptr<Folders> system, const Named& named)
-    : DemonstrationFolders(std::move(system), named, std::make_unique<TemporaryFolder>()) {}
+    : DemonstrationFolders(std::move(system), named, std::make_unique<TransientFolder>()) {}
 
 DemonstrationFolders::DemonstrationFolders(std::unique_ptr<Folders> system, const Named& named,
-                                           std::unique_ptr<TemporaryFolder> folder)
+                                           std::unique_ptr<TransientFolder> folder)
     : ChosenFolders(std::move(system), completed(named, folder->path())), folder_(std::move(folder)) {}
 
 } // namespace quelby

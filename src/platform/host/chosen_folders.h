@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "platform/folders.h"
-#include "platform/host/temporary_folder.h"
+#include "platform/host/transient_folder.h"
 
 namespace quelby {
 
@@ -37,9 +37,9 @@ public:
 
 private:
     DemonstrationFolders(std::unique_ptr<Folders> system, const Named& named,
-                         std::unique_ptr<TemporaryFolder> folder);
+                         std::unique_ptr<TransientFolder> folder);
 
-    std::unique_ptr<TemporaryFolder> folder_;
+    std::unique_ptr<TransientFolder> folder_;
 };
 
 } // namespace quelby

@@ -1,32 +1,14 @@
 #include "platform/posix/local_day.h"
 
-#include <cstdlib>
 #include <ctime>
-#include <string>
 
 #include <gtest/gtest.h>
 
 #include "platform/posix/system_clock.h"
+#include "support/time_zone.h"
 
 namespace quelby {
 namespace {
-
-// The process's time zone by its POSIX rule, so that no zone files are needed.
-class TimeZone {
-public:
-    explicit TimeZone(const char* rule) {
-        ::setenv("TZ", rule, 1);
-        ::tzset();
-    }
-
-    TimeZone(const TimeZone&) = delete;
-    TimeZone& operator=(const TimeZone&) = delete;
-
-    ~TimeZone() {
-        ::unsetenv("TZ");
-        ::tzset();
-    }
-};
 
 constexpr double hour = 3600;
 constexpr double day = 24 * hour;

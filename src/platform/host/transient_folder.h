@@ -6,12 +6,12 @@ namespace quelby {
 
 // A folder that nobody else knows, and that goes with this object. It is made by whoever first writes to it,
 // so that those who only read leave no trace.
-class TemporaryFolder {
+class TransientFolder {
 public:
-    TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder();
+    TransientFolder();
+    TransientFolder(const TransientFolder&) = delete;
+    TransientFolder& operator=(const TransientFolder&) = delete;
+    ~TransientFolder();
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 

@@ -1,4 +1,4 @@
-#include "platform/host/temporary_folder.h"
+#include "platform/host/transient_folder.h"
 
 #include <random>
 
@@ -17,9 +17,9 @@ std::filesystem::path unknownName() {
 
 } // namespace
 
-TemporaryFolder::TemporaryFolder() : path_(unknownName()) {}
+TransientFolder::TransientFolder() : path_(unknownName()) {}
 
-TemporaryFolder::~TemporaryFolder() {
+TransientFolder::~TransientFolder() {
     std::error_code ignored;
     std::filesystem::remove_all(path_, ignored);
 }
