@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "abandoned_handle.h"
 #include "history_fixture.h"
+#include "support/abandoned_handle.h"
 
 namespace quelby {
 namespace {

@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "abandoned_handle.h"
 #include "file_size_limit.h"
 #include "history/history_file.h"
 #include "monitor/power_monitor.h"
+#include "support/abandoned_handle.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 #include "tables.h"
