@@ -9,6 +9,7 @@
 
 #include "platform/posix/helper_files.h"
 #include "record_texts.h"
+#include "support/started.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -22,7 +23,7 @@ class RestlessHelper {
 public:
     explicit RestlessHelper(const std::function<void(const std::string&)>& write) {
         const pid_t test = ::getpid();
-        process_ = ::fork();
+        process_ = started(::fork());
         if (process_ == 0) {
             while (::getppid() == test) {
                 write(statusText);

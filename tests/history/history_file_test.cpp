@@ -8,6 +8,7 @@
 
 #include "history/sqlite/statement.h"
 #include "history_fixture.h"
+#include "support/started.h"
 
 namespace quelby {
 namespace {
@@ -46,7 +47,7 @@ protected:
     // A recorder that is killed after its readings.
     void beRecordedByAVictim(int count) {
         store.reset();
-        const pid_t victim = ::fork();
+        const pid_t victim = started(::fork());
         if (victim == 0) {
             openAgain();
             recordEvery(3, noon, noon + 3 * count);
@@ -62,7 +63,7 @@ protected:
         const auto quelbyFolder = file.parent_path();
         fs::permissions(folder.path(), fs::perms(0755));
         fs::permissions(quelbyFolder, fs::perms(0555));
-        const pid_t stranger = ::fork();
+        const pid_t stranger = started(::fork());
         if (stranger == 0) {
             constexpr uid_t nobody = 65534;
             const bool harmless = ::geteuid() != 0 || ::setuid(nobody) == 0;

@@ -1,4 +1,5 @@
 #include "running_program.h"
+#include "support/started.h"
 
 #include <algorithm>
 #include <array>
@@ -40,7 +41,7 @@ RunningProgram::RunningProgram(const std::vector<std::string>& words, const Envi
     }
     output_ = FileDescriptor(ends[0]);
     const FileDescriptor writing(ends[1]);
-    process_ = ::fork();
+    process_ = started(::fork());
     if (process_ == 0) {
         become(words, environment, writing.number());
     }
@@ -62,6 +63,9 @@ std::ptrdiff_t RunningProgram::lines() const {
 }
 
 ProgramResult RunningProgram::kill() {
+    if (process_ <= 0) {
+        return {};
+    }
     ::kill(process_, SIGKILL);
     while (readMore()) {
     }

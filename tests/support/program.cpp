@@ -1,4 +1,5 @@
 #include "support/program.h"
+#include "support/started.h"
 
 #include <array>
 #include <csignal>
@@ -65,7 +66,7 @@ struct Pipe {
 ProgramResult runProgram(const std::vector<std::string>& words, const Environment& environment) {
     Pipe output;
     Pipe errors;
-    const pid_t process = ::fork();
+    const pid_t process = started(::fork());
     if (process == 0) {
         const FileDescriptor nothing(::open("/dev/null", O_RDONLY | O_CLOEXEC));
         ::dup2(nothing.number(), STDIN_FILENO);
@@ -89,7 +90,7 @@ TerminalProgram::TerminalProgram(const std::vector<std::string>& words, int colu
     size.ws_col = static_cast<unsigned short>(columns);
     size.ws_row = static_cast<unsigned short>(rows);
     int terminal = -1;
-    process_ = ::forkpty(&terminal, nullptr, nullptr, &size);
+    process_ = started(::forkpty(&terminal, nullptr, nullptr, &size));
     if (process_ == 0) {
         ::setenv("TERM", "xterm-256color", 1);
         become(words, environment);
@@ -144,7 +145,9 @@ void TerminalProgram::resize(int columns, int rows) const {
 }
 
 void TerminalProgram::signal(int number) const {
-    ::kill(process_, number);
+    if (process_ > 0) {
+        ::kill(process_, number);
+    }
 }
 
 void TerminalProgram::waitUntilStopped() const {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include "support/started.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -30,7 +31,7 @@ TEST(FileLock, EndsWithItsProcessHoweverThatEnds) {
     const auto file = folder.path() / "the.lock";
     int ready[2] = {};
     ASSERT_EQ(::pipe(ready), 0);
-    const pid_t holder = ::fork();
+    const pid_t holder = started(::fork());
     if (holder == 0) {
         const auto lock = FileLock::take(file);
         const char held = std::holds_alternative<FileLock>(lock) ? 'y' : 'n';

@@ -4,13 +4,15 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "support/started.h"
+
 namespace quelby {
 
 // Does it in another process, which has no rights of root even where the test has them. True if it was done.
 template <typename Action>
 [[nodiscard]] bool doneByAnOrdinaryUser(Action action) {
     constexpr unsigned nobody = 65534;
-    const pid_t process = ::fork();
+    const pid_t process = started(::fork());
     if (process == 0) {
         const bool ordinary = ::geteuid() != 0 || (::setgroups(0, nullptr) == 0 && ::setgid(nobody) == 0 &&
                                                    ::setuid(nobody) == 0);

@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "pipe.h"
+#include "support/started.h"
 
 namespace quelby {
 
@@ -17,7 +18,7 @@ public:
     template <typename Body>
     explicit ChildProcess(const Body& body) {
         Pipe started;
-        pid_ = ::fork();
+        pid_ = quelby::started(::fork());
         if (pid_ == 0) {
             body(std::move(started.writing));
             ::_exit(0);
