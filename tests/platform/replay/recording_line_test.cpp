@@ -1,5 +1,6 @@
 #include "platform/replay/recording_line.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 namespace quelby {
@@ -16,7 +17,7 @@ std::string refusal(std::string_view line) {
 // The smallest line with one key's value replaced.
 std::string smallestWith(std::string_view key, std::string_view value) {
     std::string line(smallest);
-    const auto name = '"' + std::string(key) + "\": ";
+    const auto name = fmt::format("\"{}\": ", key);
     const auto found = line.find(name);
     if (found == std::string::npos) {
         return line.substr(0, line.size() - 1) + ", " + name + std::string(value) + '}';
@@ -90,8 +91,8 @@ TEST(RecordingLine, IsRefusedWhereItIsNoObject) {
 TEST(RecordingLine, IsRefusedWithoutARequiredKey) {
     for (const auto* key : {"time", "battery", "processors", "cpuListing", "topListing"}) {
         std::string line(smallest);
-        line.replace(line.find(key), 1, "x");
-        EXPECT_EQ(refusal(line), "has no \"" + std::string(key) + '"');
+        line[line.find(key)] = 'x';
+        EXPECT_EQ(refusal(line), fmt::format("has no \"{}\"", key));
     }
 }
 
