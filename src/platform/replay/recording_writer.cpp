@@ -45,7 +45,7 @@ RecordingWriter::RecordingWriter(RecordingWriter&& other) noexcept
     : named_(std::move(other.named_))
     , beginning_(std::exchange(other.beginning_, {}))
     , file_(std::move(other.file_))
-    , lines_(other.lines_)
+
     , length_(other.length_) {}
 
 RecordingWriter::~RecordingWriter() {
@@ -91,7 +91,6 @@ Result<void> RecordingWriter::append(const RecordedCycle& cycle) {
         return cannotRecord(named_, cause);
     }
     length_ += static_cast<off_t>(line.size());
-    ++lines_;
     return beginning_.empty() ? Result<void>() : takePlace();
 }
 

@@ -1,7 +1,6 @@
 // Writes a recording to a file.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -31,8 +30,6 @@ public:
     // After a problem the lines before are kept, and nothing more is to be appended.
     [[nodiscard]] Result<void> append(const RecordedCycle& cycle);
 
-    [[nodiscard]] std::int64_t lines() const { return lines_; }
-
 private:
     RecordingWriter(std::filesystem::path named, std::filesystem::path beginning, FileDescriptor file);
 
@@ -41,7 +38,6 @@ private:
     std::filesystem::path named_;
     std::filesystem::path beginning_; // the new file until it takes its place; then empty
     FileDescriptor file_;
-    std::int64_t lines_ = 0;
     off_t length_ = 0; // of the whole lines
 };
 

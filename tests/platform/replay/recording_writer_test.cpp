@@ -38,7 +38,6 @@ TEST_F(RecordingWriterTest, WritesALineForEachCycle) {
     ASSERT_TRUE(writer);
     ASSERT_TRUE(writer->append(first));
     ASSERT_TRUE(writer->append(second));
-    EXPECT_EQ(writer->lines(), 2);
     EXPECT_EQ(folder.read("it.jsonl"), recordingLine(first) + '\n' + recordingLine(second) + '\n');
     EXPECT_THAT(files(), ElementsAre("it.jsonl"));
 }
@@ -101,7 +100,6 @@ TEST_F(RecordingWriterTest, KeepsWholeLinesWhenTheDiskIsFull) {
     EXPECT_TRUE(fits);
     ASSERT_FALSE(tooMuch);
     EXPECT_THAT(tooMuch.error().sentence, EndsWith("File too large"));
-    EXPECT_EQ(writer->lines(), 2);
     EXPECT_EQ(folder.read("it.jsonl"), line + line);
 }
 
