@@ -65,6 +65,13 @@ TitleFormat parseTitleFormat(const std::string& text) {
     throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
 }
 
+DashboardView parseView(const std::string& text) {
+    if (text == "dashboard" || text == "settings") {
+        return text == "settings" ? DashboardView::settings : DashboardView::dashboard;
+    }
+    throw CLI::ValidationError(fmt::format(R"(--view takes dashboard or settings, not "{}")", text));
+}
+
 // "on" or "off".
 std::optional<bool> switchPosition(const std::string& text) {
     return text == "on" ? std::optional(true) : text == "off" ? std::optional(false) : std::nullopt;
@@ -129,6 +136,7 @@ struct Reading {
     Request request;
     StatusCommand status;
     WatchCommand watch;
+    DashboardCommand dashboard;
     RecordCommand record;
     HistoryCommand history;
     TitleCommand title;
@@ -144,6 +152,7 @@ struct Reading {
         app.fallthrough();
         addStatus();
         addWatch();
+        addDashboard();
         addRecord();
         addHistory();
         addTitle();
@@ -177,11 +186,22 @@ struct Reading {
 
     void addWatch() {
         auto* const command = app.add_subcommand(
-            "watch", "All figures, renewed in place in a terminal; elsewhere a line for each cycle");
+            "watch", "The dashboard, renewed in place in a terminal; elsewhere a line for each cycle");
         addForm(*command, "--json", OutputForm::json, watch.form,
                 "One JSON object for each cycle, a line each");
         addRepetition(*command, watch.repetition);
         command->final_callback([this] { request.command = watch; });
+    }
+
+    void addDashboard() {
+        auto* const command = app.add_subcommand("dashboard", "What every card of the dashboard says, once");
+        addForm(*command, "--json", OutputForm::json, dashboard.form, "As one JSON object");
+        command
+            ->add_option_function<std::string>(
+                "--view", [this](const std::string& text) { dashboard.view = parseView(text); },
+                "dashboard or settings; dashboard unless named")
+            ->type_name("VIEW");
+        command->final_callback([this] { request.command = dashboard; });
     }
 
     void addRecord() {

@@ -29,6 +29,13 @@ struct WatchCommand {
     Repetition repetition;
 };
 
+enum class DashboardView { dashboard, settings };
+
+struct DashboardCommand {
+    OutputForm form = OutputForm::text;
+    DashboardView view = DashboardView::dashboard;
+};
+
 struct RecordCommand {
     std::filesystem::path file;
     Repetition repetition;
@@ -64,8 +71,8 @@ struct HelperCommand {
     HelperWish wish = HelperWish::status;
 };
 
-using Command = std::variant<StatusCommand, WatchCommand, RecordCommand, HistoryCommand, TitleCommand,
-                             LimitCommand, CalibrationCommand, HelperCommand>;
+using Command = std::variant<StatusCommand, WatchCommand, DashboardCommand, RecordCommand, HistoryCommand,
+                             TitleCommand, LimitCommand, CalibrationCommand, HelperCommand>;
 
 struct Request {
     MachineArguments arguments;

@@ -1,5 +1,7 @@
 #include "cli/history_command.h"
 
+#include <algorithm>
+
 #include "cli/history_output.h"
 #include "cli/terminal/terminal_screen.h"
 #include "console/standard_output.h"
@@ -17,7 +19,7 @@ std::string inForm(OutputForm form, const HistoryView& view) {
     case OutputForm::csv:
         return historyAsCsv(view);
     case OutputForm::text:
-        return historyAsText(view, curveWidth());
+        return historyAsText(view, std::clamp(outputColumns(), 20, 120));
     }
     return {};
 }

@@ -1,4 +1,5 @@
 #include "cli/command_line.h"
+#include "cli/dashboard_command.h"
 #include "cli/helper_command.h"
 #include "cli/history_command.h"
 #include "cli/limit_command.h"
@@ -18,6 +19,8 @@ struct RunCommand {
     Result<void> operator()(const StatusCommand& command) const { return runStatus(machine, command); }
 
     Result<void> operator()(const WatchCommand& command) const { return runWatch(machine, command, pace); }
+
+    Result<void> operator()(const DashboardCommand& command) const { return runDashboard(machine, command); }
 
     Result<void> operator()(const RecordCommand& command) const { return runRecord(machine, command, pace); }
 

@@ -1,11 +1,16 @@
 #include "cli/watch_command.h"
 
+#include <algorithm>
 #include <csignal>
+#include <iterator>
 
 #include "cli/cycle_run.h"
 #include "cli/fields_json.h"
+#include "cli/terminal/keys.h"
 #include "cli/terminal/terminal_screen.h"
+#include "cli/terminal/watch_frame.h"
 #include "console/cycle_line.h"
+#include "console/key_listener.h"
 #include "console/signals.h"
 #include "console/standard_output.h"
 
@@ -18,9 +23,9 @@ public:
     explicit TerminalWatch(Machine& machine) : machine_(machine), platform_(machine.platform()) {}
 
     [[nodiscard]] Result<void> run(CycleRun run) {
-        const SignalListener listener({SIGWINCH, SIGTSTP}, [this](int signal) { listen(signal); });
-        run.afterCycle = [this](const PowerMonitor& monitor) {
-            shown_ = &monitor;
+        const SignalListener signals({SIGWINCH, SIGTSTP}, [this](int signal) { listen(signal); });
+        run.afterCycle = [this](PowerMonitor& monitor) {
+            monitor_ = &monitor;
             return draw();
         };
         return runCycles(machine_, platform_, run);
@@ -28,7 +33,20 @@ public:
 
 private:
     [[nodiscard]] Result<void> draw() {
-        return screen_.show(watchFrame(*shown_, platform_.clock.now(), screen_.size(), colours_));
+        view_.size = screen_.size();
+        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock.now()), view_);
+        view_.scrolledBy = std::clamp(view_.scrolledBy, 0, frame.furthestScroll);
+        page_ = frame.page;
+        std::vector<std::string> lines;
+        std::transform(frame.lines.begin(), frame.lines.end(), std::back_inserter(lines),
+                       [this](const Line& line) { return withSequences(line, colors_); });
+        return screen_.show(lines);
+    }
+
+    void redraw() {
+        if (monitor_ != nullptr) {
+            static_cast<void>(draw()); // a terminal that is gone fails the next cycle
+        }
     }
 
     void listen(int signal) {
@@ -36,17 +54,66 @@ private:
             screen_.leave();
             ::raise(SIGSTOP); // comes back when the shell continues the program
             screen_.enter();
+            keys_.listen(screen_.takesKeys());
         }
-        if (shown_ != nullptr) {
-            static_cast<void>(draw()); // a terminal that is gone fails the next cycle
+        redraw();
+    }
+
+    void press(std::string_view bytes) {
+        for (const auto& press : keyPresses(bytes)) {
+            act(press);
+        }
+        redraw();
+    }
+
+    void act(const KeyPress& press) {
+        switch (press.key) {
+        case Key::character:
+            act(press.character);
+            break;
+        case Key::escape:
+            view_.help = false;
+            break;
+        case Key::up:
+            --view_.scrolledBy;
+            break;
+        case Key::down:
+            ++view_.scrolledBy;
+            break;
+        case Key::pageUp:
+            view_.scrolledBy -= page_;
+            break;
+        case Key::pageDown:
+            view_.scrolledBy += page_;
+            break;
+        case Key::home:
+            view_.scrolledBy = 0;
+            break;
+        case Key::end:
+            view_.scrolledBy = WatchView::theEnd;
+            break;
+        }
+    }
+
+    void act(char character) {
+        const auto range = static_cast<std::size_t>(character - '1');
+        if (character == 'q') {
+            ::raise(SIGTERM); // the way that every run ends
+        } else if (character == '?') {
+            view_.help = !view_.help;
+        } else if (character >= '1' && range < allTimeRanges.size() && monitor_ != nullptr) {
+            monitor_->selectHistoryRange(allTimeRanges.at(range));
         }
     }
 
     Machine& machine_;
     Platform platform_;
-    Colours colours_ = terminalColours();
+    ColorDepth colors_ = outputColors();
+    WatchView view_;
+    int page_ = 1; // rows by which a page is scrolled
     TerminalScreen screen_;
-    const PowerMonitor* shown_ = nullptr; // the run's; none before its first cycle
+    KeyListener keys_{screen_.takesKeys(), [this](std::string_view bytes) { press(bytes); }};
+    PowerMonitor* monitor_ = nullptr; // the run's; none before its first cycle
 };
 
 Result<void> watchLineByLine(Machine& machine, CycleRun run, OutputForm form) {

@@ -1,10 +1,8 @@
 #include "console/cycle_line.h"
 
-#include <ctime>
-
 #include <fmt/format.h>
 
-#include "base/arithmetic.h"
+#include "base/time_of_day.h"
 #include "base/utf8.h"
 
 namespace quelby {
@@ -39,15 +37,6 @@ std::string batteryText(const PublishedFields& fields) {
     }
     return fmt::format("{} % {}, {}", fields.batteryPercent.get(), batteryState(fields),
                        fields.predictedTime.get());
-}
-
-std::string timeOfDay(Date time) {
-    const std::time_t seconds = truncated(time);
-    std::tm day{};
-    if (localtime_r(&seconds, &day) == nullptr) {
-        return "--:--:--";
-    }
-    return fmt::format("{:02}:{:02}:{:02}", day.tm_hour, day.tm_min, day.tm_sec);
 }
 
 std::string cycleLine(const PublishedFields& fields, Date time) {

@@ -16,7 +16,4 @@ namespace quelby {
 // "discharging", "charging", "full", "plugged in" or "no battery".
 [[nodiscard]] std::string_view batteryState(const PublishedFields& fields);
 
-// The local time of day, "14:03:27".
-[[nodiscard]] std::string timeOfDay(Date time);
-
 } // namespace quelby

@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 
 #include "console/standard_output.h"
-#include "console/utf8_locale.h"
 
 namespace quelby {
 
@@ -13,7 +12,9 @@ namespace {
 
 constexpr int couldNotBeDone = 1;
 
-int exitStatus(std::string_view name, const Result<void>& outcome) {
+} // namespace
+
+int reportOutcome(std::string_view name, const Result<void>& outcome) {
     if (outcome) {
         return 0;
     }
@@ -21,13 +22,8 @@ int exitStatus(std::string_view name, const Result<void>& outcome) {
     return couldNotBeDone;
 }
 
-} // namespace
-
 int runProgram(std::string_view name, char** argv, const std::function<Result<void>()>& work) {
-    useUtf8Locale();
-    int programNameOnly = 1; // Qt has no say in the other arguments
-    const QCoreApplication application(programNameOnly, argv);
-    return exitStatus(name, work());
+    return runProgramWith<QCoreApplication>(name, argv, work);
 }
 
 int printAnswer(std::string_view name, const Answer& answer) {
@@ -35,7 +31,7 @@ int printAnswer(std::string_view name, const Answer& answer) {
         writeToStandardError(answer.text);
         return answer.exitStatus;
     }
-    return exitStatus(name, writeToStandardOutput(answer.text));
+    return reportOutcome(name, writeToStandardOutput(answer.text));
 }
 
 } // namespace quelby

@@ -12,6 +12,7 @@
 namespace quelby {
 namespace {
 
+using testing::ContainsRegex;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -28,6 +29,12 @@ protected:
         std::vector<std::string> words{"watch", "--replay", recording, "--interval", "1000"};
         words.insert(words.end(), more.begin(), more.end());
         return quelbyctlWords(words);
+    }
+
+    static Environment withoutColours() {
+        auto environment = plainEnvironment();
+        environment["NO_COLOR"] = "1";
+        return environment;
     }
 
     TemporaryFolder folder;
@@ -65,20 +72,20 @@ TEST_F(QuelbyctlWatch, EndsAfterTheNumberOfCyclesAskedFor) {
 }
 
 TEST_F(QuelbyctlWatch, RedrawsInPlaceInATerminal) {
-    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40,
+    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 70,
                             plainEnvironment());
     const auto result = program.end();
     EXPECT_EQ(result.exitStatus, 0);
     EXPECT_THAT(result.output, StartsWith(enterScreen));
     EXPECT_THAT(result.output, EndsWith(leaveScreen));
-    for (const auto* level : {"80 % ", "79 % ", "78 % ", "77 % "}) {
+    for (const auto* level : {"80%", "79%", "78%", "77%"}) {
         EXPECT_THAT(result.output, HasSubstr(level));
     }
 }
 
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackOnCtrlC) {
-    TerminalProgram program(watching(), 80, 40, plainEnvironment());
-    program.showsUntil("Trend");
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil("Efficiency");
     EXPECT_FALSE(program.echoes());
     program.type("\x03");
     const auto result = program.end();
@@ -88,8 +95,8 @@ TEST_F(QuelbyctlWatch, GivesTheTerminalBackOnCtrlC) {
 
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackHoweverItIsAskedToEnd) {
     for (const int number : {SIGTERM, SIGHUP, SIGQUIT}) {
-        TerminalProgram program(watching(), 80, 40, plainEnvironment());
-        program.showsUntil("Trend");
+        TerminalProgram program(watching(), 80, 70, plainEnvironment());
+        program.showsUntil("Efficiency");
         program.signal(number);
         const auto result = program.end();
         EXPECT_EQ(result.exitStatus, 0);
@@ -98,44 +105,91 @@ TEST_F(QuelbyctlWatch, GivesTheTerminalBackHoweverItIsAskedToEnd) {
 }
 
 TEST_F(QuelbyctlWatch, FollowsTheTerminalsSize) {
-    auto environment = plainEnvironment();
-    environment["NO_COLOR"] = "1";
-    TerminalProgram program(watching(), 80, 40, environment);
-    program.showsUntil(" Quelby" + std::string(64, ' ') + "22:13:20");
-    program.showsUntil("Trend");
+    TerminalProgram program(watching(), 80, 70, withoutColours());
+    program.showsUntil("↯ Quelby" + std::string(54, ' ') + "22:13:20");
+    program.showsUntil("Efficiency");
     program.resize(30, 5);
-    program.showsUntil(" Quelby" + std::string(14, ' ') + "22:13:20");
+    program.showsUntil("↯ Quelby" + std::string(12, ' ') + "22:13:20");
     program.signal(SIGTERM);
-    EXPECT_THAT(program.end().output, Not(HasSubstr("Trend"))); // five lines have no room for it
+    EXPECT_THAT(program.end().output, Not(HasSubstr("Efficiency"))); // five lines have no room for it
 }
 
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackWhileItIsStopped) {
-    TerminalProgram program(watching(), 80, 40, plainEnvironment());
-    program.showsUntil("Trend");
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil("Efficiency");
     program.signal(SIGTSTP);
     program.showsUntil(leaveScreen);
     program.waitUntilStopped();
     program.signal(SIGCONT);
-    const auto again = program.showsUntil("Trend");
+    const auto again = program.showsUntil("Efficiency");
     EXPECT_THAT(again, HasSubstr(enterScreen));
     EXPECT_FALSE(program.echoes());
     program.signal(SIGTERM);
     EXPECT_EQ(program.end().exitStatus, 0);
 }
 
-TEST_F(QuelbyctlWatch, UsesNoColoursWhereNobodyWantsThem) {
-    auto environment = plainEnvironment();
-    TerminalProgram coloured(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
-    EXPECT_THAT(coloured.end().output, HasSubstr("\x1b[36m"));
-    environment["NO_COLOR"] = "1";
-    TerminalProgram plain(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
-    EXPECT_THAT(plain.end().output, Not(HasSubstr("\x1b[36m")));
+TEST_F(QuelbyctlWatch, UsesTheColoursThatTheTerminalHas) {
+    const auto shown = [&](const Environment& terminal) {
+        auto environment = plainEnvironment();
+        environment.insert(terminal.begin(), terminal.end());
+        TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 70,
+                                environment);
+        return program.end().output;
+    };
+    EXPECT_THAT(shown({{"TERM", "xterm"}, {"COLORTERM", ""}}), HasSubstr("\x1b[35m")); // purple
+    EXPECT_THAT(shown({{"TERM", "xterm-256color"}, {"COLORTERM", ""}}), HasSubstr("\x1b[38;5;134m"));
+    EXPECT_THAT(shown({{"TERM", "xterm-256color"}, {"COLORTERM", "truecolor"}}),
+                HasSubstr("\x1b[38;2;166;98;214m"));
+    EXPECT_THAT(shown(withoutColours()), Not(ContainsRegex("\x1b\\[[0-9;]*m")));
+}
+
+TEST_F(QuelbyctlWatch, EndsWithQ) {
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil("quit");
+    program.type("xq");
+    const auto result = program.end();
+    EXPECT_EQ(result.exitStatus, 0);
+    EXPECT_THAT(result.output, EndsWith(leaveScreen));
+}
+
+TEST_F(QuelbyctlWatch, ShowsTheRangeOfTheKey) {
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil("\x1b[7;38;5;69m 30m ");
+    program.type("3");
+    program.showsUntil("\x1b[7;38;5;69m 24h ");
+    program.type("5");
+    program.type("1");
+    program.showsUntil("\x1b[7;38;5;69m 30m ");
+}
+
+TEST_F(QuelbyctlWatch, ExplainsItsKeys) {
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil("help");
+    program.type("?");
+    program.showsUntil("show or hide this help");
+    program.type("?");
+    program.showsUntil("Battery Drain");
+    program.type("?");
+    program.showsUntil("show or hide this help");
+    program.type("\x1b");
+    program.showsUntil("Battery Drain");
+}
+
+TEST_F(QuelbyctlWatch, ScrollsToWhatHasNoRoom) {
+    TerminalProgram program(watching(), 60, 20, plainEnvironment());
+    EXPECT_THAT(program.showsUntil("↓ more"), Not(HasSubstr("Battery Details")));
+    program.type("\x1b[F");
+    program.showsUntil("Battery Details");
+    program.type("\x1b[H");
+    program.showsUntil("Charge Limit");
+    program.type("\x1b[6~");
+    program.showsUntil("Component Power");
 }
 
 TEST_F(QuelbyctlWatch, PrintsLinesInATerminalThatCannotRedraw) {
     auto environment = plainEnvironment();
     environment["TERM"] = "dumb";
-    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 40, environment);
+    TerminalProgram program(quelbyctlWords({"watch", "--fast", "--replay", recording}), 80, 70, environment);
     const auto result = program.end();
     EXPECT_THAT(result.output, StartsWith("22:13:20  80 %"));
     EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));

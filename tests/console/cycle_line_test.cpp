@@ -48,9 +48,5 @@ TEST_F(CycleLineTest, NamesTheStateOfTheBattery) {
     EXPECT_EQ(batteryState(fields), "no battery");
 }
 
-TEST_F(CycleLineTest, HasNoTimeForAnAbsurdClock) {
-    EXPECT_EQ(timeOfDay(1e300), "--:--:--");
-}
-
 } // namespace
 } // namespace quelby

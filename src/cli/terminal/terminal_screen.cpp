@@ -1,11 +1,12 @@
 #include "cli/terminal/terminal_screen.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
+
+#include <fmt/format.h>
 
 #include "console/standard_output.h"
 
@@ -16,8 +17,9 @@ namespace {
 // Control sequences of ECMA-48 and of xterm's private modes, which every terminal in use follows.
 constexpr std::string_view enterScreen = "\x1b[?1049h\x1b[?25l\x1b[2J";
 constexpr std::string_view leaveScreen = "\x1b[?25h\x1b[?1049l";
-constexpr std::string_view beginUpdate = "\x1b[?2026h\x1b[H"; // draw nothing until the update ends
-constexpr std::string_view endUpdate = "\x1b[J\x1b[?2026l";
+constexpr std::string_view beginUpdate = "\x1b[?2026h"; // draw nothing until the update ends
+constexpr std::string_view endUpdate = "\x1b[?2026l";
+constexpr std::string_view clearScreen = "\x1b[2J";
 constexpr std::string_view clearRestOfLine = "\x1b[K";
 
 std::string_view environment(const char* name) {
@@ -35,16 +37,18 @@ TerminalSize terminalSize() {
 
 } // namespace
 
-int curveWidth() {
-    return std::clamp(terminalSize().columns, 20, 120);
+int outputColumns() {
+    return terminalSize().columns;
 }
 
 bool canDrawInPlace() {
     return ::isatty(STDOUT_FILENO) == 1 && environment("TERM") != "dumb";
 }
 
-Colours terminalColours() {
-    return environment("NO_COLOR").empty() ? Colours::on : Colours::off;
+ColorDepth outputColors() {
+    return ::isatty(STDOUT_FILENO) == 1
+               ? colorDepth(environment("TERM"), environment("COLORTERM"), environment("NO_COLOR"))
+               : ColorDepth::none;
 }
 
 TerminalScreen::TerminalScreen() {
@@ -60,6 +64,7 @@ void TerminalScreen::enter() {
         return;
     }
     entered_ = true;
+    shown_.clear();
     termios input{};
     // From the background, changing the terminal would stop the program.
     if (::tcgetpgrp(STDIN_FILENO) == ::getpgrp() && ::tcgetattr(STDIN_FILENO, &input) == 0) {
@@ -88,11 +93,17 @@ TerminalSize TerminalScreen::size() const {
 
 Result<void> TerminalScreen::show(const std::vector<std::string>& lines) {
     std::string update(beginUpdate);
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        update += i == 0 ? "" : "\r\n";
-        update += lines[i];
-        update += clearRestOfLine;
+    if (shown_.size() != lines.size() || shownSize_ != terminalSize()) {
+        update += clearScreen; // a new size moves what is there
+        shown_.assign(lines.size(), {});
+        shownSize_ = terminalSize();
     }
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+        if (lines[row] != shown_[row]) {
+            update += fmt::format("\x1b[{}H{}{}", row + 1, lines[row], clearRestOfLine);
+        }
+    }
+    shown_ = lines;
     update += endUpdate;
     return writeToStandardOutput(update);
 }

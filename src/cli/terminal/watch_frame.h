@@ -1,26 +1,28 @@
-// What `quelbyctl watch` shows in a terminal, as lines of text.
+// What `quelbyctl watch` shows in a terminal: the dashboard between a header and the keys that can be
+// pressed.
 #pragma once
 
-#include <string>
-#include <vector>
-
-#include "monitor/published_fields.h"
+#include "cli/terminal/styled_line.h"
+#include "cli/terminal/terminal_size.h"
+#include "ui/presentation/dashboard.h"
 
 namespace quelby::cli {
 
-struct TerminalSize {
-    int columns = 80;
-    int rows = 24;
+struct WatchView {
+    static constexpr int theEnd = 1'000'000; // rows, more than there can be
 
-    bool operator==(const TerminalSize&) const = default;
+    TerminalSize size;
+    int scrolledBy = 0; // rows of the cards that are above the upper edge
+    bool help = false;  // the keys in place of the cards
 };
 
-enum class Colours { off, on };
+struct WatchFrame {
+    Block lines;            // no more than the terminal's rows, none wider than its columns
+    int furthestScroll = 0; // where the last row of the cards is the last that is shown
+    int page = 1;           // rows of the cards that are shown
+};
 
-// Battery, power split, busiest processes and trend, in lines that fit into the size, which is at least 1 by
-// 1; what does not fit is cut off at the right and at the bottom. Without colours the lines hold no escape
-// sequence.
-[[nodiscard]] std::vector<std::string> watchFrame(const PublishedFields& fields, Date time, TerminalSize size,
-                                                  Colours colours);
+// A view that is scrolled beyond the end shows the end.
+[[nodiscard]] WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view);
 
 } // namespace quelby::cli

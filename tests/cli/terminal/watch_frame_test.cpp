@@ -1,139 +1,123 @@
 #include "cli/terminal/watch_frame.h"
 
-#include <cstdlib>
-#include <ctime>
-
-#include <fmt/format.h>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include "cli/terminal/display_width.h"
+#include "cli/terminal/terminal_colors.h"
+#include "support/time_zone.h"
 
 namespace quelby::cli {
 namespace {
 
 using testing::Contains;
+using testing::Each;
 using testing::HasSubstr;
 using testing::Not;
-
-constexpr Date now = 1'700'000'000;
+using testing::StartsWith;
 
 class WatchFrameTest : public testing::Test {
 protected:
     WatchFrameTest() {
-        ::setenv("TZ", "UTC0", 1);
-        ::tzset();
-        fields.batteryPercent = 50;
-        fields.realWatts = 14.985;
-        fields.totalPower = 15;
-        fields.cpuPower = 7.5;
-        fields.predictedTime = "~3h 12m remaining";
-        fields.batteryRateStr = "-8.4%/hr";
-        fields.topProcesses = std::vector<ProcessInfo_Energy>{{"editor", 25.0, 5.0}, {"ブラウザ", 12.5, 2.5}};
-        fields.powerHistory = std::vector<double>{10, 20, 15};
+        fields.batteryPercent = 55;
+        fields.totalPower = 12.3;
+        fields.daemonInstalled = true;
+        fields.chargeLimitEnabled = true;
+        fields.powerHistory = {10, 20, 15};
+        fields.historyData = {{1'700'000'000, 10}, {1'700'000'060, 20}};
+        fields.topProcesses = {{"editor", 30, 2}};
     }
 
-    [[nodiscard]] std::vector<std::string> frame(int columns, int rows,
-                                                 Colours colours = Colours::off) const {
-        return watchFrame(fields, now, {columns, rows}, colours);
+    [[nodiscard]] WatchFrame frame(const WatchView& view) const {
+        return watchFrame(dashboard(fields, 1'700'000'000), view);
     }
 
+    [[nodiscard]] std::vector<std::string> lines(const WatchView& view) const {
+        std::vector<std::string> plain;
+        for (const auto& line : frame(view).lines) {
+            plain.push_back(withSequences(line, ColorDepth::none));
+        }
+        return plain;
+    }
+
+    TimeZone zone{"UTC0"};
     PublishedFields fields;
 };
 
-std::string repeated(std::string_view text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i) {
-        all += text;
-    }
-    return all;
-}
-
-TEST_F(WatchFrameTest, ShowsBatteryPowerProcessesAndTrend) {
-    const auto lines = frame(60, 40);
-    EXPECT_EQ(lines.front(), " Quelby" + repeated(" ", 44) + "22:13:20");
-    EXPECT_THAT(lines, Contains(" Battery" + repeated(" ", 40) + "discharging"));
-    EXPECT_THAT(lines, Contains("   50 % " + repeated("█", 25) + "▌" + repeated(" ", 25))); // half of 51
-    EXPECT_THAT(lines, Contains(" 15.0 W   0.00 V   0 mA   0.0 °C"));
-    EXPECT_THAT(lines, Contains(" ~3h 12m remaining  -8.4%/hr"));
-    EXPECT_THAT(lines, Contains(" CPU         7.5 W  " + repeated("█", 19) + "▌" + repeated(" ", 19)));
-    EXPECT_THAT(lines, Contains(" System     15.0 W"));
-    EXPECT_THAT(lines, Contains(" editor" + repeated(" ", 35) + "25.0 %     5.00 W"));
-    EXPECT_THAT(lines, Contains(" ブラウザ" + repeated(" ", 33) + "12.5 %     2.50 W"));
-    EXPECT_THAT(lines, Contains(" Trend" + repeated(" ", 39) + "10.0 to 20.0 W"));
-    EXPECT_THAT(lines, Contains(" ▁█▅"));
-}
-
-TEST_F(WatchFrameTest, FitsEverySize) {
-    fields.isPluggedIn = true;
-    fields.powerHistory = std::vector<double>(60, 5.0);
-    for (const int columns : {1, 2, 5, 20, 21, 22, 40, 80, 103, 300}) {
-        for (const int rows : {1, 3, 24, 200}) {
-            const auto lines = frame(columns, rows);
-            EXPECT_LE(lines.size(), static_cast<std::size_t>(rows));
-            for (const auto& line : lines) {
-                EXPECT_LE(displayWidth(line), columns) << columns << " columns: " << line;
+TEST_F(WatchFrameTest, FillsTheTerminalWhateverItsSize) {
+    for (int columns = 1; columns < 160; columns += 3) {
+        for (const int rows : {1, 2, 4, 5, 20, 90}) {
+            const auto shown = lines({.size = {columns, rows}});
+            ASSERT_EQ(shown.size(), static_cast<std::size_t>(rows));
+            for (const auto& line : shown) {
+                ASSERT_EQ(displayWidth(line), columns) << line;
             }
         }
     }
 }
 
-TEST_F(WatchFrameTest, IsTheSameTextWithColours) {
-    const auto coloured = frame(60, 40, Colours::on);
-    const auto plain = frame(60, 40);
-    ASSERT_EQ(coloured.size(), plain.size());
-    bool anyColour = false;
-    for (std::size_t i = 0; i < plain.size(); ++i) {
-        std::string stripped;
-        for (std::size_t at = 0; at < coloured[i].size(); ++at) {
-            if (coloured[i][at] == '\x1b') {
-                at = coloured[i].find('m', at);
-                anyColour = true;
-            } else {
-                stripped += coloured[i][at];
-            }
-        }
-        EXPECT_EQ(stripped, plain[i]);
-    }
-    EXPECT_TRUE(anyColour);
-    EXPECT_THAT(plain, Not(Contains(HasSubstr("\x1b"))));
+TEST_F(WatchFrameTest, BeginsWithTheClockAndEndsWithTheKeys) {
+    const auto shown = lines({.size = {60, 20}});
+    EXPECT_THAT(shown.front(), HasSubstr("Quelby"));
+    EXPECT_THAT(shown.front(), HasSubstr("22:13:20"));
+    EXPECT_THAT(shown.back(), HasSubstr("q quit   1-4 range   ? help"));
 }
 
-TEST_F(WatchFrameTest, ColoursTheLevelByHowMuchIsLeft) {
-    const std::pair<Int, const char*> expected[] = {
-        {51, "\x1b[32m"}, {50, "\x1b[33m"}, {21, "\x1b[33m"}, {20, "\x1b[31m"}};
-    for (const auto& [percent, colour] : expected) {
-        fields.batteryPercent = percent;
-        EXPECT_THAT(frame(60, 40, Colours::on), Contains(HasSubstr(fmt::format("% \x1b[0m{}█", colour))))
-            << percent;
+TEST_F(WatchFrameTest, ShowsEveryCardWhereThereIsRoom) {
+    const auto shown = lines({.size = {160, 60}});
+    for (const auto* text : {"Charge Limit", "Stop at: 80%", "Battery Drain", "55%", "Component Power",
+                             "TOTAL", "editor", "12W now", "10W min", "Consumption History", "Avg 0.0W",
+                             "Efficiency", "★★☆☆☆", "Battery Details", "healthy"}) {
+        EXPECT_THAT(shown, Contains(HasSubstr(text)));
     }
 }
 
-TEST_F(WatchFrameTest, LeavesOutTheBatteryThatThereIsNot) {
+TEST_F(WatchFrameTest, ScrollsToTheEndAndNoFurther) {
+    const auto first = frame({.size = {60, 20}});
+    EXPECT_GT(first.furthestScroll, 0);
+    EXPECT_EQ(first.page, 18);
+    const auto end = lines({.size = {60, 20}, .scrolledBy = first.furthestScroll});
+    EXPECT_THAT(end.at(18), StartsWith("╰"));
+    EXPECT_EQ(lines({.size = {60, 20}, .scrolledBy = WatchView::theEnd}), end);
+    EXPECT_EQ(lines({.size = {60, 20}, .scrolledBy = -5}), lines({.size = {60, 20}}));
+    EXPECT_EQ(frame({.size = {160, 200}}).furthestScroll, 0);
+}
+
+TEST_F(WatchFrameTest, SaysThatThereIsMoreBelow) {
+    EXPECT_THAT(lines({.size = {60, 20}}).back(), HasSubstr("↓ more"));
+    EXPECT_THAT(lines({.size = {60, 20}, .scrolledBy = WatchView::theEnd}).back(), Not(HasSubstr("more")));
+    EXPECT_THAT(lines({.size = {160, 200}}).back(), Not(HasSubstr("more")));
+}
+
+TEST_F(WatchFrameTest, ShowsTheKeysInPlaceOfTheCards) {
+    const auto shown = lines({.size = {80, 24}, .help = true});
+    EXPECT_THAT(shown, Contains(HasSubstr("history of 30 minutes, 1 hour, 24 hours, 7 days")));
+    EXPECT_THAT(shown, Each(Not(HasSubstr("Battery"))));
+}
+
+TEST_F(WatchFrameTest, LeavesOutWhatADesktopDoesNotHave) {
     fields.hasBattery = false;
-    const auto lines = frame(60, 40);
-    EXPECT_THAT(lines, Contains(" Battery" + std::string(47, ' ') + "none"));
-    EXPECT_THAT(lines, Not(Contains(HasSubstr("health"))));
+    fields.powerHistory = {10, 20};
+    const auto shown = lines({.size = {160, 60}});
+    for (const auto* text : {"Charge Limit", "Health", "Battery Details", "Live Power Trend"}) {
+        EXPECT_THAT(shown, Each(Not(HasSubstr(text))));
+    }
 }
 
-TEST_F(WatchFrameTest, TellsWhereTheAdaptersPowerGoes) {
-    fields.isPluggedIn = true;
-    fields.acTotal = 37;
-    fields.chargePower = 22;
-    EXPECT_THAT(frame(80, 40), Contains(HasSubstr("adapter 37.0 W, of it 22.0 W into the battery")));
+TEST_F(WatchFrameTest, OffersTheHelperWhereThereIsNone) {
+    fields.daemonInstalled = false;
+    const auto shown = lines({.size = {80, 60}});
+    EXPECT_THAT(shown, Contains(HasSubstr("Install Helper (one-time password)")));
+    EXPECT_THAT(shown, Each(Not(HasSubstr("Stop at"))));
 }
 
-TEST_F(WatchFrameTest, LetsNoNameLeaveItsLine) {
-    fields.topProcesses = std::vector<ProcessInfo_Energy>{{"a\x1b[2J\nb", 1.0, 0.0}};
-    EXPECT_THAT(frame(60, 40), Contains(HasSubstr("a?[2J?b")));
+TEST_F(WatchFrameTest, SaysWhatTheHistoryWaitsFor) {
+    fields.historyData = {};
+    EXPECT_THAT(lines({.size = {80, 80}}), Contains(HasSubstr("Collecting data...")));
 }
 
-TEST_F(WatchFrameTest, SurvivesAbsurdFigures) {
-    fields.batteryPercent = std::numeric_limits<Int>::min();
-    fields.totalPower = 1e300;
-    fields.cpuPower = -1e300;
-    fields.powerHistory = std::vector<double>{-1e308, 1e308};
-    EXPECT_FALSE(frame(60, 40).empty());
+TEST_F(WatchFrameTest, ShowsNoNameThatATerminalWouldObey) {
+    fields.topProcesses = {{"evil\x1b[2J", 30, 2}};
+    EXPECT_THAT(lines({.size = {80, 80}}), Each(Not(HasSubstr("\x1b"))));
 }
 
 } // namespace

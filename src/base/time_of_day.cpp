@@ -1,0 +1,33 @@
+#include "base/time_of_day.h"
+
+#include <ctime>
+#include <optional>
+
+#include <fmt/format.h>
+
+#include "base/arithmetic.h"
+
+namespace quelby {
+
+namespace {
+
+std::optional<std::tm> localTime(double time) {
+    const std::time_t seconds = truncated(time);
+    std::tm local{};
+    return localtime_r(&seconds, &local) == nullptr ? std::nullopt : std::optional(local);
+}
+
+} // namespace
+
+std::string timeOfDay(double time) {
+    const auto local = localTime(time);
+    return local ? fmt::format("{:02}:{:02}:{:02}", local->tm_hour, local->tm_min, local->tm_sec)
+                 : "--:--:--";
+}
+
+std::string hourAndMinute(double time) {
+    const auto local = localTime(time);
+    return local ? fmt::format("{:02}:{:02}", local->tm_hour, local->tm_min) : "--:--";
+}
+
+} // namespace quelby

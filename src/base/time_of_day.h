@@ -1,0 +1,15 @@
+// Times as a clock on the wall shows them, in the local time zone. A time that the calendar does not reach is
+// shown as dashes.
+#pragma once
+
+#include <string>
+
+namespace quelby {
+
+// "14:03:27". The time counts seconds since 1970-01-01 00:00 UTC.
+[[nodiscard]] std::string timeOfDay(double time);
+
+// "14:03", likewise.
+[[nodiscard]] std::string hourAndMinute(double time);
+
+} // namespace quelby
