@@ -1,5 +1,6 @@
 #include "base/time_of_day.h"
 
+#include <cmath>
 #include <ctime>
 #include <optional>
 
@@ -14,7 +15,7 @@ namespace {
 std::optional<std::tm> localTime(double time) {
     const std::time_t seconds = truncated(time);
     std::tm local{};
-    return localtime_r(&seconds, &local) == nullptr ? std::nullopt : std::optional(local);
+    return std::isnan(time) || localtime_r(&seconds, &local) == nullptr ? std::nullopt : std::optional(local);
 }
 
 } // namespace

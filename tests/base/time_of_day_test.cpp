@@ -1,5 +1,7 @@
 #include "base/time_of_day.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "support/time_zone.h"
@@ -54,6 +56,11 @@ TEST(TimeOfDay, HasDashesForATimeBeyondTheCalendar) {
         EXPECT_EQ(timeOfDay(time), "--:--:--") << time;
         EXPECT_EQ(hourAndMinute(time), "--:--") << time;
     }
+}
+
+TEST(TimeOfDay, OfNoNumberIsUnknown) {
+    EXPECT_EQ(timeOfDay(std::nan("")), "--:--:--");
+    EXPECT_EQ(hourAndMinute(std::nan("")), "--:--");
 }
 
 } // namespace

@@ -16,10 +16,13 @@ constexpr double hoverWidth = 376;
 } // namespace
 
 ChartScale::ChartScale(const std::vector<double>& values) {
-    if (!values.empty()) {
-        const auto [smallest, largest] = std::minmax_element(values.begin(), values.end());
-        minimum_ = *smallest;
-        maximum_ = *largest;
+    bool first = true;
+    for (const double value : values) {
+        if (std::isfinite(value)) {
+            minimum_ = first ? value : std::min(minimum_, value);
+            maximum_ = first ? value : std::max(maximum_, value);
+            first = false;
+        }
     }
 }
 
@@ -29,7 +32,7 @@ double ChartScale::normalised(double value) const {
 }
 
 std::optional<std::size_t> hoverIndex(double x, std::size_t count) {
-    if (count == 0) {
+    if (count == 0 || std::isnan(x)) {
         return std::nullopt;
     }
     const double fraction = std::clamp(x / hoverWidth, 0.0, 1.0);

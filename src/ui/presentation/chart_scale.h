@@ -21,7 +21,8 @@ struct ChartPoint {
     bool operator==(const ChartPoint&) const = default;
 };
 
-// From the smallest to the largest value, at least 0.1 apart; from 0 to 1 where there are none.
+// From the smallest to the largest value that is finite, at least 0.1 apart; from 0 to 1 where there are
+// none.
 class ChartScale {
 public:
     explicit ChartScale(const std::vector<double>& values);

@@ -30,8 +30,7 @@ struct ProcessCard {
 [[nodiscard]] ProcessCard processCard(const PublishedFields& fields);
 
 // The name as the card shows it: of more than 20 characters the first 19 and "~". A character is what a
-// person counts as one (a grapheme cluster of Unicode Standard Annex 29). Characters that cannot be printed
-// become
+// person counts as one (a grapheme cluster of Unicode Standard Annex 29); one that cannot be printed becomes
 // "?".
 [[nodiscard]] std::string shownName(std::string_view name);
 

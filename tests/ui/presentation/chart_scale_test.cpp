@@ -120,5 +120,22 @@ TEST(LabelCentre, IsNeverAboveItsCeiling) {
     }
 }
 
+TEST(ChartScale, PassesOverWhatIsNoNumberWhereverItStands) {
+    for (const auto& values : {std::vector{notANumber, 10.0, 20.0},
+                               {10.0, notANumber, 20.0},
+                               {10.0, 20.0, notANumber},
+                               {infinity, 20.0, 10.0},
+                               {20.0, 10.0, -infinity}}) {
+        const ChartScale scale(values);
+        EXPECT_EQ(scale.minimum(), 10);
+        EXPECT_EQ(scale.maximum(), 20);
+    }
+    EXPECT_EQ(ChartScale({notANumber}).maximum(), 1);
+}
+
+TEST(HoverIndex, IsNoneForAPointerThatIsNowhere) {
+    EXPECT_EQ(hoverIndex(notANumber, 5), std::nullopt);
+}
+
 } // namespace
 } // namespace quelby
