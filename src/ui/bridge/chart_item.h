@@ -1,0 +1,110 @@
+// What both charts have in common: a filled area below a curve, and what is shown of the sample under the
+// pointer. Where everything lies is decided by the presentation.
+//
+// The item is larger than its chart, by an overhang on each side, because dots and lines at the chart's very
+// edge would otherwise be cut.
+#pragma once
+
+#include <vector>
+
+#include <QColor>
+#include <QFont>
+#include <QQuickPaintedItem>
+#include <qqmlintegration.h>
+
+#include "ui/presentation/chart_scale.h"
+
+namespace quelby {
+
+class ChartItem : public QQuickPaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the two charts are made of it")
+    Q_PROPERTY(int hoverIndex READ hoverIndex NOTIFY hoverIndexChanged)
+    Q_PROPERTY(QString readOut READ readOut NOTIFY hoverIndexChanged)
+    Q_PROPERTY(qreal overhang READ overhang CONSTANT)
+    // From the left to the right end of the curve, at equal distances.
+    Q_PROPERTY(QList<QColor> curveColors READ curveColors WRITE setCurveColors NOTIFY appearanceChanged)
+    // From the top to the bottom of the area, likewise.
+    Q_PROPERTY(QList<QColor> areaColors READ areaColors WRITE setAreaColors NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY appearanceChanged)
+    // Around what is white of the read-out, where the chart's surroundings are light.
+    Q_PROPERTY(QColor haloColor READ haloColor WRITE setHaloColor NOTIFY appearanceChanged)
+    Q_PROPERTY(QString fontFamily READ fontFamily WRITE setFontFamily NOTIFY appearanceChanged)
+
+public:
+    explicit ChartItem(QQuickItem* parent = nullptr);
+
+    // The sample under the pointer; -1, as QML has it, for none.
+    [[nodiscard]] int hoverIndex() const { return hoverIndex_; }
+
+    [[nodiscard]] static qreal overhang() { return 4; }
+
+    // What is shown of that sample, in words; empty for none.
+    [[nodiscard]] QString readOut() const;
+
+    // Moves the read-out as the pointer would; beyond the last sample shows none. For the keyboard.
+    Q_INVOKABLE void hover(int index);
+
+    [[nodiscard]] QList<QColor> curveColors() const { return curveColors_; }
+
+    void setCurveColors(const QList<QColor>& colors);
+
+    [[nodiscard]] QList<QColor> areaColors() const { return areaColors_; }
+
+    void setAreaColors(const QList<QColor>& colors);
+
+    [[nodiscard]] QColor labelColor() const { return labelColor_; }
+
+    void setLabelColor(const QColor& color);
+
+    [[nodiscard]] QColor haloColor() const { return haloColor_; }
+
+    void setHaloColor(const QColor& color);
+
+    [[nodiscard]] QString fontFamily() const { return fontFamily_; }
+
+    void setFontFamily(const QString& family);
+
+    void paint(QPainter* painter) override;
+
+Q_SIGNALS:
+    void hoverIndexChanged();
+    void appearanceChanged();
+
+protected:
+    void hoverEnterEvent(QHoverEvent* event) override;
+    void hoverMoveEvent(QHoverEvent* event) override;
+    void hoverLeaveEvent(QHoverEvent* event) override;
+
+    // Of the chart, without the overhang.
+    [[nodiscard]] ChartSize chartSize() const;
+
+    [[nodiscard]] QFont font(qreal size, QFont::Weight weight) const;
+
+    // The data are others now.
+    void redraw();
+
+private:
+    [[nodiscard]] virtual std::size_t count() const = 0;
+    [[nodiscard]] virtual std::vector<ChartPoint> curve() const = 0;
+    [[nodiscard]] virtual std::optional<HoverReadOut> readOutAt(std::size_t index) const = 0;
+
+    // What belongs to one of the charts only, over the curve and below the read-out.
+    virtual void paintMarks(QPainter& painter) const = 0;
+
+    [[nodiscard]] std::optional<HoverReadOut> currentReadOut() const;
+    void pointAt(QPointF position);
+    void setHoverIndex(int index);
+    void paintCurve(QPainter& painter) const;
+    void paintReadOut(QPainter& painter, const HoverReadOut& readOut) const;
+
+    int hoverIndex_ = -1;
+    QList<QColor> curveColors_;
+    QList<QColor> areaColors_;
+    QColor labelColor_;
+    QColor haloColor_ = Qt::transparent;
+    QString fontFamily_;
+};
+
+} // namespace quelby

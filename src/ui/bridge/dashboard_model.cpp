@@ -1,0 +1,186 @@
+#include "ui/bridge/dashboard_model.h"
+
+#include "ui/presentation/dialogs.h"
+#include "ui/presentation/relative_date.h"
+
+namespace quelby {
+
+namespace {
+
+// The element that a button of a row stands for; none for an index beyond the row.
+template <typename Elements>
+auto elementAt(const Elements& elements, int index) -> std::optional<typename Elements::value_type> {
+    const bool exists = index >= 0 && static_cast<std::size_t>(index) < elements.size();
+    return exists ? std::optional(elements[static_cast<std::size_t>(index)]) : std::nullopt;
+}
+
+} // namespace
+
+DashboardModel::DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, DashboardActions actions,
+                               QObject* parent)
+    : QObject(parent), monitor_(std::move(monitor)), clock_(clock), actions_(std::move(actions)) {}
+
+void DashboardModel::setWatched(bool watched) {
+    if (watched == isWatched()) {
+        return;
+    }
+    if (watched) {
+        subscribe();
+        refresh(); // what is shown first is already up to date
+    } else {
+        subscriptions_.clear();
+    }
+    Q_EMIT watchedChanged();
+}
+
+void DashboardModel::subscribe() {
+    forEachField(static_cast<PublishedFields&>(*monitor_), [this](FieldName, auto& field) {
+        subscriptions_.push_back(field.observe([this](const auto&) { refreshLater(); }));
+    });
+}
+
+// Observers are told before a field changes, and there are many fields.
+void DashboardModel::refreshLater() {
+    if (refreshing_) {
+        return;
+    }
+    refreshing_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            refreshing_ = false;
+            if (isWatched()) {
+                refresh();
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+template <typename T>
+void DashboardModel::renew(T& held, T coming, Changed changed) {
+    if (held == coming) {
+        return;
+    }
+    held = std::move(coming);
+    Q_EMIT(this->*changed)();
+}
+
+void DashboardModel::refresh() {
+    renew(shouldShowChargingTip_, monitor_->shouldShowChargingTip.get(),
+          &DashboardModel::shouldShowChargingTipChanged);
+    if (settingsShown_) {
+        refreshSettings();
+    } else {
+        refreshDashboard();
+    }
+}
+
+void DashboardModel::refreshDashboard() {
+    const auto content = dashboard(*monitor_, clock_.now());
+    renew(header_, HeaderValue(content.header), &DashboardModel::headerChanged);
+    renew(powerBadge_, PowerBadgeValue(content.powerBadge), &DashboardModel::powerBadgeChanged);
+    renew(components_, ComponentsValue(content.components), &DashboardModel::componentsChanged);
+    renew(processes_, ProcessesValue(content.processes), &DashboardModel::processesChanged);
+    renew(history_, HistoryValue(content.history), &DashboardModel::historyChanged);
+    renew(efficiency_, EfficiencyValue(content.efficiency), &DashboardModel::efficiencyChanged);
+    if (content.trend) {
+        renew(trend_, TrendValue(*content.trend), &DashboardModel::trendChanged);
+    }
+    if (content.battery && content.chargeLimit && content.details) {
+        renew(chargeLimit_, ChargeLimitValue(*content.chargeLimit), &DashboardModel::chargeLimitChanged);
+        renew(battery_, BatteryValue(*content.battery), &DashboardModel::batteryChanged);
+        renew(details_, DetailsValue(*content.details), &DashboardModel::detailsChanged);
+    }
+    // Last, so that a card appears with its content.
+    renew(hasTrend_, content.trend.has_value(), &DashboardModel::hasTrendChanged);
+    renew(hasBattery_, content.battery.has_value(), &DashboardModel::hasBatteryChanged);
+}
+
+void DashboardModel::refreshSettings() {
+    const SettingsValue content(settingsPanel(*monitor_, clock_.now(), userLanguage()));
+    renew(header_, content.header, &DashboardModel::headerChanged);
+    renew(settings_, content, &DashboardModel::settingsChanged);
+}
+
+void DashboardModel::setSettingsShown(bool shown) {
+    if (shown == settingsShown_) {
+        return;
+    }
+    settingsShown_ = shown;
+    if (isWatched()) {
+        refresh();
+    }
+    Q_EMIT settingsShownChanged();
+}
+
+LabelValue DashboardModel::quitButton() const {
+    return LabelValue(quelby::quitButton());
+}
+
+DialogValue DashboardModel::chargingTip() const {
+    return DialogValue(quelby::chargingTip());
+}
+
+DialogValue DashboardModel::uninstallConfirmation() const {
+    return DialogValue(quelby::uninstallConfirmation());
+}
+
+void DashboardModel::setShouldShowChargingTip(bool shown) {
+    monitor_->shouldShowChargingTip = shown;
+}
+
+void DashboardModel::toggleChargeLimit(bool enabled) {
+    monitor_->toggleChargeLimit(enabled);
+}
+
+void DashboardModel::setChargeLimit(double percent) {
+    monitor_->setChargeLimit(percent);
+}
+
+void DashboardModel::installDaemon() {
+    monitor_->installDaemon();
+}
+
+void DashboardModel::uninstallDaemon() {
+    monitor_->uninstallDaemon();
+}
+
+void DashboardModel::selectHistoryRange(int index) {
+    if (const auto range = elementAt(allTimeRanges, index)) {
+        monitor_->selectHistoryRange(*range);
+    }
+}
+
+void DashboardModel::setLaunchAtLogin(bool enabled) {
+    monitor_->setLaunchAtLogin(enabled);
+}
+
+void DashboardModel::selectMenuBarDisplay(int index) {
+    if (const auto display = elementAt(allMenuBarDisplays, index)) {
+        monitor_->menuBarDisplay = *display;
+    }
+}
+
+void DashboardModel::setAutoCalibrate(bool enabled) {
+    monitor_->updateCalibrationSettings(enabled, monitor_->calibrationIntervalDays);
+}
+
+void DashboardModel::selectCalibrationInterval(int index) {
+    if (const auto days = elementAt(calibrationIntervals, index)) {
+        monitor_->updateCalibrationSettings(true, *days);
+    }
+}
+
+void DashboardModel::fullUninstall() {
+    monitor_->fullUninstall(actions_.quit);
+}
+
+void DashboardModel::openBatterySettings() {
+    actions_.openBatterySettings();
+}
+
+void DashboardModel::quit() {
+    actions_.quit();
+}
+
+} // namespace quelby

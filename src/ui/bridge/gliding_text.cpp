@@ -1,0 +1,34 @@
+#include "ui/bridge/gliding_text.h"
+
+#include "ui/presentation/gliding_text.h"
+
+namespace quelby {
+
+void GlidingText::setTarget(const QString& target) {
+    if (target == target_) {
+        return;
+    }
+    from_ = target_.isEmpty() ? target : text_;
+    target_ = target;
+    show();
+    Q_EMIT targetChanged();
+}
+
+void GlidingText::setProgress(qreal progress) {
+    if (progress != progress_) {
+        progress_ = progress;
+        show();
+        Q_EMIT progressChanged();
+    }
+}
+
+void GlidingText::show() {
+    const auto text =
+        QString::fromStdString(glidingText(from_.toStdString(), target_.toStdString(), progress_));
+    if (text != text_) {
+        text_ = text;
+        Q_EMIT textChanged();
+    }
+}
+
+} // namespace quelby

@@ -1,0 +1,49 @@
+#include "ui/bridge/sparkline_view.h"
+
+#include <QPainter>
+
+#include "ui/presentation/sparkline.h"
+
+namespace quelby {
+
+QList<qreal> SparklineView::samples() const {
+    return {samples_.begin(), samples_.end()};
+}
+
+void SparklineView::setSamples(const QList<qreal>& samples) {
+    samples_.assign(samples.begin(), samples.end());
+    redraw();
+    Q_EMIT samplesChanged();
+}
+
+InkValue SparklineView::dotInk() const {
+    const auto dot = newestDot(samples_, chartSize());
+    return dot ? InkValue(dot->color) : InkValue();
+}
+
+void SparklineView::setDotColor(const QColor& color) {
+    dotColor_ = color;
+    update();
+    Q_EMIT appearanceChanged();
+}
+
+std::vector<ChartPoint> SparklineView::curve() const {
+    return sparkline(samples_, chartSize());
+}
+
+std::optional<HoverReadOut> SparklineView::readOutAt(std::size_t index) const {
+    return sparklineReadOut(samples_, chartSize(), index);
+}
+
+void SparklineView::paintMarks(QPainter& painter) const {
+    const auto dot = newestDot(samples_, chartSize());
+    if (!dot || hoverIndex() >= 0) {
+        return;
+    }
+    constexpr qreal diameter = 6;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(dotColor_);
+    painter.drawEllipse(QPointF(dot->point.x, dot->point.y), diameter / 2, diameter / 2);
+}
+
+} // namespace quelby

@@ -1,0 +1,165 @@
+// The whole view: header, cards or settings, and the two questions.
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Templates as T
+import Quelby.Bridge
+
+FocusScope {
+    id: view
+
+    required property DashboardModel monitor
+    required property bool dark // what the desktop likes, likewise below
+    required property bool animated
+    property bool showSettings: false
+    property bool showUninstallConfirm: false
+    property alias scrollTop: scroll.contentY
+
+    readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
+    readonly property bool asking: tip.shown || uninstall.shown
+
+    function scrollBy(distance: real) {
+        scrollTo(scroll.contentY + distance)
+    }
+
+    function scrollTo(top: real) {
+        scroll.contentY = Math.max(0, Math.min(top, scroll.contentHeight - scroll.height))
+    }
+
+    // Keeps what has the focus in sight.
+    function reveal(item: Item) {
+        const top = item.mapToItem(scroll.contentItem, 0, 0).y
+        const bottom = top + item.height
+        if (top < scroll.contentY) {
+            scrollTo(top - Theme.viewPadding)
+        } else if (bottom > scroll.contentY + scroll.height) {
+            scrollTo(bottom + Theme.viewPadding - scroll.height)
+        }
+    }
+
+    function contains(item: Item): bool {
+        for (let ancestor = item; ancestor; ancestor = ancestor.parent) {
+            if (ancestor === scroll.contentItem) {
+                return true
+            }
+        }
+        return false
+    }
+
+    width: Theme.viewWidth
+    height: Theme.viewHeight
+    focus: true
+    LayoutMirroring.enabled: mirrored
+    LayoutMirroring.childrenInherit: true
+
+    Keys.enabled: !asking
+    Keys.onUpPressed: scrollBy(-20 * Theme.unit)
+    Keys.onDownPressed: scrollBy(20 * Theme.unit)
+    Keys.onPressed: event => {
+        const page = scroll.height - 20 * Theme.unit
+        const top = {
+            [Qt.Key_PageUp]: scroll.contentY - page,
+            [Qt.Key_PageDown]: scroll.contentY + page,
+            [Qt.Key_Home]: 0,
+            [Qt.Key_End]: scroll.contentHeight
+        }[event.key]
+        event.accepted = top !== undefined
+        if (event.accepted) {
+            scrollTo(top)
+        }
+    }
+
+    onShowSettingsChanged: scrollTo(0)
+
+    Binding { target: view.monitor; property: "settingsShown"; value: view.showSettings }
+    Binding { target: Theme; property: "dark"; value: view.dark }
+    Binding { target: Theme; property: "animated"; value: view.animated }
+
+    Connections {
+        target: view.Window.window
+
+        function onActiveFocusItemChanged() {
+            const item = view.Window.window.activeFocusItem
+            if (item && view.contains(item)) {
+                view.reveal(item)
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.window
+    }
+
+    Flickable {
+        id: scroll
+
+        anchors.fill: parent
+        contentWidth: width
+        contentHeight: column.implicitHeight + 2 * Theme.viewPadding
+        boundsBehavior: Flickable.StopAtBounds
+        enabled: !view.asking
+        T.ScrollBar.vertical: ScrollIndicator {}
+
+        ColumnLayout {
+            id: column
+
+            x: Theme.viewPadding
+            y: Theme.viewPadding
+            width: scroll.width - 2 * Theme.viewPadding
+            spacing: Theme.viewSpacing
+
+            DashboardHeader {
+                content: view.monitor.header
+                inSettings: view.showSettings
+                Layout.fillWidth: true
+                onSettingsToggled: view.showSettings = !view.showSettings
+            }
+
+            DashboardCards {
+                monitor: view.monitor
+                visible: !view.showSettings
+                Layout.fillWidth: true
+            }
+
+            // Made when it is wanted. A Loader of Qt 6.4 does not take bound components.
+            Repeater {
+                model: view.showSettings ? 1 : 0
+
+                SettingsPanel {
+                    monitor: view.monitor
+                    Layout.fillWidth: true
+                    onUninstallWanted: view.showUninstallConfirm = true
+                }
+            }
+
+            QuitButton {
+                content: view.monitor.quitButton
+                Layout.alignment: Qt.AlignHCenter
+                Layout.topMargin: 2 * Theme.unit
+                onClicked: view.monitor.quit()
+            }
+        }
+    }
+
+    ConfirmDialog {
+        id: tip
+
+        anchors.fill: parent
+        content: view.monitor.chargingTip
+        shown: view.monitor.shouldShowChargingTip
+        onAccepted: view.monitor.openBatterySettings()
+        onDismissed: view.monitor.shouldShowChargingTip = false
+    }
+
+    ConfirmDialog {
+        id: uninstall
+
+        anchors.fill: parent
+        content: view.monitor.uninstallConfirmation
+        shown: view.showUninstallConfirm
+        onAccepted: view.monitor.fullUninstall()
+        onDismissed: view.showUninstallConfirm = false
+    }
+}

@@ -1,0 +1,16 @@
+import QtQuick
+import Quelby.Bridge
+
+PlainButton {
+    id: button
+
+    required property inkedLabel content
+
+    name: content.text.text
+    padding: 2 * Theme.unit
+
+    contentItem: SymbolLabel {
+        content: button.content
+        silent: true
+    }
+}

@@ -1,0 +1,67 @@
+#include "ui/view/dashboard_view.h"
+
+#include <QQmlComponent>
+#include <QQmlExtensionPlugin>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
+
+Q_IMPORT_QML_PLUGIN(QuelbyPlugin)
+Q_IMPORT_QML_PLUGIN(Quelby_BridgePlugin)
+
+namespace quelby {
+
+namespace {
+
+// The program's own files: without them there is nothing to go on with.
+void failIfBroken(const QQmlComponent& component) {
+    if (component.isError()) {
+        qFatal("%s", qPrintable(component.errorString()));
+    }
+}
+
+std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& model, Appearance appearance) {
+    auto* const object =
+        component.createWithInitialProperties({{QStringLiteral("monitor"), QVariant::fromValue(&model)},
+                                               {QStringLiteral("dark"), appearance.dark},
+                                               {QStringLiteral("animated"), appearance.animated}});
+    failIfBroken(component);
+    QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
+    return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(object));
+}
+
+} // namespace
+
+void drawWithoutGpu() {
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+DashboardView::DashboardView(DashboardModel& model, Appearance appearance) : model_(model) {
+    QQmlEngine::setObjectOwnership(&model, QQmlEngine::CppOwnership);
+    engine_.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Quelby/ContentView.qml")));
+    failIfBroken(component);
+    item_ = makeItem(component, model, appearance);
+}
+
+DashboardView::~DashboardView() {
+    model_.setWatched(false);
+}
+
+void DashboardView::setWatched(bool watched) {
+    model_.setWatched(watched);
+}
+
+void DashboardView::setAppearance(Appearance appearance) {
+    item_->setProperty("dark", appearance.dark);
+    item_->setProperty("animated", appearance.animated);
+}
+
+void DashboardView::showSettings(bool shown) {
+    item_->setProperty("showSettings", shown);
+}
+
+void DashboardView::scrollTo(double top) {
+    QMetaObject::invokeMethod(item_.get(), "scrollTo", Q_ARG(double, top));
+}
+
+} // namespace quelby

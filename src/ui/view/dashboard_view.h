@@ -1,0 +1,46 @@
+// The dashboard as an item that can be put into a window or drawn into a picture.
+#pragma once
+
+#include <memory>
+
+#include <QQmlEngine>
+#include <QQuickItem>
+
+#include "ui/bridge/dashboard_model.h"
+#include "ui/view/appearance.h"
+
+namespace quelby {
+
+// To be called once, before the first window or view: everything is drawn without the GPU, which is quicker
+// to begin and needs a third of the memory.
+void drawWithoutGpu();
+
+class DashboardView {
+public:
+    // The model outlives the view. Nothing is observed until the view is watched.
+    DashboardView(DashboardModel& model, Appearance appearance);
+    DashboardView(const DashboardView&) = delete;
+    DashboardView& operator=(const DashboardView&) = delete;
+    ~DashboardView();
+
+    // Owned by this object; whoever shows it gives it a parent.
+    [[nodiscard]] QQuickItem& item() const { return *item_; }
+
+    [[nodiscard]] QQmlEngine& engine() { return engine_; }
+
+    // Whether anybody could see a change.
+    void setWatched(bool watched);
+
+    void setAppearance(Appearance appearance);
+    void showSettings(bool shown);
+
+    // In points from the top; the end of the column at the most.
+    void scrollTo(double top);
+
+private:
+    DashboardModel& model_;
+    QQmlEngine engine_;
+    std::unique_ptr<QQuickItem> item_;
+};
+
+} // namespace quelby

@@ -1,0 +1,67 @@
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ui/bridge/gliding_text.h"
+#include "ui/support/printing.h"
+
+namespace quelby {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class GlidingTextItem : public testing::Test {
+protected:
+    GlidingTextItem() {
+        QObject::connect(&gliding, &GlidingText::textChanged,
+                         [this] { shown.push_back(gliding.text().toStdString()); });
+    }
+
+    // As an animation does it.
+    void glide() {
+        for (const double progress : {0.0, 0.5, 1.0}) {
+            gliding.setProgress(progress);
+        }
+    }
+
+    GlidingText gliding;
+    std::vector<std::string> shown;
+};
+
+TEST_F(GlidingTextItem, ShowsItsFirstTextAtOnce) {
+    gliding.setTarget("10W");
+    glide();
+    EXPECT_THAT(shown, ElementsAre("10W"));
+}
+
+TEST_F(GlidingTextItem, GlidesFromWhatIsShownAndEndsExactlyAtItsTarget) {
+    gliding.setTarget("10W");
+    gliding.setTarget("20W");
+    glide();
+    EXPECT_EQ(shown.back(), "20W");
+    EXPECT_THAT(shown, testing::Contains("15W"));
+    gliding.setTarget("40W");
+    gliding.setProgress(0.5);
+    EXPECT_EQ(gliding.text(), "30W");
+    gliding.setTarget("0W"); // on its way
+    gliding.setProgress(0);
+    EXPECT_EQ(gliding.text(), "30W");
+    gliding.setProgress(1);
+    EXPECT_EQ(gliding.text(), "0W");
+}
+
+TEST_F(GlidingTextItem, TellsNothingWhenNothingChanges) {
+    gliding.setTarget("10W");
+    shown.clear();
+    int targets = 0;
+    QObject::connect(&gliding, &GlidingText::targetChanged, [&] { ++targets; });
+    gliding.setTarget("10W");
+    glide();
+    EXPECT_THAT(shown, IsEmpty());
+    EXPECT_EQ(targets, 0);
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,234 @@
+// What those hear who cannot see the dashboard, and what they can do.
+#include <fstream>
+#include <sstream>
+
+#include <QAccessible>
+#include <QMetaEnum>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "helper/daemon_config.h"
+#include "ui/support/printing.h"
+#include "ui/support/shown_view.h"
+
+namespace quelby {
+namespace {
+
+using testing::ElementsAre;
+
+std::string textOf(const QAccessibleInterface& thing, QAccessible::Text kind) {
+    return thing.text(kind).toStdString();
+}
+
+// As in: Slider "Stop at:" = 80, 20 to 100
+std::string spoken(QAccessibleInterface& thing) {
+    std::string line = QMetaEnum::fromType<QAccessible::Role>().valueToKey(thing.role());
+    line += " \"" + textOf(thing, QAccessible::Name) + '"';
+    const auto state = thing.state();
+    if (state.checkable) {
+        line += state.checked ? " on" : " off";
+    }
+    if (auto* const value = thing.valueInterface()) {
+        line += QStringLiteral(" = %1, %2 to %3")
+                    .arg(value->currentValue().toDouble())
+                    .arg(value->minimumValue().toDouble())
+                    .arg(value->maximumValue().toDouble())
+                    .toStdString();
+    }
+    if (const auto description = textOf(thing, QAccessible::Description); !description.empty()) {
+        line += " (" + description + ')';
+    }
+    return line;
+}
+
+void appendTree(QAccessibleInterface& thing, int depth, std::string& text) {
+    if (thing.state().invisible) {
+        return;
+    }
+    text += std::string(static_cast<std::size_t>(depth) * 4, ' ') + spoken(thing) + '\n';
+    for (int i = 0; i < thing.childCount(); ++i) {
+        appendTree(*thing.child(i), depth + 1, text);
+    }
+}
+
+class Accessibility : public testing::Test {
+protected:
+    Accessibility() {
+        QAccessible::setActive(true);
+        fillEveryCard(*dashboard.monitor);
+        dashboard.computer.folders.helperResources = "/somewhere";
+        view.emplace(dashboard);
+    }
+
+    ~Accessibility() override { QAccessible::setActive(false); }
+
+    [[nodiscard]] std::string tree() {
+        std::string text;
+        auto* const window = QAccessible::queryAccessibleInterface(&view->window());
+        for (int i = 0; i < window->childCount(); ++i) {
+            appendTree(*window->child(i), 0, text);
+        }
+        return text;
+    }
+
+    [[nodiscard]] static std::string expected(const char* file) {
+        std::ostringstream content;
+        content << std::ifstream(std::string(QUELBY_SOURCE_DIR "/tests/ui/view/accessible/") + file).rdbuf();
+        return content.str();
+    }
+
+    [[nodiscard]] QAccessibleInterface* find(QAccessible::Role role, const QString& name) {
+        return find(QAccessible::queryAccessibleInterface(&view->window()), role, name);
+    }
+
+    static QAccessibleInterface* find(QAccessibleInterface* thing, QAccessible::Role role,
+                                      const QString& name) {
+        if (thing->role() == role && thing->text(QAccessible::Name) == name && !thing->state().invisible) {
+            return thing;
+        }
+        for (int i = 0; i < thing->childCount(); ++i) {
+            if (auto* const found = find(thing->child(i), role, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+
+    // Does what assistive technology can have a control do.
+    void act(QAccessible::Role role, const QString& name, const QString& action) {
+        auto* const control = find(role, name);
+        ASSERT_NE(control, nullptr) << testing::PrintToString(name);
+        auto* const actions = control->actionInterface();
+        ASSERT_NE(actions, nullptr) << testing::PrintToString(name);
+        EXPECT_TRUE(actions->actionNames().contains(action)) << testing::PrintToString(name);
+        actions->doAction(action);
+        view->settle();
+    }
+
+    void press(const QString& name) {
+        act(QAccessible::Button, name, QAccessibleActionInterface::pressAction());
+    }
+
+    [[nodiscard]] bool isOn(QAccessible::Role role, const QString& name) {
+        const auto* const control = find(role, name);
+        return control != nullptr && control->state().checked;
+    }
+
+    MadeUpDashboard dashboard;
+    PowerMonitor& monitor = *dashboard.monitor;
+    std::optional<ShownView> view;
+};
+
+TEST_F(Accessibility, OfTheDashboardIsWhatIsWrittenDown) {
+    EXPECT_EQ(tree(), expected("dashboard.txt"));
+}
+
+TEST_F(Accessibility, OfADesktopWithoutHelperIsWhatIsWrittenDown) {
+    monitor.hasBattery = false;
+    monitor.topProcesses = std::vector<ProcessInfo_Energy>{};
+    monitor.historyData = std::vector<HistoryDataPoint>{};
+    monitor.powerHistory = std::vector<double>{};
+    view->settle();
+    EXPECT_EQ(tree(), expected("desktop.txt"));
+}
+
+TEST_F(Accessibility, OfTheSettingsIsWhatIsWrittenDown) {
+    view->showSettings();
+    EXPECT_EQ(tree(), expected("settings.txt"));
+}
+
+TEST_F(Accessibility, OfAQuestionIsWhatIsWrittenDown) {
+    view->root().setProperty("showUninstallConfirm", true);
+    view->settle();
+    EXPECT_THAT(tree(), testing::EndsWith(expected("question.txt")));
+}
+
+TEST_F(Accessibility, PressesEveryButton) {
+    press("Settings");
+    press("Back");
+    press("Settings");
+    press("Close Settings");
+    EXPECT_FALSE(view->root().property("showSettings").toBool());
+    press("Quit Quelby");
+    EXPECT_EQ(dashboard.quits, 1);
+    view->showSettings();
+    press("Uninstall");
+    EXPECT_FALSE(monitor.daemonInstalled);
+    press("Install");
+    EXPECT_TRUE(monitor.daemonInstalled);
+    press("Uninstall Quelby");
+    press("Cancel");
+    press("Uninstall Quelby");
+    press("Uninstall Everything");
+    EXPECT_EQ(dashboard.quits, 2);
+}
+
+TEST_F(Accessibility, InstallsTheHelperFromItsCard) {
+    monitor.daemonInstalled = false;
+    view->settle();
+    press("Install Helper (one-time password)");
+    EXPECT_TRUE(monitor.daemonInstalled);
+}
+
+TEST_F(Accessibility, TurnsEverySwitch) {
+    const auto turn = [&](const QString& name) {
+        const bool before = isOn(QAccessible::CheckBox, name);
+        act(QAccessible::CheckBox, name, QAccessibleActionInterface::toggleAction());
+        EXPECT_NE(isOn(QAccessible::CheckBox, name), before) << testing::PrintToString(name);
+    };
+    for (const bool enabled : {false, true}) {
+        turn("Charge Limit");
+        EXPECT_EQ(monitor.chargeLimitEnabled, enabled);
+    }
+    monitor.shouldShowChargingTip = false;
+    view->showSettings();
+    turn("Launch at Login");
+    turn("Launch at Login");
+    EXPECT_THAT(dashboard.computer.login.wishes, ElementsAre("register", "unregister"));
+    turn("Auto Calibrate");
+    EXPECT_FALSE(monitor.calibrationEnabled);
+}
+
+TEST_F(Accessibility, PressesASwitchAsWell) {
+    act(QAccessible::CheckBox, "Charge Limit", QAccessibleActionInterface::pressAction());
+    EXPECT_FALSE(monitor.chargeLimitEnabled);
+}
+
+TEST_F(Accessibility, ChoosesFromEveryRow) {
+    const auto choose = [&](const QString& name) {
+        act(QAccessible::RadioButton, name, QAccessibleActionInterface::pressAction());
+        EXPECT_TRUE(isOn(QAccessible::RadioButton, name)) << testing::PrintToString(name);
+    };
+    choose("24h");
+    EXPECT_EQ(monitor.historyRange.get(), TimeRange::twentyFourHours);
+    EXPECT_FALSE(isOn(QAccessible::RadioButton, "30m"));
+    view->showSettings();
+    choose("Temp");
+    EXPECT_EQ(monitor.menuBarDisplay.get(), MenuBarDisplay::temperature);
+    choose("2 Weeks");
+    EXPECT_EQ(monitor.calibrationIntervalDays, 14);
+}
+
+TEST_F(Accessibility, MovesTheSlider) {
+    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::increaseAction());
+    EXPECT_EQ(monitor.chargeLimitPercent, 85.0);
+    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::decreaseAction());
+    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::decreaseAction());
+    EXPECT_EQ(monitor.chargeLimitPercent, 75.0);
+    EXPECT_EQ(dashboard.computer.helper.writes, 3);
+    auto* const value = find(QAccessible::Slider, "Stop at:")->valueInterface();
+    EXPECT_EQ(value->currentValue().toDouble(), 75);
+    EXPECT_EQ(value->minimumStepSize().toDouble(), 5);
+}
+
+TEST_F(Accessibility, ReadsOutTheSampleThatIsLookedAt) {
+    const auto charts = visibleItems(view->root(), "ChartItem");
+    ASSERT_EQ(charts.size(), 2U);
+    auto* const chart = find(QAccessible::Chart, "Live Power Trend");
+    EXPECT_EQ(chart->text(QAccessible::Description), "");
+    QMetaObject::invokeMethod(charts.front(), "hover", Q_ARG(int, 4));
+    EXPECT_EQ(chart->text(QAccessible::Description), "21.0W  now");
+}
+
+} // namespace
+} // namespace quelby
