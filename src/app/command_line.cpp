@@ -1,22 +1,102 @@
 #include "app/command_line.h"
 
+#include <limits>
+
+#include <fmt/format.h>
+
+#include "base/number_text.h"
+
 namespace quelby::app {
 
-std::variant<MachineArguments, Answer> parseCommandLine(int argc, const char* const* argv) {
-    CLI::App parser("Shows what this computer's power is doing, and keeps a history of it.", "quelby");
-    MachineArguments arguments;
-    addCommonOptions(parser, arguments);
+namespace {
+
+constexpr double smallestScale = 0.5;
+constexpr double largestScale = 8;
+
+// Numbers are parsed here and not by the option library, which would follow the locale.
+double parseNumber(const char* option, const std::string& text, double least, double most) {
+    const auto number = decimalNumber(text);
+    if (!number || *number < least || *number > most) {
+        throw CLI::ValidationError(
+            fmt::format("{} takes a number from {} to {}, not \"{}\"", option, least, most, text));
+    }
+    return *number;
+}
+
+ScreenshotView parseView(const std::string& text) {
+    if (text == "dashboard" || text == "settings") {
+        return text == "settings" ? ScreenshotView::settings : ScreenshotView::dashboard;
+    }
+    throw CLI::ValidationError(fmt::format(R"(--view takes dashboard or settings, not "{}")", text));
+}
+
+// The command line as it is being read.
+struct Reading {
+    CLI::App app{"Shows what this computer's power is doing, and keeps a history of it.", "quelby"};
+    Request request;
     bool headless = false;
-    parser
-        .add_flag("--headless", headless,
-                  "No user interface: record the history, and print a line for each cycle")
-        ->required(); // there is no other form of the program yet
-    if (auto answer = parseArguments(parser, arguments, argc, argv)) {
+    bool light = false;
+    std::optional<std::filesystem::path> file;
+    ScreenshotCommand screenshot;
+    TrayCommand tray;
+
+    Reading() {
+        addCommonOptions(app, request.arguments);
+        auto* const headlessForm = app.add_flag(
+            "--headless", headless, "No user interface: record the history, and print a line for each cycle");
+        app.add_flag("--background", tray.background,
+                     "Started with the session: wait for the tray, and open no window without one")
+            ->excludes(headlessForm);
+        addPathOption(app, "--screenshot", "FILE.png", file,
+                      "Draw the dashboard, without a display, and end");
+        auto* const screenshotForm = app.get_option("--screenshot")->excludes(headlessForm);
+        addPictureOptions(*screenshotForm);
+    }
+
+    void addPictureOptions(CLI::Option& screenshotForm) {
+        add("--view", "VIEW", "With --screenshot: dashboard or settings", screenshotForm,
+            [this](const std::string& text) { screenshot.view = parseView(text); });
+        add("--scale", "N", "With --screenshot: pixels in a point", screenshotForm,
+            [this](const std::string& text) {
+                screenshot.scale = parseNumber("--scale", text, smallestScale, largestScale);
+            });
+        add("--scroll", "TOP", "With --screenshot: points that are above the upper edge", screenshotForm,
+            [this](const std::string& text) {
+                screenshot.scroll = parseNumber("--scroll", text, 0, 1'000'000);
+            });
+        auto* const darkForm = app.add_flag("--dark", screenshot.dark, "With --screenshot: dark");
+        auto* const lightForm =
+            app.add_flag("--light", light, "With --screenshot: light, which it is unless asked otherwise");
+        darkForm->needs(&screenshotForm)->excludes(lightForm);
+        lightForm->needs(&screenshotForm);
+    }
+
+    void add(const char* name, const char* type, const char* help, CLI::Option& needed,
+             const std::function<void(const std::string&)>& read) {
+        app.add_option_function<std::string>(name, read, help)->type_name(type)->needs(&needed);
+    }
+
+    [[nodiscard]] Request read() {
+        if (file) {
+            screenshot.file = *file;
+            request.command = screenshot;
+            return request;
+        }
+        request.command = headless ? Command(HeadlessCommand()) : Command(tray);
+        request.arguments.machine.afterLastLine =
+            request.arguments.pace == Pace::withoutWaiting ? AfterLastLine::stay : AfterLastLine::startAgain;
+        return request;
+    }
+};
+
+} // namespace
+
+std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv) {
+    Reading reading;
+    if (auto answer = parseArguments(reading.app, reading.request.arguments, argc, argv)) {
         return *std::move(answer);
     }
-    arguments.machine.afterLastLine =
-        arguments.pace == Pace::withoutWaiting ? AfterLastLine::stay : AfterLastLine::startAgain;
-    return arguments;
+    return reading.read();
 }
 
 } // namespace quelby::app

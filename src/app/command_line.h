@@ -1,12 +1,36 @@
 // What a person asked quelby for.
 #pragma once
 
+#include <filesystem>
 #include <variant>
 
 #include "console/machine_arguments.h"
 
 namespace quelby::app {
 
-[[nodiscard]] std::variant<MachineArguments, Answer> parseCommandLine(int argc, const char* const* argv);
+struct TrayCommand {
+    bool background = false; // started with the session: nothing opens by itself
+};
+
+struct HeadlessCommand {};
+
+enum class ScreenshotView { dashboard, settings };
+
+struct ScreenshotCommand {
+    std::filesystem::path file;
+    ScreenshotView view = ScreenshotView::dashboard;
+    double scale = 1; // pixels in a point; 0.5 to 8
+    bool dark = false;
+    double scroll = 0; // points from the top
+};
+
+using Command = std::variant<TrayCommand, HeadlessCommand, ScreenshotCommand>;
+
+struct Request {
+    MachineArguments arguments;
+    Command command;
+};
+
+[[nodiscard]] std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv);
 
 } // namespace quelby::app

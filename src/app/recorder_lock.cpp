@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "console/standard_output.h"
 #include "history/history_file.h"
 
 namespace quelby::app {
@@ -14,6 +15,14 @@ Result<std::optional<FileLock>> takeRecorderLock(const std::filesystem::path& ap
     }
     auto* const lock = std::get_if<FileLock>(&taken);
     return lock == nullptr ? std::nullopt : std::optional(std::move(*lock));
+}
+
+HistoryAccess historyAccess(const Result<std::optional<FileLock>>& lock) {
+    if (lock) {
+        return HistoryAccess::recording;
+    }
+    writeToStandardError("quelby: " + lock.error().sentence + ", so this one only shows its history\n");
+    return HistoryAccess::readOnly;
 }
 
 } // namespace quelby::app

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "base/problem.h"
+#include "history/history_store.h"
 #include "platform/posix/file_lock.h"
 
 namespace quelby::app {
@@ -14,5 +15,9 @@ namespace quelby::app {
 // be recorded there by anybody, and all else works.
 [[nodiscard]] Result<std::optional<FileLock>>
 takeRecorderLock(const std::filesystem::path& applicationSupport);
+
+// What the program may do to the history then: record, or only show what the other program records, which it
+// says on standard error.
+[[nodiscard]] HistoryAccess historyAccess(const Result<std::optional<FileLock>>& lock);
 
 } // namespace quelby::app

@@ -31,7 +31,8 @@ const std::map<std::string, std::set<std::string>> floorsBelow{
 };
 
 // The only folders that may know of Qt.
-const std::vector<std::string> foldersWithQt{"console", "platform/qt"};
+const std::vector<std::string> foldersWithQt{"app",       "console",    "platform/qt",
+                                             "ui/bridge", "ui/symbols", "ui/view"};
 
 std::vector<fs::path> sourceFiles() {
     std::vector<fs::path> files;

@@ -20,25 +20,6 @@ namespace {
 
 constexpr int patience = 20'000; // milliseconds; far more than anything here takes, also under a sanitizer
 
-[[noreturn]] void become(const std::vector<std::string>& words, const Environment& environment) {
-    for (const auto& [name, value] : environment) {
-        ::setenv(name.c_str(), value.c_str(), 1);
-    }
-    std::vector<char*> arguments;
-    for (const auto& word : words) {
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    }
-    arguments.push_back(nullptr);
-    ::execv(arguments[0], arguments.data());
-    ::_exit(127);
-}
-
-int exitStatusOf(pid_t process) {
-    int status = 0;
-    ::waitpid(process, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
-
 std::string readToTheEnd(int file) {
     std::string text;
     std::array<char, 4096> buffer{};
@@ -62,6 +43,25 @@ struct Pipe {
 };
 
 } // namespace
+
+void become(const std::vector<std::string>& words, const Environment& environment) {
+    for (const auto& [name, value] : environment) {
+        ::setenv(name.c_str(), value.c_str(), 1);
+    }
+    std::vector<char*> arguments;
+    for (const auto& word : words) {
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    }
+    arguments.push_back(nullptr);
+    ::execv(arguments[0], arguments.data());
+    ::_exit(127);
+}
+
+int exitStatusOf(pid_t process) {
+    int status = 0;
+    ::waitpid(process, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+}
 
 ProgramResult runProgram(const std::vector<std::string>& words, const Environment& environment) {
     Pipe output;

@@ -23,6 +23,12 @@ using Environment = std::map<std::string, std::string>;
 [[nodiscard]] ProgramResult runProgram(const std::vector<std::string>& words,
                                        const Environment& environment = {});
 
+// Turns this process, a new one, into the program.
+[[noreturn]] void become(const std::vector<std::string>& words, const Environment& environment);
+
+// Waits for its end. 128 plus the number of the signal that ended it.
+[[nodiscard]] int exitStatusOf(pid_t process);
+
 // A program at work in a terminal of its own.
 class TerminalProgram {
 public:

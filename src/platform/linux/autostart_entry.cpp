@@ -49,7 +49,7 @@ std::string autostartText(const std::filesystem::path& program) {
            "Comment=Shows what this computer's power is doing\n"
            "Exec=" +
            asExecutable(program.string()) +
-           "\n"
+           " --background\n" // the session's panel may come later than its programs
            "Icon=quelby\n"
            "Terminal=false\n"
            "Categories=System;Monitor;\n";

@@ -16,7 +16,7 @@ TEST(AutostartEntry, StartsTheProgramThatRegisteredIt) {
     AutostartEntry entry(folder.path() / "config", "/opt/quelby/bin/quelby");
     EXPECT_TRUE(entry.registerProgram());
     const auto text = folder.read("config/autostart/quelby.desktop");
-    EXPECT_THAT(text, HasSubstr("\nExec=\"/opt/quelby/bin/quelby\"\n"));
+    EXPECT_THAT(text, HasSubstr("\nExec=\"/opt/quelby/bin/quelby\" --background\n"));
     EXPECT_TRUE(entry.registerProgram());
     EXPECT_TRUE(entry.unregisterProgram());
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "config" / "autostart" / "quelby.desktop"));
@@ -42,9 +42,9 @@ TEST(AutostartEntry, IsValidForEveryPath) {
 
 TEST(AutostartEntry, QuotesAsTheSpecificationSays) {
     EXPECT_THAT(autostartText("/a b/\"q\"/$x/`y`/100%/back\\slash"),
-                HasSubstr(R"(Exec="/a b/\\"q\\"/\\$x/\\`y\\`/100%%/back\\\\slash")"
+                HasSubstr(R"(Exec="/a b/\\"q\\"/\\$x/\\`y\\`/100%%/back\\\\slash" --background)"
                           "\n"));
-    EXPECT_THAT(autostartText("/new\nline"), HasSubstr("Exec=\"/new\\nline\"\n"));
+    EXPECT_THAT(autostartText("/new\nline"), HasSubstr("Exec=\"/new\\nline\" --background\n"));
 }
 
 } // namespace

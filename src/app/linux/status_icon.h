@@ -1,0 +1,24 @@
+// The status item as a picture, for hosts that show nothing else. Nobody knows the colour of the panel, so
+// what is drawn is light with a dark edge around it.
+#pragma once
+
+#include <string_view>
+
+#include <QImage>
+
+namespace quelby::app {
+
+// A square.
+[[nodiscard]] QImage symbolIcon(std::string_view symbolName, int side);
+
+// The symbol and the title beside it, as high as told and as wide as needed. The width does not change with
+// the digits of a title of one length.
+[[nodiscard]] QImage wideIcon(std::string_view symbolName, std::string_view title, int height);
+
+// A square: the symbol above, the title below. Without a title it is the symbol's alone.
+[[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, int side);
+
+// The name of the desktop's icon theme that means the same as the symbol.
+[[nodiscard]] std::string_view themeIconName(std::string_view symbolName);
+
+} // namespace quelby::app

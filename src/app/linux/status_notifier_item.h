@@ -1,0 +1,56 @@
+#pragma once
+
+#include <optional>
+
+#include <QPoint>
+#include <QTemporaryDir>
+
+#include "app/linux/dbus_object.h"
+#include "app/linux/item_look.h"
+#include "app/linux/tray_host.h"
+#include "app/linux/tray_menu.h"
+
+namespace quelby::app {
+
+// The status item on the session bus, by the StatusNotifierItem protocol with the label that Ayatana's hosts
+// added to it. It offers what its host makes the best of, and signals only what has changed.
+class StatusNotifierItem final : public DBusObject {
+public:
+    // Hears of each press first: where it was, in pixels of the screen, where that is known. Says whether it
+    // is to be acted on.
+    using PressListener = std::function<bool(std::optional<QPoint> where)>;
+
+    StatusNotifierItem(const QDBusConnection& bus, PressListener pressed);
+
+    void setActions(const StatusItemActions& actions);
+
+    // Whoever shows the item from now on.
+    void setHost(const TrayHost& host);
+
+    void show(const ItemLook& look);
+
+private:
+    [[nodiscard]] QVariantMap properties() const override;
+    [[nodiscard]] QString members() const override;
+    bool call(const QDBusMessage& message) override;
+
+    [[nodiscard]] DBusPictures pictures() const;
+    [[nodiscard]] QString iconName() const;
+    [[nodiscard]] bool drawsTitle() const;
+    void press(const QDBusMessage& message);
+    void scroll(const QDBusMessage& message) const;
+    void announceIcon();
+    void announceLabel();
+    void announceToolTip();
+    void writeIconFile();
+
+    PressListener pressed_;
+    StatusItemActions actions_;
+    TrayMenu menu_;
+    TrayHost host_;
+    ItemLook look_;
+    std::optional<QTemporaryDir> iconFolder_; // for hosts that read icons from files
+    int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
+};
+
+} // namespace quelby::app

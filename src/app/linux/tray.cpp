@@ -1,0 +1,116 @@
+#include <csignal>
+
+#include <QGuiApplication>
+
+#include "app/app_delegate.h"
+#include "app/linux/linux_desktop.h"
+#include "app/linux/single_instance.h"
+#include "app/linux/x_connection.h"
+#include "app/recorder_lock.h"
+#include "app/tray.h"
+#include "console/program.h"
+#include "console/signals.h"
+#include "console/standard_output.h"
+
+namespace quelby::app {
+
+namespace {
+
+constexpr std::chrono::duration<double> interval{3};
+constexpr std::chrono::duration<double> fastInterval{0.05}; // as fast as anybody can follow
+
+// Recorded machines are apart from this one: a demonstration beside the program at work is no second start.
+QString serviceName(MachineKind kind) {
+    return kind == MachineKind::recorded ? QStringLiteral("com.quelby.Quelby.Replay")
+                                         : QStringLiteral("com.quelby.Quelby");
+}
+
+class TrayProgram {
+public:
+    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray)
+        : platform_(machine.platform())
+        , kind_(machine.kind())
+        , withoutTray_(withoutTray)
+        , interval_(arguments.pace == Pace::withoutWaiting ? fastInterval : interval) {}
+
+    void run() {
+        SessionBus bus;
+        std::shared_ptr<AppDelegate> delegate;
+        std::optional<SingleInstance> instance;
+        const auto claim = [&](const std::optional<QDBusConnection>& connection) {
+            instance.reset();
+            if (!connection) {
+                return SingleInstance::Rank::alone;
+            }
+            instance.emplace(*connection, serviceName(kind_), [&] {
+                if (delegate) {
+                    delegate->showDashboard();
+                }
+            });
+            return instance->claim();
+        };
+        if (claim(bus.connection()) == SingleInstance::Rank::second) {
+            return;
+        }
+        bus.follow([&](const std::optional<QDBusConnection>& now) { static_cast<void>(claim(now)); });
+        const auto lock = takeRecorderLock(platform_.folders.applicationSupport());
+        LinuxDesktop desktop(bus, platform_, withoutTray_);
+        delegate =
+            AppDelegate::create(platform_, {.interval = interval_, .history = historyAccess(lock)}, desktop);
+        delegate->applicationDidFinishLaunching();
+        desktop.start();
+        const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
+        QCoreApplication::exec();
+        delegate->applicationWillTerminate();
+        delegate.reset();
+    }
+
+private:
+    Platform platform_;
+    MachineKind kind_;
+    WithoutTray withoutTray_;
+    std::chrono::duration<double> interval_; // from one cycle to the next
+};
+
+Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
+    const auto machine = Machine::make(arguments.machine);
+    if (!machine) {
+        return tl::make_unexpected(machine.error());
+    }
+    TrayProgram(**machine, arguments, command.background ? WithoutTray::wait : WithoutTray::openWindow).run();
+    return {};
+}
+
+bool reachesX() {
+    int screenNumber = 0;
+    return connectToX(screenNumber) != nullptr;
+}
+
+// Asked before Qt is, which would abort the program.
+bool hasDisplay() {
+    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+           reachesX();
+}
+
+// A window of Wayland cannot say where it stands; one of X11 can, also on a desktop of Wayland that has room
+// for it.
+void preferPlacedWindows() {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && reachesX()) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    }
+}
+
+} // namespace
+
+int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
+    if (!hasDisplay()) {
+        return reportOutcome("quelby", problem("there is no display; --headless works without one"));
+    }
+    preferPlacedWindows();
+    QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments, command); });
+}
+
+} // namespace quelby::app

@@ -1,0 +1,21 @@
+#pragma once
+
+namespace quelby::app {
+
+// The dashboard at the status item, which goes away when a person clicks anywhere else.
+class Popover {
+public:
+    virtual ~Popover() = default;
+
+    [[nodiscard]] virtual bool isShown() const = 0;
+
+    // At the status item, in front of everything else, and with the keyboard.
+    virtual void show() = 0;
+
+    // Likewise, with the settings in place of the cards.
+    virtual void showSettings() = 0;
+
+    virtual void close() = 0;
+};
+
+} // namespace quelby::app

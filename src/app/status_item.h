@@ -1,0 +1,44 @@
+// The program's place in the menu bar, or in the tray of a desktop that has one.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "monitor/menu_bar_display.h"
+
+namespace quelby::app {
+
+// What a person can ask of the status item. All of them are set.
+struct StatusItemActions {
+    std::function<void()> toggle;        // pressed
+    std::function<void()> showDashboard; // from its menu, likewise below
+    std::function<void()> showSettings;
+    std::function<void(MenuBarDisplay)> chooseDisplay;
+    std::function<void(int steps)> scroll; // to the next figures, or back to former ones where negative
+    std::function<void()> quit;
+};
+
+class StatusItem {
+public:
+    virtual ~StatusItem() = default;
+
+    // Whether there is anything that could be pressed and show a title.
+    [[nodiscard]] virtual bool hasButton() const = 0;
+
+    virtual void setActions(StatusItemActions actions) = 0;
+
+    // A symbol by its name. One that cannot be made leaves the one before.
+    virtual void setImage(std::string_view symbolName, std::string_view accessibilityDescription) = 0;
+
+    // With a leading blank, which keeps it off the image, or empty.
+    virtual void setTitle(std::string_view title) = 0;
+
+    // What is said of the item while the pointer rests on it.
+    virtual void setToolTip(std::string_view text) = 0;
+
+    // The figure that the title shows, for the menu that chooses it.
+    virtual void setDisplay(MenuBarDisplay display) = 0;
+};
+
+} // namespace quelby::app

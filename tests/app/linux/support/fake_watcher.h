@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <QDBusVirtualObject>
+
+#include "app/linux/support/private_bus.h"
+
+namespace quelby {
+
+// The program that collects the status items of the session, under the process name of one that exists. A
+// later one takes the place of an earlier one.
+class FakeWatcher final : public QDBusVirtualObject {
+public:
+    explicit FakeWatcher(const std::string& processName);
+    FakeWatcher(const FakeWatcher&) = delete;
+    FakeWatcher& operator=(const FakeWatcher&) = delete;
+    ~FakeWatcher() override; // leaves the bus
+
+    // The services of the items that registered here.
+    std::vector<QString> items;
+
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+private:
+    BusConnection bus_;
+};
+
+} // namespace quelby

@@ -1,0 +1,171 @@
+// How the built program begins and ends, on desktops of several kinds.
+
+#include <gmock/gmock.h>
+
+#include "app/linux/support/tray_program.h"
+#include "history/history_file.h"
+#include "history/sqlite/statement.h"
+
+namespace quelby {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+const std::string noTray = "quelby: this desktop has no tray, so the dashboard is an ordinary window\n";
+
+class TrayProgram : public TrayProgramTest {
+protected:
+    [[nodiscard]] std::int64_t recordedRows() const {
+        const auto history = openForReading(historyFile(folder.path()));
+        if (!history) {
+            ADD_FAILURE() << history.error().sentence;
+            return 0;
+        }
+        Statement count(history->get(), "SELECT COUNT(*) FROM readings");
+        return count.step() ? count.integer(0) : 0;
+    }
+};
+
+TEST_F(TrayProgram, EndsWithTheSignalsThatASessionSends) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        startInTray();
+        program->signal(number);
+        const auto end = program->end();
+        EXPECT_EQ(end.exitStatus, 0) << number;
+        EXPECT_THAT(end.errors, IsEmpty());
+        watcher.reset();
+    }
+}
+
+TEST_F(TrayProgram, EndsCleanlyWithItsPopoverOpen) {
+    startInTray();
+    pressItem({640, 5});
+    static_cast<void>(opened());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, RecordsTheHistoryAndIsTheOnlyOne) {
+    startInTray();
+    const auto second = runProgram(words({"--headless"}), environment());
+    EXPECT_EQ(second.exitStatus, 1);
+    EXPECT_THAT(second.errors, HasSubstr("another Quelby records to"));
+    expectCleanEnd();
+    EXPECT_GE(recordedRows(), 1);
+}
+
+TEST_F(TrayProgram, OnlyShowsAHistoryThatAnotherOneRecords) {
+    RunningProgram recorder(words({"--headless"}), environment());
+    static_cast<void>(recorder.line());
+    startInTray();
+    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history\n"));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, IsAnOrdinaryWindowWithoutATray) {
+    start();
+    const auto window = opened();
+    EXPECT_EQ(window.area.size(), QSize(400, 660));
+    EXPECT_TRUE(screen->hasFrame(window));
+    EXPECT_EQ(program->errors(), noTray);
+    screen->press({5, 1000}); // elsewhere, which an ordinary window does not mind
+    EXPECT_THAT(screen->windows(), SizeIs(1));
+    screen->closeByItsFrame(window);
+    const auto end = program->end();
+    EXPECT_EQ(end.exitStatus, 0) << end.errors;
+}
+
+TEST_F(TrayProgram, IsAnOrdinaryWindowWithoutABus) {
+    bus.stop();
+    start();
+    static_cast<void>(opened());
+    EXPECT_EQ(program->errors(), noTray);
+    screen->type("ctrl+q");
+    const auto end = program->end();
+    EXPECT_EQ(end.exitStatus, 0) << end.errors;
+}
+
+TEST_F(TrayProgram, GoesIntoATrayThatComesLater) {
+    start();
+    EXPECT_TRUE(screen->hasFrame(opened()));
+    watcher.emplace("lxqt-panel");
+    EXPECT_TRUE(closed());
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    pressItem({640, 5});
+    EXPECT_FALSE(screen->hasFrame(opened()));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, WaitsForATrayWhereItWasStartedWithTheSession) {
+    start({"--background"});
+    const auto service = QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(program->process());
+    ASSERT_TRUE(becomes([&] {
+        const BusObject daemon{"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"};
+        return peer.call(daemon, "NameHasOwner", {service}).arguments().value(0).toBool();
+    }));
+    watcher.emplace("lxqt-panel");
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    EXPECT_THAT(screen->windows(), IsEmpty());
+    EXPECT_THAT(program->errors(), IsEmpty());
+    pressItem({640, 5});
+    static_cast<void>(opened());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, IsStillTheFirstAfterTheBusWasStartedAgain) {
+    startInTray();
+    bus.stop();
+    ASSERT_TRUE(becomes([&] { return program->errors() == noTray; }));
+    watcher.reset();
+    bus.start();
+    watcher.emplace("lxqt-panel");
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    EXPECT_TRUE(closed());
+    RunningProgram second(words(), environment());
+    EXPECT_EQ(second.end().exitStatus, 0);
+    static_cast<void>(opened());
+    EXPECT_THAT(watcher->items, SizeIs(1));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, IsInATrayOfTheOlderKind) {
+    if (!isInstalled("trayer")) {
+        GTEST_SKIP() << "trayer is not installed";
+    }
+    RunningProgram tray({"/usr/bin/env", "trayer", "--edge", "bottom", "--align", "right", "--height", "24",
+                         "--SetPartialStrut", "true"},
+                        environment());
+    ASSERT_TRUE(eventually([&] { return screen->hasTray(); }));
+    start();
+    ASSERT_TRUE(becomes([&] { // the title is beside the symbol
+        const auto item = screen->docked();
+        return item && item->area.width() > 2 * item->area.height();
+    }));
+    const auto item = *screen->docked();
+    screen->press(item.area.center());
+    const auto window = opened();
+    EXPECT_EQ(window.area.size(), QSize(400, 660));
+    EXPECT_TRUE(QRect(0, 0, 1280, 1024).contains(window.area));
+    screen->press(item.area.center());
+    EXPECT_TRUE(closed());
+    EXPECT_THAT(program->errors(), IsEmpty());
+    tray.signal(SIGTERM);
+    EXPECT_TRUE(screen->hasFrame(opened())); // without the tray it is an ordinary window
+    expectCleanEnd();
+}
+
+TEST(TrayProgramWithoutADisplay, SaysSoAndEnds) {
+    const TemporaryFolder folder;
+    auto environment = plainEnvironment();
+    for (const auto* const display : {"", ":60000", "nonsense"}) {
+        environment["DISPLAY"] = display;
+        const auto end = runProgram({QUELBY_BINARY_DIR "/quelby", "--data-dir", folder.path()}, environment);
+        EXPECT_EQ(end.exitStatus, 1) << display;
+        EXPECT_EQ(end.errors, "quelby: there is no display; --headless works without one\n");
+        EXPECT_THAT(end.output, IsEmpty());
+    }
+}
+
+} // namespace
+} // namespace quelby
