@@ -3,8 +3,17 @@
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+
+if(APPLE)
+    set(CMAKE_OSX_DEPLOYMENT_TARGET 13.0)
+    enable_language(OBJCXX)
+    set(CMAKE_OBJCXX_STANDARD 20)
+    set(CMAKE_OBJCXX_STANDARD_REQUIRED ON)
+    set(CMAKE_OBJCXX_EXTENSIONS OFF)
+endif()
 
 set(QUELBY_SANITIZERS "" CACHE STRING "What -fsanitize= gets, for example address,undefined")
 
@@ -13,14 +22,17 @@ add_library(quelby_rules INTERFACE)
 target_compile_options(quelby_rules INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
     -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wundef -Werror -Wno-missing-field-initializers)
+target_compile_options(quelby_rules INTERFACE
+    $<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc -Wnullable-to-nonnull-conversion -Wobjc-messaging-id
+    -Wundeclared-selector -Wunguarded-availability>)
 # Qt would otherwise take words such as "signals" for itself.
 target_compile_definitions(quelby_rules INTERFACE QT_NO_KEYWORDS)
 target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
 if(QUELBY_SANITIZERS)
-    # The sanitizers' own code makes the compiler see uninitialized values where there are none.
+    # The sanitizers' own code makes GCC see uninitialized values where there are none.
     target_compile_options(quelby_rules INTERFACE
         -fsanitize=${QUELBY_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer
-        -Wno-maybe-uninitialized)
+        $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
 endif()
 

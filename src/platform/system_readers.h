@@ -7,6 +7,7 @@
 #include "platform/battery_source.h"
 #include "platform/folders.h"
 #include "platform/login_item.h"
+#include "platform/preferences.h"
 #include "platform/privileged_shell.h"
 #include "platform/process_lister.h"
 #include "platform/service_manager.h"
@@ -33,6 +34,7 @@ struct SystemServices {
 // Never null. The build picks the system's own definitions.
 [[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
 [[nodiscard]] std::unique_ptr<Folders> makeSystemFolders();
+[[nodiscard]] std::unique_ptr<Preferences> makeSystemPreferences();
 [[nodiscard]] SystemServices makeSystemServices(Folders& folders);
 
 } // namespace quelby

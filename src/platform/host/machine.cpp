@@ -53,6 +53,16 @@ private:
     ByKey<bool> flags_;
 };
 
+std::unique_ptr<Preferences> makeMemoryPreferences() {
+    return std::make_unique<MemoryPreferences>();
+}
+
+// In the file, where one is named.
+std::unique_ptr<Preferences> preferencesIn(const std::optional<std::filesystem::path>& file,
+                                           std::unique_ptr<Preferences> (*makeOthers)()) {
+    return file ? std::make_unique<QtPreferences>(file) : makeOthers();
+}
+
 ChosenFolders::Named namedFolders(const MachineOptions& options) {
     return {
         .applicationSupport = options.dataDir, .configuration = std::nullopt, .helper = options.configDir};
@@ -95,7 +105,7 @@ public:
     explicit ThisComputer(const MachineOptions& options)
         : readers_(makeSystemReaders(options.roots))
         , folders_(makeSystemFolders(), namedFolders(options))
-        , preferences_(options.preferences) {}
+        , preferences_(preferencesIn(options.preferences, makeSystemPreferences)) {}
 
     [[nodiscard]] Platform platform() override {
         return {.battery = *readers_.battery,
@@ -105,7 +115,7 @@ public:
                 .helperFolder = helper_,
                 .loginItem = *services_.loginItem,
                 .runLoop = runLoop_,
-                .preferences = preferences_,
+                .preferences = *preferences_,
                 .privilegedShell = *services_.privilegedShell,
                 .serviceManager = *services_.serviceManager,
                 .storageDraw = storageDraw_};
@@ -122,7 +132,7 @@ private:
     HelperFiles helper_{folders_.helper()};
     SystemServices services_ = makeSystemServices(folders_);
     QtRunLoop runLoop_;
-    QtPreferences preferences_;
+    std::unique_ptr<Preferences> preferences_;
     RandomStorageDraw storageDraw_{std::random_device{}()};
 };
 
@@ -131,7 +141,7 @@ public:
     RecordedComputer(ReplayedMachine machine, const MachineOptions& options)
         : machine_(std::move(machine))
         , folders_(makeSystemFolders(), namedFolders(options))
-        , preferences_(makePreferences(options)) {}
+        , preferences_(preferencesIn(options.preferences, makeMemoryPreferences)) {}
 
     [[nodiscard]] Platform platform() override {
         return {.battery = machine_,
@@ -152,13 +162,6 @@ public:
     [[nodiscard]] bool hasEnded() const override { return machine_.isAtLastLine(); }
 
 private:
-    static std::unique_ptr<Preferences> makePreferences(const MachineOptions& options) {
-        if (options.preferences) {
-            return std::make_unique<QtPreferences>(options.preferences);
-        }
-        return std::make_unique<MemoryPreferences>();
-    }
-
     ReplayedMachine machine_;
     DemonstrationFolders folders_;
     RecordedHelper helper_{machine_, folders_.helper()};

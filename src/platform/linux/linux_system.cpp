@@ -4,6 +4,7 @@
 #include "platform/linux/processes/proc_process_lister.h"
 #include "platform/linux/systemd_service_manager.h"
 #include "platform/linux/xdg_folders.h"
+#include "platform/qt/qt_preferences.h"
 #include "platform/system_readers.h"
 
 namespace quelby {
@@ -15,6 +16,10 @@ SystemReaders makeSystemReaders(const SystemRoots& roots) {
 
 std::unique_ptr<Folders> makeSystemFolders() {
     return std::make_unique<XdgFolders>();
+}
+
+std::unique_ptr<Preferences> makeSystemPreferences() {
+    return std::make_unique<QtPreferences>(std::nullopt);
 }
 
 SystemServices makeSystemServices(Folders& folders) {

@@ -11,4 +11,12 @@ namespace quelby {
 // unless it is a path. Nothing where it could not be started.
 [[nodiscard]] std::optional<int> runToTheEnd(const std::vector<std::string>& words);
 
+// Likewise in the given environment ("NAME=value", each), and gives all that the program wrote to its
+// standard output, however it ended. Its standard error is thrown away.
+[[nodiscard]] std::optional<std::string> outputOf(const std::vector<std::string>& words,
+                                                  const std::vector<std::string>& environment);
+
+// This process's own.
+[[nodiscard]] std::vector<std::string> environmentVariables();
+
 } // namespace quelby

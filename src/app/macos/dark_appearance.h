@@ -1,0 +1,10 @@
+// For Objective-C++ only.
+#pragma once
+
+#import <AppKit/AppKit.h>
+
+namespace quelby::app {
+
+[[nodiscard]] bool isDark(NSAppearance* appearance);
+
+} // namespace quelby::app

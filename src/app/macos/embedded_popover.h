@@ -1,0 +1,35 @@
+#pragma once
+
+#include <memory>
+
+#include <QWindow>
+
+#include "app/macos/native_popover.h"
+#include "app/macos/quick_dashboard.h"
+#include "app/popover.h"
+
+namespace quelby::app {
+
+// The dashboard inside the system's popover: Qt's window becomes a view in the popover's.
+class EmbeddedPopover final : public Popover {
+public:
+    // The button outlives the popover.
+    EmbeddedPopover(NSStatusBarButton* button, QuickDashboard::ModelMaker makeModel);
+
+    // Whether Qt's window has found its place. Otherwise the popover stays empty.
+    [[nodiscard]] bool holdsDashboard() const;
+
+    [[nodiscard]] bool isShown() const override;
+    void show() override;
+    void showSettings() override;
+    void close() override;
+
+private:
+    [[nodiscard]] Appearance appearance() const;
+
+    NativePopover popover_;
+    std::unique_ptr<QWindow> host_; // stands for the popover's view; none where Qt takes in no foreign views
+    QuickDashboard dashboard_;      // goes before its parent
+};
+
+} // namespace quelby::app

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "app/macos/appkit_names.h"
+
+namespace quelby::app {
+
+// The system's popover below the status item, with an empty view to put the dashboard into. The system closes
+// it when a person clicks elsewhere.
+class NativePopover {
+public:
+    // The button outlives the popover; without one it never shows. `closed` is called each time it has
+    // closed, whoever closed it.
+    NativePopover(NSStatusBarButton* button, std::function<void()> closed);
+    NativePopover(const NativePopover&) = delete;
+    NativePopover& operator=(const NativePopover&) = delete;
+    ~NativePopover();
+
+    // The popover's own, 400 by 660 points.
+    [[nodiscard]] NSView* hostView() const;
+
+    // Whether anything has been put into the view.
+    [[nodiscard]] bool holdsContent() const;
+
+    // Whether its background is dark, which may be otherwise than in the system's windows.
+    [[nodiscard]] bool isDark() const;
+
+    [[nodiscard]] bool isShown() const;
+
+    // In front, and with the keyboard.
+    void show();
+
+    void close();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> parts_;
+};
+
+} // namespace quelby::app

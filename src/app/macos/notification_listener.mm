@@ -1,0 +1,35 @@
+#include "app/macos/notification_listener.h"
+
+#include <utility>
+
+@implementation QuelbyNotificationTarget
+
+- (instancetype)initWithListener:(std::function<void()>)heard {
+    self = [super init];
+    if (self != nil) {
+        heard_ = std::move(heard);
+    }
+    return self;
+}
+
+- (void)notified:(NSNotification*)notification {
+    heard_();
+}
+
+@end
+
+namespace quelby::app {
+
+NotificationListener::NotificationListener(NSString* name, NSObject* object, std::function<void()> heard)
+    : target_([[QuelbyNotificationTarget alloc] initWithListener:std::move(heard)]) {
+    [[NSNotificationCenter defaultCenter] addObserver:target_.get()
+                                             selector:@selector(notified:)
+                                                 name:name
+                                               object:object];
+}
+
+NotificationListener::~NotificationListener() {
+    [[NSNotificationCenter defaultCenter] removeObserver:target_.get()];
+}
+
+} // namespace quelby::app

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "app/macos/appkit_names.h"
+
+namespace quelby::app {
+
+// In points from the upper left corner of the primary screen.
+struct PlaceOnScreen {
+    double x = 0;
+    double y = 0;
+
+    bool operator==(const PlaceOnScreen&) const = default;
+};
+
+// The middle of the button's lower edge. The button is in a window.
+[[nodiscard]] PlaceOnScreen placeBelow(NSStatusBarButton* button);
+
+} // namespace quelby::app

@@ -1,0 +1,57 @@
+#include "app/tray.h"
+
+#include <csignal>
+
+#include <QGuiApplication>
+
+#include "app/app_delegate.h"
+#include "app/macos/macos_desktop.h"
+#include "app/macos/menu_bar_application.h"
+#include "app/recorder_lock.h"
+#include "console/program.h"
+#include "console/signals.h"
+#include "console/standard_output.h"
+#include "ui/view/dashboard_view.h"
+
+namespace quelby::app {
+
+namespace {
+
+MonitorOptions monitorOptions(Pace pace, const Result<std::optional<FileLock>>& lock) {
+    return {.interval = std::chrono::seconds(pace == Pace::withoutWaiting ? 0 : 3),
+            .history = historyAccess(lock)};
+}
+
+void runApplication(const Platform& platform, const MonitorOptions& options) {
+    becomeAccessory();
+    MacosDesktop desktop(platform.clock);
+    auto delegate = AppDelegate::create(platform, options, desktop);
+    const ApplicationEvents events({.didFinishLaunching = [&] { delegate->applicationDidFinishLaunching(); },
+                                    .willTerminate = [&] { delegate->applicationWillTerminate(); }});
+    const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
+    QCoreApplication::exec();
+    delegate->applicationWillTerminate(); // Qt leaves its loop without the system's notification
+    delegate.reset();
+}
+
+Result<void> run(const MachineArguments& arguments) {
+    const auto machine = Machine::make(arguments.machine);
+    if (!machine) {
+        return tl::make_unexpected(machine.error());
+    }
+    const auto platform = (*machine)->platform();
+    const auto lock = takeRecorderLock(platform.folders.applicationSupport());
+    runApplication(platform, monitorOptions(arguments.pace, lock));
+    return {};
+}
+
+} // namespace
+
+// The system itself starts an application no second time.
+int runInTray(const MachineArguments& arguments, const TrayCommand& /*command*/, char** argv) {
+    drawWithoutGpu();
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments); });
+}
+
+} // namespace quelby::app

@@ -1,0 +1,171 @@
+// What Quelby uses of Foundation, declared after the vendor's public documentation. Whatever is not here may
+// not be used before it is looked up and added.
+#pragma once
+
+#include <stdbool.h>
+#include <stddef.h>
+
+#define QUELBY_SINCE(version) __attribute__((availability(macos, introduced = version)))
+
+typedef long NSInteger;
+typedef unsigned long NSUInteger;
+typedef bool BOOL;
+typedef struct objc_class* Class;
+typedef struct objc_selector* SEL;
+
+#define YES __objc_yes
+#define NO __objc_no
+#define nil nullptr
+
+typedef double CGFloat;
+
+typedef struct CGPoint {
+    CGFloat x;
+    CGFloat y;
+} NSPoint;
+
+typedef struct CGSize {
+    CGFloat width;
+    CGFloat height;
+} NSSize;
+
+typedef struct CGRect {
+    NSPoint origin;
+    NSSize size;
+} NSRect;
+
+typedef enum __attribute__((enum_extensibility(open))) NSRectEdge : NSUInteger {
+    NSRectEdgeMinX = 0,
+    NSRectEdgeMinY = 1,
+    NSRectEdgeMaxX = 2,
+    NSRectEdgeMaxY = 3,
+} NSRectEdge;
+
+static inline NSPoint NSMakePoint(CGFloat x, CGFloat y) {
+    return NSPoint{x, y};
+}
+
+static inline NSRect NSMakeRect(CGFloat x, CGFloat y, CGFloat width, CGFloat height) {
+    return NSRect{{x, y}, {width, height}};
+}
+
+static inline CGFloat NSMinX(NSRect rect) {
+    return rect.origin.x;
+}
+
+static inline CGFloat NSMidX(NSRect rect) {
+    return rect.origin.x + rect.size.width / 2;
+}
+
+static inline CGFloat NSMinY(NSRect rect) {
+    return rect.origin.y;
+}
+
+static inline CGFloat NSMaxY(NSRect rect) {
+    return rect.origin.y + rect.size.height;
+}
+
+#pragma clang assume_nonnull begin
+
+__attribute__((objc_root_class))
+@interface NSObject
++ (instancetype)alloc;
++ (Class)class;
+- (instancetype)init;
+- (instancetype)retain;
+- (oneway void)release;
+- (instancetype)autorelease;
+- (BOOL)isKindOfClass:(Class)type;
+@end
+
+typedef NSUInteger NSStringEncoding;
+
+enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
+
+@interface NSString : NSObject
+- (nullable instancetype)initWithBytes:(const void*)bytes
+                                length:(NSUInteger)length
+                              encoding:(NSStringEncoding)encoding;
+@property(readonly, nullable) const char* UTF8String;
+- (BOOL)isEqualToString:(NSString*)text;
+@end
+
+@interface NSNumber : NSObject
+@property(readonly) BOOL boolValue;
+@end
+
+@interface NSArray<__covariant ObjectType> : NSObject
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nullable])objects count:(NSUInteger)count;
+@property(readonly) NSUInteger count;
+@property(nullable, readonly) ObjectType firstObject;
+@end
+
+@interface NSDictionary<__covariant KeyType, __covariant ObjectType> : NSObject
+@end
+
+@interface NSError : NSObject
+@end
+
+typedef NSString* NSNotificationName;
+
+@interface NSNotification : NSObject
+@end
+
+@interface NSNotificationCenter : NSObject
+@property(class, readonly, strong) NSNotificationCenter* defaultCenter;
+- (void)addObserver:(id)observer
+           selector:(SEL)selector
+               name:(nullable NSNotificationName)name
+             object:(nullable id)object;
+- (void)removeObserver:(id)observer;
+@end
+
+@interface NSURL : NSObject
++ (nullable instancetype)URLWithString:(NSString*)text;
+@end
+
+typedef NSUInteger NSSearchPathDirectory __attribute__((enum_extensibility(open)));
+
+enum : NSSearchPathDirectory { NSLibraryDirectory = 5, NSApplicationSupportDirectory = 14 };
+
+typedef NSUInteger NSSearchPathDomainMask __attribute__((flag_enum, enum_extensibility(open)));
+
+enum : NSSearchPathDomainMask { NSUserDomainMask = 1 };
+
+extern "C" NSArray<NSString*>* NSSearchPathForDirectoriesInDomains(NSSearchPathDirectory directory,
+                                                                   NSSearchPathDomainMask domains,
+                                                                   BOOL expandTilde);
+
+@interface NSBundle : NSObject
+@property(class, readonly) NSBundle* mainBundle;
+@property(readonly, copy) NSString* bundlePath;
+@property(readonly, copy, nullable) NSString* bundleIdentifier;
+@property(readonly, copy, nullable) NSString* executablePath;
+@property(readonly, copy, nullable) NSString* resourcePath;
+@end
+
+@interface NSProcessInfo : NSObject
+@property(class, readonly) NSProcessInfo* processInfo;
+@property(readonly) NSUInteger processorCount;
+@end
+
+@interface NSUserDefaults : NSObject
+@property(class, readonly) NSUserDefaults* standardUserDefaults;
+- (nullable id)objectForKey:(NSString*)key;
+- (void)setObject:(nullable id)value forKey:(NSString*)key;
+- (void)setBool:(BOOL)value forKey:(NSString*)key;
+- (void)removeObjectForKey:(NSString*)key;
+- (void)removePersistentDomainForName:(NSString*)domain;
+- (BOOL)synchronize;
+@end
+
+@interface NSAppleEventDescriptor : NSObject
+@end
+
+@interface NSAppleScript : NSObject
+- (nullable instancetype)initWithSource:(NSString*)source;
+// Null, with the reason, where the script fails; whatever the declaration says about null.
+- (NSAppleEventDescriptor*)executeAndReturnError:(NSDictionary<NSString*, id>* _Nullable* _Nullable)failure;
+@end
+
+#pragma clang assume_nonnull end

@@ -1,0 +1,7 @@
+#pragma once
+
+#define __MAC_10_6 1060
+#define __MAC_11_0 110000
+#define __MAC_NA 9999
+#define __MAC_OS_X_VERSION_MIN_REQUIRED 130000
+#define __MAC_OS_X_VERSION_MAX_ALLOWED 130000

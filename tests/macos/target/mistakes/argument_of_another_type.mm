@@ -1,0 +1,7 @@
+// Refused: string literal must be prefixed
+
+#import <Foundation/Foundation.h>
+
+NSURL* pane() {
+    return [NSURL URLWithString:"x-apple.systempreferences:"];
+}

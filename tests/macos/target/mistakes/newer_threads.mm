@@ -1,0 +1,5 @@
+// Refused: no type named 'jthread'
+
+#include <thread>
+
+std::jthread worker;
