@@ -40,7 +40,7 @@ QtObject {
     readonly property real caption2Size: 10
     readonly property real smallSize: 9
 
-    readonly property int glide: animated ? 240 : 0 // ms
+    readonly property int glide: animated ? 120 : 0 // ms
     readonly property int fade: animated ? 120 : 0 // ms
 
     readonly property color window: dark ? "#1b1b1f" : "#e9e9ee"

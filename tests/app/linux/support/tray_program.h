@@ -38,6 +38,10 @@ protected:
     [[nodiscard]] Environment environment() const {
         auto all = plainEnvironment();
         all["DISPLAY"] = screen ? screen->display() : "";
+        // GCC's leak sanitizer falls over a thread of Qt's that is still on its way out when the program
+        // ends.
+        all["ASAN_OPTIONS"] =
+            qEnvironmentVariable("ASAN_OPTIONS").toStdString() + ":intercept_tls_get_addr=0";
         all["HOME"] = all["XDG_CACHE_HOME"] = all["XDG_RUNTIME_DIR"] = folder.path();
         return all;
     }
