@@ -80,7 +80,7 @@ TEST_F(Animation, TakesBarsAndFiguresToTheirNewValueAndEndsExactlyThere) {
     EXPECT_EQ(fraction(), 0.72);
     setLevel(20);
     double last = 0.72;
-    for (int step = 0; step < 10; ++step) {
+    for (int step = 0; step < 5; ++step) {
         time.pass(20);
         EXPECT_LT(fraction(), last);
         EXPECT_GT(fraction(), 0.2);
