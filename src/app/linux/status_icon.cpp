@@ -22,10 +22,6 @@ QImage transparent(int width, int height) {
     return image;
 }
 
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 void drawSymbol(QPainter& painter, const QRectF& area, const QString& name) {
     for (const auto& [x, y] : {std::pair(-0.7, 0.0), {0.7, 0.0}, {0.0, -0.7}, {0.0, 0.7}}) {
         paintSymbol(painter, area.translated(x, y), name, edge);
@@ -53,26 +49,26 @@ QImage symbolIcon(std::string_view symbolName, int side) {
     auto image = transparent(side, side);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawSymbol(painter, QRectF(1, 1, side - 2, side - 2), qString(symbolName));
+    drawSymbol(painter, QRectF(1, 1, side - 2, side - 2), QString::fromUtf8(symbolName));
     return image;
 }
 
 QImage wideIcon(std::string_view symbolName, std::string_view title, int height) {
-    const auto text = qString(title).trimmed();
+    const auto text = QString::fromUtf8(title).trimmed();
     const auto font = titleFont(height * 0.6);
     const QFontMetricsF metrics(font);
     const int gap = text.isEmpty() ? 0 : height / 6;
     auto image = transparent(height + gap + qRound(metrics.horizontalAdvance(text)) + gap, height);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawSymbol(painter, QRectF(1, 1, height - 2, height - 2), qString(symbolName));
+    drawSymbol(painter, QRectF(1, 1, height - 2, height - 2), QString::fromUtf8(symbolName));
     const qreal baseline = (height + metrics.capHeight()) / 2;
     drawTitle(painter, {static_cast<qreal>(height + gap), baseline}, font, text);
     return image;
 }
 
 QImage compactIcon(std::string_view symbolName, std::string_view title, int side) {
-    const auto text = qString(title).trimmed();
+    const auto text = QString::fromUtf8(title).trimmed();
     if (text.isEmpty()) {
         return symbolIcon(symbolName, side);
     }
@@ -81,7 +77,8 @@ QImage compactIcon(std::string_view symbolName, std::string_view title, int side
     painter.setRenderHint(QPainter::Antialiasing);
     const qreal textHeight = side * 0.45;
     const qreal symbolSide = side - textHeight;
-    drawSymbol(painter, QRectF((side - symbolSide) / 2, 0, symbolSide, symbolSide), qString(symbolName));
+    drawSymbol(painter, QRectF((side - symbolSide) / 2, 0, symbolSide, symbolSide),
+               QString::fromUtf8(symbolName));
     auto font = titleFont(textHeight);
     const auto wanted = QFontMetricsF(font).horizontalAdvance(text);
     font.setStretch(wanted > side ? qRound(100 * side / wanted) : 100);

@@ -11,10 +11,6 @@ namespace {
 
 constexpr int iconSides[] = {22, 44}; // at scale 1 and 2
 
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 const auto menuPath = QStringLiteral("/MenuBar");
 const auto noMenu = QStringLiteral("/NO_DBUSMENU"); // what the protocol's hosts take for "none"
 
@@ -71,7 +67,7 @@ void StatusNotifierItem::announceLabel() {
     if (!host_.showsLabel) {
         return;
     }
-    const auto label = qString(look_.title);
+    const auto label = QString::fromUtf8(look_.title);
     emitSignal(QStringLiteral("XAyatanaNewLabel"), {label, labelGuide});
     emitPropertiesChanged({{QStringLiteral("XAyatanaLabel"), label}});
 }
@@ -92,7 +88,7 @@ void StatusNotifierItem::writeIconFile() {
 QString StatusNotifierItem::iconName() const {
     switch (host_.icon) {
     case IconForm::symbol:
-        return qString(themeIconName(look_.symbol));
+        return QString::fromUtf8(themeIconName(look_.symbol));
     case IconForm::file:
         return iconFolder_ ? iconFolder_->filePath(QStringLiteral("%1.png").arg(iconNumber_)) : QString();
     case IconForm::wide:
@@ -136,12 +132,12 @@ QVariantMap StatusNotifierItem::properties() const {
         {QStringLiteral("AttentionIconName"), QString()},
         {QStringLiteral("AttentionIconPixmap"), QVariant::fromValue(DBusPictures())},
         {QStringLiteral("AttentionMovieName"), QString()},
-        {QStringLiteral("ToolTip"),
-         QVariant::fromValue(DBusToolTip{{}, {}, QStringLiteral("Quelby"), qString(look_.toolTip)})},
+        {QStringLiteral("ToolTip"), QVariant::fromValue(DBusToolTip{
+                                        {}, {}, QStringLiteral("Quelby"), QString::fromUtf8(look_.toolTip)})},
         {QStringLiteral("ItemIsMenu"), false},
         {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(host_.wantsMenu ? menuPath : noMenu))}};
     if (host_.showsLabel) { // other hosts lose the icon where there is a label, even an empty one
-        all.insert(QStringLiteral("XAyatanaLabel"), qString(look_.title));
+        all.insert(QStringLiteral("XAyatanaLabel"), QString::fromUtf8(look_.title));
         all.insert(QStringLiteral("XAyatanaLabelGuide"), labelGuide);
     }
     return all;

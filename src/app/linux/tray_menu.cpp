@@ -28,10 +28,6 @@ QVariantMap label(const QString& text) {
     return {{QStringLiteral("label"), text}};
 }
 
-QString qString(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 } // namespace
 
 TrayMenu::TrayMenu(const QDBusConnection& bus, const QString& path)
@@ -47,7 +43,7 @@ void TrayMenu::setDisplay(MenuBarDisplay display) {
 
 QVariantMap TrayMenu::propertiesOf(int id) const {
     if (isDisplay(id)) {
-        auto row = label(qString(rawValue(displayOf(id))));
+        auto row = label(QString::fromUtf8(rawValue(displayOf(id))));
         row.insert(QStringLiteral("toggle-type"), QStringLiteral("radio"));
         row.insert(QStringLiteral("toggle-state"), displayOf(id) == display_ ? 1 : 0);
         return row;

@@ -130,9 +130,7 @@ TEST_F(TrayProgram, IsStillTheFirstAfterTheBusWasStartedAgain) {
 }
 
 TEST_F(TrayProgram, IsInATrayOfTheOlderKind) {
-    if (!isInstalled("trayer")) {
-        GTEST_SKIP() << "trayer is not installed";
-    }
+    ASSERT_TRUE(isInstalled("trayer"));
     RunningProgram tray({"/usr/bin/env", "trayer", "--edge", "bottom", "--align", "right", "--height", "24",
                          "--SetPartialStrut", "true"},
                         environment());

@@ -16,9 +16,8 @@ namespace quelby {
 class TrayProgramTest : public testing::Test {
 protected:
     void SetUp() override {
-        if (const auto missing = XScreen::missing()) {
-            GTEST_SKIP() << *missing << " is not installed";
-        }
+        const auto missing = XScreen::missing();
+        ASSERT_FALSE(missing) << *missing << " is not installed";
         screen.emplace();
     }
 
