@@ -45,12 +45,16 @@ std::string calibrationText(const PowerMonitor& monitor) {
 }
 
 using Change = std::function<Result<void>(PowerMonitor& monitor)>;
+
+Result<void> leaveAsItIs(PowerMonitor& /*monitor*/) {
+    return {};
+}
+
 using Describe = std::string (*)(const PowerMonitor& monitor);
 
 Result<void> changeAndPrint(Machine& machine, const Change& change, Describe describe) {
-    const auto changed = [&](PowerMonitor& monitor) { return change ? change(monitor) : Result<void>(); };
     return runCycles(machine, machine.platform(), untilTheEnd(machine, [&](PowerMonitor& monitor) {
-                         return changed(monitor).and_then(
+                         return change(monitor).and_then(
                              [&] { return writeToStandardOutput(describe(monitor)); });
                      }));
 }
@@ -58,7 +62,7 @@ Result<void> changeAndPrint(Machine& machine, const Change& change, Describe des
 } // namespace
 
 Result<void> runLimit(Machine& machine, const LimitCommand& command) {
-    Change change;
+    Change change = leaveAsItIs;
     if (command.enable) {
         change = [&](PowerMonitor& monitor) { return monitor.toggleChargeLimit(*command.enable); };
     } else if (command.percent) {
@@ -70,7 +74,7 @@ Result<void> runLimit(Machine& machine, const LimitCommand& command) {
 }
 
 Result<void> runCalibration(Machine& machine, const CalibrationCommand& command) {
-    Change change;
+    Change change = leaveAsItIs;
     if (command.enable) {
         change = [&](PowerMonitor& monitor) {
             return monitor.updateCalibrationSettings(*command.enable, monitor.calibrationIntervalDays);

@@ -110,6 +110,22 @@ TEST_F(HistoryWithABadDatabase, SkipsWhatComesWhileAnotherHoldsTheLock) {
     EXPECT_THAT(minutes, SizeIs(3));
 }
 
+// Without the write-ahead log a reader keeps the recorder from committing.
+TEST_F(HistoryWithABadDatabase, LeavesNothingOpenThatItCouldNotCommit) {
+    recordAt(noon);
+    store.reset();
+    Database other(file);
+    other.execute("PRAGMA journal_mode=DELETE");
+    other.execute("BEGIN; SELECT * FROM readings");
+    openAgain();
+    recordAt(noon + 60);
+    other.execute("COMMIT");
+    recordAt(noon + 63);
+    const auto [readings, minutes, hours] = tables();
+    EXPECT_THAT(readings, SizeIs(2));
+    EXPECT_THAT(minutes, SizeIs(1)); // the run of 12:01 was taken back
+}
+
 TEST_F(HistoryWithABadDatabase, IsReadBesideALock) {
     recordAt(noon);
     Database other(file);
