@@ -32,7 +32,7 @@ CardText text(const ChargeLimitCard& card, int columns) {
             (level.slider.value - level.slider.from) / (level.slider.to - level.slider.from);
         written.content.push_back({span(level.stopAt[0]), blanks(1), bold(level.stopAt[1])});
         written.content.push_back(sliderLine(fraction, level.stopAt[1].color, columns));
-        written.content.push_back(spreadEvenly({level.scale.begin(), level.scale.end()}, columns));
+        written.content.push_back(spreadEvenly(level.scale, columns));
         written.content.push_back(statusLine(level.status.dot, level.status.text));
     }
     return written;

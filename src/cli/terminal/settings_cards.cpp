@@ -14,16 +14,16 @@ Block optionLines(const Option& option, int columns) {
 
 CardText text(const GeneralSection& section, int columns) {
     CardText written{.title = titleLine(section), .content = optionLines(section.launchAtLogin, columns)};
-    written.content.push_back({span(section.displayTitle)});
-    append(written.content, sentence(section.displaySubtitle, columns));
-    written.content.push_back(choicesLine(section.displays));
+    written.content.push_back({span(section.menuBarDisplay.title)});
+    append(written.content, sentence(section.menuBarDisplay.subtitle, columns));
+    written.content.push_back(choicesLine(section.menuBarDisplay.choices));
     return written;
 }
 
 CardText text(const CalibrationSection& section, int columns) {
     CardText written{.title = titleLine(section), .content = optionLines(section.autoCalibrate, columns)};
-    written.content.push_back({span(section.frequency)});
-    written.content.push_back(choicesLine(section.intervals));
+    written.content.push_back({span(section.frequency.title)});
+    written.content.push_back(choicesLine(section.frequency.choices));
     for (const auto& date : section.dates) {
         append(written.content, sentence(date.text, columns, withGlyph(date.symbol, {})));
     }

@@ -6,19 +6,15 @@
 
 namespace quelby {
 
-QList<qreal> SparklineView::samples() const {
-    return {samples_.begin(), samples_.end()};
-}
-
-void SparklineView::setSamples(const QList<qreal>& samples) {
-    samples_.assign(samples.begin(), samples.end());
+void SparklineView::setSamples(const WattsSeries& samples) {
+    samples_ = samples;
     redraw();
     Q_EMIT samplesChanged();
 }
 
-InkValue SparklineView::dotInk() const {
-    const auto dot = newestDot(samples_, chartSize());
-    return dot ? InkValue(dot->color) : InkValue();
+ColorValue SparklineView::dotInk() const {
+    const auto dot = newestDot(*samples_, chartSize());
+    return dot ? ColorValue(dot->color) : ColorValue();
 }
 
 void SparklineView::setDotColor(const QColor& color) {
@@ -28,15 +24,15 @@ void SparklineView::setDotColor(const QColor& color) {
 }
 
 std::vector<ChartPoint> SparklineView::curve() const {
-    return sparkline(samples_, chartSize());
+    return sparkline(*samples_, chartSize());
 }
 
 std::optional<HoverReadOut> SparklineView::readOutAt(std::size_t index) const {
-    return sparklineReadOut(samples_, chartSize(), index);
+    return sparklineReadOut(*samples_, chartSize(), index);
 }
 
 void SparklineView::paintMarks(QPainter& painter) const {
-    const auto dot = newestDot(samples_, chartSize());
+    const auto dot = newestDot(*samples_, chartSize());
     if (!dot || hoverIndex() >= 0) {
         return;
     }

@@ -5,16 +5,17 @@
 
 namespace quelby {
 
-struct BatteryCard {
-    Symbol symbol;
-    Text title;
-    Text level;
-    Bar bar;
-    Text rate; // empty while it is unknown
-    Label time;
-    Label health;
+#define QUELBY_MEMBERS_OF_BatteryCard(MEMBER)                                                                \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, level)                                                                                \
+    MEMBER(part, Bar, bar)                                                                                   \
+    MEMBER(part, Text, rate) /* empty while it is unknown */                                                 \
+    MEMBER(part, Label, time)                                                                                \
+    MEMBER(part, Label, health)
 
-    bool operator==(const BatteryCard&) const = default;
+struct BatteryCard {
+    QUELBY_RECORD(BatteryCard)
 };
 
 [[nodiscard]] BatteryCard batteryCard(const PublishedFields& fields);

@@ -1,29 +1,28 @@
 // The battery's raw figures, with a short judgement beside some of them.
 #pragma once
 
-#include <optional>
-#include <vector>
-
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct DetailRow {
-    Symbol symbol;
-    Text label;
-    Text value;
-    std::optional<Text> note;
+#define QUELBY_MEMBERS_OF_DetailRow(MEMBER)                                                                  \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, label)                                                                                \
+    MEMBER(part, Text, value)                                                                                \
+    MEMBER(optional, Text, note)
 
-    bool operator==(const DetailRow&) const = default;
+struct DetailRow {
+    QUELBY_RECORD(DetailRow)
 };
 
-struct BatteryDetailsCard {
-    Symbol symbol;
-    Text title;
-    std::vector<DetailRow> rows; // a figure without a reading has none
+#define QUELBY_MEMBERS_OF_BatteryDetailsCard(MEMBER)                                                         \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(list, DetailRow, rows) /* a figure without a reading has none */
 
-    bool operator==(const BatteryDetailsCard&) const = default;
+struct BatteryDetailsCard {
+    QUELBY_RECORD(BatteryDetailsCard)
 };
 
 [[nodiscard]] BatteryDetailsCard batteryDetailsCard(const PublishedFields& fields);

@@ -2,57 +2,59 @@
 // doing.
 #pragma once
 
-#include <array>
-#include <optional>
-
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct SliderRange {
-    double value = 0; // may lie outside, where the helper was told so by other means
-    double from = 0;
-    double to = 0;
-    double step = 0;
+#define QUELBY_MEMBERS_OF_SliderRange(MEMBER)                                                                \
+    MEMBER(plain, double, value) /* may lie outside, where the helper was told so by other means */          \
+    MEMBER(plain, double, from)                                                                              \
+    MEMBER(plain, double, to)                                                                                \
+    MEMBER(plain, double, step)
 
-    bool operator==(const SliderRange&) const = default;
+struct SliderRange {
+    QUELBY_RECORD(SliderRange)
 };
 
-struct StatusLine {
-    Color dot;
-    Text text;
+#define QUELBY_MEMBERS_OF_StatusLine(MEMBER)                                                                 \
+    MEMBER(part, Color, dot)                                                                                 \
+    MEMBER(part, Text, text)
 
-    bool operator==(const StatusLine&) const = default;
+struct StatusLine {
+    QUELBY_RECORD(StatusLine)
 };
 
 // What is shown instead of any setting while there is no helper.
-struct HelperOffer {
-    Text explanation;
-    Label installButton;
+#define QUELBY_MEMBERS_OF_HelperOffer(MEMBER)                                                                \
+    MEMBER(part, Text, explanation)                                                                          \
+    MEMBER(part, Label, installButton)
 
-    bool operator==(const HelperOffer&) const = default;
+struct HelperOffer {
+    QUELBY_RECORD(HelperOffer)
 };
+
+#define QUELBY_MEMBERS_OF_StopLevel(MEMBER)                                                                  \
+    MEMBER(list, Text, stopAt)        /* what is meant, and the level itself */                              \
+    MEMBER(part, SliderRange, slider) /* % of full charge */                                                 \
+    MEMBER(list, Text, scale)                                                                                \
+    MEMBER(part, StatusLine, status)
 
 struct StopLevel {
-    std::array<Text, 2> stopAt;
-    SliderRange slider; // % of full charge
-    std::array<Text, 4> scale;
-    StatusLine status;
-
-    bool operator==(const StopLevel&) const = default;
+    QUELBY_RECORD(StopLevel)
 };
 
-struct ChargeLimitCard {
-    Symbol symbol;
-    Text title;
-    bool enabled = false;
-    bool helperInstalled = false;
-    Text subtitle;
-    std::optional<HelperOffer> offer;   // without helper
-    std::optional<StopLevel> stopLevel; // with helper, while the limit is on
+#define QUELBY_MEMBERS_OF_ChargeLimitCard(MEMBER)                                                            \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(plain, bool, enabled)                                                                             \
+    MEMBER(plain, bool, helperInstalled)                                                                     \
+    MEMBER(part, Text, subtitle)                                                                             \
+    MEMBER(optional, HelperOffer, offer)   /* without helper */                                              \
+    MEMBER(optional, StopLevel, stopLevel) /* with helper, while the limit is on */
 
-    bool operator==(const ChargeLimitCard&) const = default;
+struct ChargeLimitCard {
+    QUELBY_RECORD(ChargeLimitCard)
 };
 
 [[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields);

@@ -1,29 +1,28 @@
 // The estimated draw, split into what draws it.
 #pragma once
 
-#include <optional>
-#include <vector>
-
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct ComponentRow {
-    Text label;
-    Bar bar; // full at what such a component draws at the most
-    Text figure;
-    std::optional<Text> detail;
+#define QUELBY_MEMBERS_OF_ComponentRow(MEMBER)                                                               \
+    MEMBER(part, Text, label)                                                                                \
+    MEMBER(part, Bar, bar) /* full at what such a component draws at the most */                             \
+    MEMBER(part, Text, figure)                                                                               \
+    MEMBER(optional, Text, detail)
 
-    bool operator==(const ComponentRow&) const = default;
+struct ComponentRow {
+    QUELBY_RECORD(ComponentRow)
 };
 
-struct ComponentCard {
-    Text title;
-    std::vector<ComponentRow> rows;
-    ComponentRow total;
+#define QUELBY_MEMBERS_OF_ComponentCard(MEMBER)                                                              \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(list, ComponentRow, rows)                                                                         \
+    MEMBER(part, ComponentRow, total)
 
-    bool operator==(const ComponentCard&) const = default;
+struct ComponentCard {
+    QUELBY_RECORD(ComponentCard)
 };
 
 [[nodiscard]] ComponentCard componentCard(const PublishedFields& fields);

@@ -1,8 +1,6 @@
 // The whole dashboard: which cards there are, in the order in which they are shown.
 #pragma once
 
-#include <optional>
-
 #include "monitor/published_fields.h"
 #include "ui/presentation/battery_card.h"
 #include "ui/presentation/battery_details_card.h"
@@ -17,20 +15,24 @@
 
 namespace quelby {
 
-struct Dashboard {
-    Header header;
-    std::optional<ChargeLimitCard> chargeLimit; // none on a machine without a battery
-    PowerBadge powerBadge;
-    std::optional<BatteryCard> battery; // likewise
-    ComponentCard components;
-    ProcessCard processes;
-    std::optional<TrendCard> trend; // none until there is a trend
-    HistoryCard history;
-    EfficiencyCard efficiency;
-    std::optional<BatteryDetailsCard> details; // none on a machine without a battery
-    Label quit;
+#define QUELBY_CARDS(MEMBER)                                                                                 \
+    MEMBER(optional, ChargeLimitCard, chargeLimit) /* none on a machine without a battery */                 \
+    MEMBER(part, PowerBadge, powerBadge)                                                                     \
+    MEMBER(optional, BatteryCard, battery) /* none on a machine without a battery */                         \
+    MEMBER(part, ComponentCard, components)                                                                  \
+    MEMBER(part, ProcessCard, processes)                                                                     \
+    MEMBER(optional, TrendCard, trend) /* none until there is a trend */                                     \
+    MEMBER(part, HistoryCard, history)                                                                       \
+    MEMBER(part, EfficiencyCard, efficiency)                                                                 \
+    MEMBER(optional, BatteryDetailsCard, details) /* none on a machine without a battery */
 
-    bool operator==(const Dashboard&) const = default;
+#define QUELBY_MEMBERS_OF_Dashboard(MEMBER)                                                                  \
+    MEMBER(part, Header, header)                                                                             \
+    QUELBY_CARDS(MEMBER)                                                                                     \
+    MEMBER(part, Label, quit)
+
+struct Dashboard {
+    QUELBY_RECORD(Dashboard)
 };
 
 [[nodiscard]] Dashboard dashboard(const PublishedFields& fields, Date now);

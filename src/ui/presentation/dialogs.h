@@ -1,16 +1,19 @@
 // The two questions that the dashboard asks.
 #pragma once
 
-#include <string_view>
+#include "ui/presentation/record.h"
 
 namespace quelby {
 
+#define QUELBY_MEMBERS_OF_Dialog(MEMBER)                                                                     \
+    MEMBER(words, std::string_view, title)                                                                   \
+    MEMBER(words, std::string_view, message)                                                                 \
+    MEMBER(words, std::string_view, action) /* the button that does something */                             \
+    MEMBER(plain, bool, destructive)                                                                         \
+    MEMBER(words, std::string_view, cancel) /* the button that only closes */
+
 struct Dialog {
-    std::string_view title;
-    std::string_view message;
-    std::string_view action; // the button that does something
-    bool destructive = false;
-    std::string_view cancel; // the button that only closes
+    QUELBY_RECORD(Dialog)
 };
 
 // Raised the first time that the charge limit is switched on.

@@ -5,16 +5,17 @@
 
 namespace quelby {
 
-struct EfficiencyCard {
-    Symbol symbol;
-    Text title;
-    Text score;
-    Text outOf;
-    std::string stars; // five, filled or not
-    Text rating;
-    Label advice;
+#define QUELBY_MEMBERS_OF_EfficiencyCard(MEMBER)                                                             \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, score)                                                                                \
+    MEMBER(part, Text, outOf)                                                                                \
+    MEMBER(words, std::string, stars) /* five, filled or not */                                              \
+    MEMBER(part, Text, rating)                                                                               \
+    MEMBER(part, Label, advice)
 
-    bool operator==(const EfficiencyCard&) const = default;
+struct EfficiencyCard {
+    QUELBY_RECORD(EfficiencyCard)
 };
 
 [[nodiscard]] EfficiencyCard efficiencyCard(const PublishedFields& fields);

@@ -6,56 +6,66 @@
 #include <string_view>
 
 #include "ui/presentation/color.h"
+#include "ui/presentation/record.h"
 
 namespace quelby {
 
-struct Text {
-    std::string text; // one line of UTF-8, or a sentence that may be wrapped
-    Color color;
+#define QUELBY_MEMBERS_OF_Text(MEMBER)                                                                       \
+    MEMBER(words, std::string, text) /* one line, or a sentence that may be wrapped */                       \
+    MEMBER(part, Color, color)
 
-    bool operator==(const Text&) const = default;
+struct Text {
+    QUELBY_RECORD(Text)
 };
 
-struct Symbol {
-    std::string_view name; // as the system symbols of macOS are named; lives as long as the program
-    Color color;
+#define QUELBY_MEMBERS_OF_Symbol(MEMBER)                                                                     \
+    MEMBER(words, std::string_view, name) /* as macOS names its own; lives as long as the program */         \
+    MEMBER(part, Color, color)
 
-    bool operator==(const Symbol&) const = default;
+struct Symbol {
+    QUELBY_RECORD(Symbol)
 };
 
 // A symbol and the text beside it.
-struct Label {
-    Symbol symbol;
-    Text text;
+#define QUELBY_MEMBERS_OF_Label(MEMBER)                                                                      \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, text)
 
-    bool operator==(const Label&) const = default;
+struct Label {
+    QUELBY_RECORD(Label)
 };
 
-struct Bar {
-    double fraction = 0; // 0 empty to 1 full
-    Color color;
+#define QUELBY_MEMBERS_OF_Bar(MEMBER)                                                                        \
+    MEMBER(plain, double, fraction) /* 0 empty to 1 full */                                                  \
+    MEMBER(part, Color, color)
 
-    bool operator==(const Bar&) const = default;
+struct Bar {
+    QUELBY_RECORD(Bar)
 };
 
 // Part of the whole as a bar, which neither overflows nor falls below empty.
 [[nodiscard]] Bar bar(double part, double whole, Color color);
 
-// A thing that can be switched on, in words.
-struct Option {
-    Text title;
-    Text subtitle;
-    bool enabled = false;
+// How full it is, for those who cannot see it.
+[[nodiscard]] std::string percentText(const Bar& bar);
 
-    bool operator==(const Option&) const = default;
+// A thing that can be switched on, in words.
+#define QUELBY_MEMBERS_OF_Option(MEMBER)                                                                     \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, subtitle)                                                                             \
+    MEMBER(plain, bool, enabled)
+
+struct Option {
+    QUELBY_RECORD(Option)
 };
 
 // One button of a row, of which one is selected.
-struct Choice {
-    std::string text;
-    bool selected = false;
+#define QUELBY_MEMBERS_OF_Choice(MEMBER)                                                                     \
+    MEMBER(words, std::string, text)                                                                         \
+    MEMBER(plain, bool, selected)
 
-    bool operator==(const Choice&) const = default;
+struct Choice {
+    QUELBY_RECORD(Choice)
 };
 
 [[nodiscard]] Text primary(std::string text);

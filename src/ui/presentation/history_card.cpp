@@ -1,7 +1,5 @@
 #include "ui/presentation/history_card.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
 namespace quelby {
@@ -24,9 +22,9 @@ HistoryCard historyCard(const PublishedFields& fields) {
                      .badges = {statBadge("Avg", fields.historyAvg, ColorName::blue),
                                 statBadge("Min", fields.historyMin, ColorName::green),
                                 statBadge("Max", fields.historyMax, ColorName::red)}};
-    std::transform(allTimeRanges.begin(), allTimeRanges.end(), card.ranges.begin(), [&](TimeRange range) {
-        return Choice{std::string(rawValue(range)), range == fields.historyRange.get()};
-    });
+    for (const auto range : allTimeRanges) {
+        card.ranges.push_back({std::string(rawValue(range)), range == fields.historyRange.get()});
+    }
     if (card.points.size() < fewestPoints) {
         card.placeholder = {{"chart.line.uptrend.xyaxis", ColorName::secondary},
                             secondary("Collecting data...")};

@@ -1,31 +1,29 @@
 #pragma once
 
-#include <array>
-#include <optional>
-#include <vector>
-
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct StatBadge {
-    Text label;
-    Text value;
+#define QUELBY_MEMBERS_OF_StatBadge(MEMBER)                                                                  \
+    MEMBER(part, Text, label)                                                                                \
+    MEMBER(part, Text, value)
 
-    bool operator==(const StatBadge&) const = default;
+struct StatBadge {
+    QUELBY_RECORD(StatBadge)
 };
 
-struct HistoryCard {
-    Symbol symbol;
-    Text title;
-    Text today;
-    std::array<Choice, allTimeRanges.size()> ranges;
-    std::optional<Label> placeholder;     // in place of the curve, while there are fewer than 2 points
-    std::vector<HistoryDataPoint> points; // oldest first
-    std::array<StatBadge, 3> badges;
+#define QUELBY_MEMBERS_OF_HistoryCard(MEMBER)                                                                \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, today)                                                                                \
+    MEMBER(list, Choice, ranges)         /* one for each TimeRange */                                        \
+    MEMBER(optional, Label, placeholder) /* in place of the curve, while there are fewer than 2 points */    \
+    MEMBER(series, HistoryDataPoint, points) /* oldest first */                                              \
+    MEMBER(list, StatBadge, badges)
 
-    bool operator==(const HistoryCard&) const = default;
+struct HistoryCard {
+    QUELBY_RECORD(HistoryCard)
 };
 
 [[nodiscard]] HistoryCard historyCard(const PublishedFields& fields);

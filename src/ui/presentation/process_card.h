@@ -1,30 +1,31 @@
 #pragma once
 
-#include <optional>
+#include <string>
 #include <string_view>
-#include <vector>
 
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct ProcessRow {
-    Text position;
-    Text name;
-    Text cpu;
-    Text watts;
+#define QUELBY_MEMBERS_OF_ProcessRow(MEMBER)                                                                 \
+    MEMBER(part, Text, position)                                                                             \
+    MEMBER(part, Text, name)                                                                                 \
+    MEMBER(part, Text, cpu)                                                                                  \
+    MEMBER(part, Text, watts)
 
-    bool operator==(const ProcessRow&) const = default;
+struct ProcessRow {
+    QUELBY_RECORD(ProcessRow)
 };
 
-struct ProcessCard {
-    Symbol symbol;
-    Text title;
-    std::optional<Text> placeholder; // in place of the rows, while there are none
-    std::vector<ProcessRow> rows;
+#define QUELBY_MEMBERS_OF_ProcessCard(MEMBER)                                                                \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(optional, Text, placeholder) /* in place of the rows, while there are none */                     \
+    MEMBER(list, ProcessRow, rows)
 
-    bool operator==(const ProcessCard&) const = default;
+struct ProcessCard {
+    QUELBY_RECORD(ProcessCard)
 };
 
 [[nodiscard]] ProcessCard processCard(const PublishedFields& fields);

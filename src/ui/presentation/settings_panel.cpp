@@ -1,7 +1,5 @@
 #include "ui/presentation/settings_panel.h"
 
-#include <algorithm>
-
 #include <fmt/format.h>
 
 #include "ui/presentation/relative_date.h"
@@ -50,16 +48,16 @@ std::vector<Label> calibrationDates(const PublishedFields& fields, Date now, con
 } // namespace
 
 GeneralSection generalSection(const PublishedFields& fields) {
-    GeneralSection section{.symbol = {"gearshape", ColorName::primary},
-                           .title = primary("General"),
-                           .launchAtLogin = {primary("Launch at Login"),
-                                             secondary("Start Quelby when you log in"), fields.launchAtLogin},
-                           .displayTitle = primary("Menu Bar Display"),
-                           .displaySubtitle = secondary("Choose what to show next to the icon")};
-    std::transform(allMenuBarDisplays.begin(), allMenuBarDisplays.end(), section.displays.begin(),
-                   [&](MenuBarDisplay display) {
-                       return Choice{shortLabel(display), display == fields.menuBarDisplay.get()};
-                   });
+    GeneralSection section{
+        .symbol = {"gearshape", ColorName::primary},
+        .title = primary("General"),
+        .launchAtLogin = {primary("Launch at Login"), secondary("Start Quelby when you log in"),
+                          fields.launchAtLogin},
+        .menuBarDisplay = {primary("Menu Bar Display"), secondary("Choose what to show next to the icon")}};
+    for (const auto display : allMenuBarDisplays) {
+        section.menuBarDisplay.choices.push_back(
+            {shortLabel(display), display == fields.menuBarDisplay.get()});
+    }
     return section;
 }
 
@@ -70,11 +68,11 @@ CalibrationSection calibrationSection(const PublishedFields& fields, Date now, c
             .autoCalibrate = {primary("Auto Calibrate"),
                               secondary("Periodically charge to 100% to calibrate the battery gauge"),
                               fields.calibrationEnabled},
-            .frequency = primary("Frequency"),
-            .intervals = {calibrationButton("1 Week", calibrationIntervals[0], days),
-                          calibrationButton("2 Weeks", calibrationIntervals[1], days),
-                          calibrationButton("1 Month", calibrationIntervals[2], days),
-                          calibrationButton("2 Months", calibrationIntervals[3], days)},
+            .frequency = {primary("Frequency"),
+                          {calibrationButton("1 Week", calibrationIntervals[0], days),
+                           calibrationButton("2 Weeks", calibrationIntervals[1], days),
+                           calibrationButton("1 Month", calibrationIntervals[2], days),
+                           calibrationButton("2 Months", calibrationIntervals[3], days)}},
             .dates = calibrationDates(fields, now, language)};
 }
 

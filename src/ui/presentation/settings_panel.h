@@ -4,7 +4,6 @@
 
 #include <array>
 #include <string>
-#include <vector>
 
 #include "monitor/published_fields.h"
 #include "ui/presentation/charge_limit_card.h"
@@ -12,61 +11,80 @@
 
 namespace quelby {
 
-struct GeneralSection {
-    Symbol symbol;
-    Text title;
-    Option launchAtLogin;
-    Text displayTitle;
-    Text displaySubtitle;
-    std::array<Choice, allMenuBarDisplays.size()> displays;
+#define QUELBY_MEMBERS_OF_DisplayChoice(MEMBER)                                                              \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, subtitle)                                                                             \
+    MEMBER(list, Choice, choices) /* one for each MenuBarDisplay */
 
-    bool operator==(const GeneralSection&) const = default;
+struct DisplayChoice {
+    QUELBY_RECORD(DisplayChoice)
+};
+
+#define QUELBY_MEMBERS_OF_GeneralSection(MEMBER)                                                             \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Option, launchAtLogin)                                                                      \
+    MEMBER(part, DisplayChoice, menuBarDisplay)
+
+struct GeneralSection {
+    QUELBY_RECORD(GeneralSection)
 };
 
 // How many days lie between two calibrations, in the order of the buttons.
 inline constexpr std::array<Int, 4> calibrationIntervals{7, 14, 30, 60};
 
-struct CalibrationSection {
-    Symbol symbol;
-    Text title;
-    Option autoCalibrate;
-    Text frequency;
-    std::array<Choice, calibrationIntervals.size()> intervals;
-    std::vector<Label> dates; // the last and the next calibration, or that there was none
+#define QUELBY_MEMBERS_OF_FrequencyChoice(MEMBER)                                                            \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(list, Choice, choices) /* one for each of the intervals */
 
-    bool operator==(const CalibrationSection&) const = default;
+struct FrequencyChoice {
+    QUELBY_RECORD(FrequencyChoice)
 };
+
+#define QUELBY_MEMBERS_OF_CalibrationSection(MEMBER)                                                         \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Option, autoCalibrate)                                                                      \
+    MEMBER(part, FrequencyChoice, frequency)                                                                 \
+    MEMBER(list, Label, dates) /* the last and the next calibration, or that there was none */
+
+struct CalibrationSection {
+    QUELBY_RECORD(CalibrationSection)
+};
+
+#define QUELBY_MEMBERS_OF_HelperSection(MEMBER)                                                              \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, explanation)                                                                          \
+    MEMBER(part, StatusLine, status)                                                                         \
+    MEMBER(plain, bool, installed) /* which the button undoes */                                             \
+    MEMBER(part, Text, button)
 
 struct HelperSection {
-    Symbol symbol;
-    Text title;
-    Text explanation;
-    StatusLine status;
-    bool installed = false; // which the button undoes
-    Text button;
-
-    bool operator==(const HelperSection&) const = default;
+    QUELBY_RECORD(HelperSection)
 };
+
+#define QUELBY_MEMBERS_OF_UninstallSection(MEMBER)                                                           \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, explanation)                                                                          \
+    MEMBER(part, Label, button)
 
 struct UninstallSection {
-    Symbol symbol;
-    Text title;
-    Text explanation;
-    Label button;
-
-    bool operator==(const UninstallSection&) const = default;
+    QUELBY_RECORD(UninstallSection)
 };
 
-struct SettingsPanel {
-    Header header;
-    GeneralSection general;
-    CalibrationSection calibration;
-    HelperSection helper;
-    UninstallSection uninstall;
-    Text version;
-    Label quit;
+#define QUELBY_MEMBERS_OF_SettingsPanel(MEMBER)                                                              \
+    MEMBER(part, Header, header)                                                                             \
+    MEMBER(part, GeneralSection, general)                                                                    \
+    MEMBER(part, CalibrationSection, calibration)                                                            \
+    MEMBER(part, HelperSection, helper)                                                                      \
+    MEMBER(part, UninstallSection, uninstall)                                                                \
+    MEMBER(part, Text, version)                                                                              \
+    MEMBER(part, Label, quit)
 
-    bool operator==(const SettingsPanel&) const = default;
+struct SettingsPanel {
+    QUELBY_RECORD(SettingsPanel)
 };
 
 // The language of the dates is that of relativeDate().

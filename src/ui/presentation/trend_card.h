@@ -1,23 +1,25 @@
 #pragma once
 
 #include <optional>
-#include <vector>
 
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements.h"
 
 namespace quelby {
 
-struct TrendCard {
-    Symbol symbol;
-    Text title;
-    Text now;
-    std::vector<double> samples; // W, newest last
-    Text min;
-    Text avg;
-    Text max;
+using Watts = double;
 
-    bool operator==(const TrendCard&) const = default;
+#define QUELBY_MEMBERS_OF_TrendCard(MEMBER)                                                                  \
+    MEMBER(part, Symbol, symbol)                                                                             \
+    MEMBER(part, Text, title)                                                                                \
+    MEMBER(part, Text, now)                                                                                  \
+    MEMBER(series, Watts, samples) /* newest last */                                                         \
+    MEMBER(part, Text, min)                                                                                  \
+    MEMBER(part, Text, avg)                                                                                  \
+    MEMBER(part, Text, max)
+
+struct TrendCard {
+    QUELBY_RECORD(TrendCard)
 };
 
 // Nothing while there are fewer than 3 samples: two make no trend.

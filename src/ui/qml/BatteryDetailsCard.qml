@@ -30,7 +30,7 @@ CardChrome {
             Divider { visible: entry.index > 0 }
 
             DetailRow {
-                content: card.content.rowAt(entry.index)
+                content: card.content.rows.at(entry.index)
                 Layout.fillWidth: true
             }
         }

@@ -26,12 +26,12 @@ CardChrome {
     }
 
     InkText {
-        content: card.content.frequency
+        content: card.content.frequency.title
         font.pixelSize: Theme.bodySize
     }
 
     ChoiceRow {
-        choices: card.content.intervals
+        choices: card.content.frequency.choices
         size: Theme.caption2Size
         horizontalPadding: 4 * Theme.unit
         verticalPadding: 2 * Theme.unit
@@ -44,7 +44,7 @@ CardChrome {
         SymbolLabel {
             required property int index
 
-            content: card.content.dateAt(index)
+            content: card.content.dates.at(index)
             wraps: true
             Layout.fillWidth: true
         }

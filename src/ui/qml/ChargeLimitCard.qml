@@ -34,16 +34,16 @@ CardChrome {
 
     InkText {
         content: card.content.offer.explanation
-        visible: card.content.offersHelper
+        visible: card.content.offer.present
         wrapMode: Text.WordWrap
         Layout.fillWidth: true
     }
 
     ActionButton {
-        visible: card.content.offersHelper
+        visible: card.content.offer.present
         symbol: card.content.offer.installButton.symbol
         label: card.content.offer.installButton.text.text
-        ink: Theme.ink(card.content.offer.installButton.text.ink)
+        ink: Theme.ink(card.content.offer.installButton.text.color)
         surface: pressed || hovered ? Qt.darker(Theme.fills[Ink.Accent], 1.15) : Theme.fills[Ink.Accent]
         Layout.fillWidth: true
         Layout.maximumWidth: Math.ceil(implicitWidth)
@@ -52,7 +52,7 @@ CardChrome {
 
     ColumnLayout {
         spacing: card.spacing
-        visible: card.content.hasStopLevel
+        visible: card.content.stopLevel.present
 
         RowLayout {
             spacing: 2 * Theme.unit
@@ -63,7 +63,7 @@ CardChrome {
                 InkText {
                     required property int index
 
-                    content: card.content.stopLevel.stopAtPart(index)
+                    content: card.content.stopLevel.stopAt.at(index)
                     font.weight: index > 0 ? Font.Bold : Font.Normal
                 }
             }
@@ -71,7 +71,7 @@ CardChrome {
 
         StepSlider {
             content: card.content.stopLevel.slider
-            name: card.content.stopLevel.stopAtPart(0).text
+            name: card.content.stopLevel.stopAt.at(0).text
             Layout.fillWidth: true
             onStepped: value => card.limitChosen(value)
         }
@@ -85,7 +85,7 @@ CardChrome {
 
                     readonly property int last: card.content.stopLevel.scale.length - 1
 
-                    content: card.content.stopLevel.scaleMark(index)
+                    content: card.content.stopLevel.scale.at(index)
                     font.pixelSize: Theme.smallSize
                     horizontalAlignment: index === 0 ? Text.AlignLeft
                                                      : index === last ? Text.AlignRight : Text.AlignHCenter

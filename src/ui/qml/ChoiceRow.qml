@@ -8,7 +8,7 @@ import Quelby.Bridge
 RowLayout {
     id: row
 
-    required property list<oneChoice> choices
+    required property choiceList choices
     property real size: Theme.smallSize
     property real horizontalPadding: 3 * Theme.unit
     property real verticalPadding: 2.5 * Theme.unit
@@ -23,7 +23,7 @@ RowLayout {
         ChoiceButton {
             required property int index
 
-            choice: row.choices[index]
+            choice: row.choices.at(index)
             size: row.size
             leftPadding: row.horizontalPadding
             rightPadding: row.horizontalPadding

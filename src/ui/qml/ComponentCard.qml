@@ -19,7 +19,7 @@ CardChrome {
         ComponentRow {
             required property int index
 
-            content: card.content.rows[index]
+            content: card.content.rows.at(index)
             Layout.fillWidth: true
         }
     }

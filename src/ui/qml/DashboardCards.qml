@@ -11,7 +11,7 @@ ColumnLayout {
     spacing: Theme.viewSpacing
 
     ChargeLimitCard {
-        visible: cards.monitor.hasBattery
+        visible: content.present
         content: cards.monitor.chargeLimit
         Layout.fillWidth: true
         onToggled: enabled => cards.monitor.toggleChargeLimit(enabled)
@@ -25,7 +25,7 @@ ColumnLayout {
     }
 
     BatteryCard {
-        visible: cards.monitor.hasBattery
+        visible: content.present
         content: cards.monitor.battery
         Layout.fillWidth: true
     }
@@ -41,7 +41,7 @@ ColumnLayout {
     }
 
     TrendCard {
-        visible: cards.monitor.hasTrend
+        visible: content.present
         content: cards.monitor.trend
         Layout.fillWidth: true
     }
@@ -58,7 +58,7 @@ ColumnLayout {
     }
 
     BatteryDetailsCard {
-        visible: cards.monitor.hasBattery
+        visible: content.present
         content: cards.monitor.details
         Layout.fillWidth: true
     }

@@ -36,7 +36,7 @@ CardChrome {
 
             Text {
                 text: card.content.stars
-                color: Theme.ink(card.content.score.ink)
+                color: Theme.ink(card.content.score.color)
                 font.family: Theme.starFamily
                 font.pixelSize: Theme.title3Size
                 textFormat: Text.PlainText

@@ -29,20 +29,20 @@ CardChrome {
         spacing: Theme.unit
 
         InkText {
-            content: card.content.displayTitle
+            content: card.content.menuBarDisplay.title
             font.pixelSize: Theme.bodySize
             Layout.fillWidth: true
         }
 
         InkText {
-            content: card.content.displaySubtitle
+            content: card.content.menuBarDisplay.subtitle
             wrapMode: Text.WordWrap
             Layout.fillWidth: true
         }
     }
 
     ChoiceRow {
-        choices: card.content.displays
+        choices: card.content.menuBarDisplay.choices
         onChosen: index => card.displayChosen(index)
     }
 }

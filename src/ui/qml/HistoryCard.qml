@@ -30,7 +30,7 @@ CardChrome {
 
     ColumnLayout {
         spacing: 3 * Theme.unit
-        visible: card.content.collecting
+        visible: card.content.placeholder.present
         Layout.alignment: Qt.AlignHCenter
         Layout.preferredHeight: 50 * Theme.unit
 
@@ -51,7 +51,7 @@ CardChrome {
     }
 
     ChartFrame {
-        visible: !card.content.collecting
+        visible: !card.content.placeholder.present
         implicitHeight: 50 * Theme.unit
         name: card.content.title.text
         count: card.content.points.length
@@ -75,7 +75,7 @@ CardChrome {
             StatBadge {
                 required property int index
 
-                content: card.content.badges[index]
+                content: card.content.badges.at(index)
             }
         }
     }

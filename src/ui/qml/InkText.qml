@@ -7,7 +7,7 @@ Text {
     property bool silent: text === "" // nothing to say to those who cannot see it
 
     text: content.text
-    color: Theme.ink(content.ink)
+    color: Theme.ink(content.color)
     font.family: Theme.family
     font.pixelSize: Theme.captionSize
     textFormat: Text.PlainText

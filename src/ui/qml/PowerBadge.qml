@@ -61,7 +61,7 @@ CardChrome {
             SymbolLabel {
                 required property int index
 
-                content: card.content.extraAt(index)
+                content: card.content.extra.at(index)
                 size: Theme.caption2Size
             }
         }

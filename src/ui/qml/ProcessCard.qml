@@ -28,7 +28,7 @@ CardChrome {
         ProcessRow {
             required property int index
 
-            content: card.content.rowAt(index)
+            content: card.content.rows.at(index)
             Layout.fillWidth: true
         }
     }

@@ -9,7 +9,7 @@ Item {
     required property string name // for those who cannot see it
     property bool graded: false // from a pale beginning
 
-    readonly property color full: Theme.fill(content.ink)
+    readonly property color full: Theme.fill(content.color)
     readonly property color pale: graded ? Theme.translucent(full, 0.55) : full
     property real fraction: content.fraction // on its way to the content's
 

@@ -7,7 +7,7 @@ SymbolItem {
     property real size: Theme.captionSize
 
     name: content.name
-    color: Theme.symbolInk(content.ink)
+    color: Theme.symbolInk(content.color)
     implicitWidth: size
     implicitHeight: size
 }

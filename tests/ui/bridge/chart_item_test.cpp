@@ -68,7 +68,7 @@ protected:
     Sparkline() {
         setUp(chart);
         chart.setDotColor(Qt::magenta);
-        chart.setSamples({5, 5, 5, 5, 5});
+        chart.setSamples(WattsSeries({5, 5, 5, 5, 5}));
     }
 
     SparklineView chart;
@@ -78,7 +78,8 @@ class HistoryChart : public testing::Test {
 protected:
     HistoryChart() {
         setUp(chart);
-        chart.setPoints({{1'700'000'000, 10}, {1'700'000'060, 30}, {1'700'000'120, 10}});
+        chart.setPoints(
+            HistoryDataPointSeries({{1'700'000'000, 10}, {1'700'000'060, 30}, {1'700'000'120, 10}}));
     }
 
     TimeZone zone{"UTC0"};
@@ -131,7 +132,7 @@ TEST_F(Sparkline, TellsOfTheSampleOnlyWhenItIsAnother) {
 }
 
 TEST_F(Sparkline, ReadsOutTheSampleAndItsAge) {
-    chart.setSamples({1, 2, 3, 4.04, 5});
+    chart.setSamples(WattsSeries({1, 2, 3, 4.04, 5}));
     pointAt(chart, 376);
     EXPECT_EQ(chart.readOut(), "5.0W  now");
     pointAt(chart, 282);
@@ -144,7 +145,7 @@ TEST_F(Sparkline, ReadsOutWhatIsUnderThePointerNow) {
     pointAt(chart, 188);
     int changes = 0;
     QObject::connect(&chart, &ChartItem::hoverIndexChanged, [&] { ++changes; });
-    chart.setSamples({1, 2, 3, 4, 5});
+    chart.setSamples(WattsSeries({1, 2, 3, 4, 5}));
     EXPECT_EQ(chart.readOut(), "3.0W  6s ago");
     EXPECT_EQ(changes, 1);
 }
@@ -177,9 +178,9 @@ TEST_F(Sparkline, MarksTheNewestSampleUnlessAnotherIsLookedAt) {
 }
 
 TEST_F(Sparkline, NamesTheColourOfItsDot) {
-    EXPECT_EQ(chart.dotInk(), InkValue(ColorName::green));
-    chart.setSamples({5, 30});
-    EXPECT_EQ(chart.dotInk(), InkValue(ColorName::red));
+    EXPECT_EQ(chart.dotInk(), ColorValue(ColorName::green));
+    chart.setSamples(WattsSeries({5, 30}));
+    EXPECT_EQ(chart.dotInk(), ColorValue(ColorName::red));
 }
 
 TEST_F(Sparkline, ShowsALineACircleAndALabelWhereItIsLookedAt) {
@@ -202,15 +203,15 @@ TEST_F(Sparkline, SetsItsWhiteLineOffFromWhatIsLight) {
 }
 
 TEST_F(Sparkline, ShowsNothingWithoutSamples) {
-    chart.setSamples({});
+    chart.setSamples(WattsSeries());
     pointAt(chart, 188);
     EXPECT_EQ(chart.hoverIndex(), -1);
     EXPECT_TRUE(isEmpty(painted(chart)));
-    EXPECT_EQ(chart.dotInk(), InkValue());
+    EXPECT_EQ(chart.dotInk(), ColorValue());
 }
 
 TEST_F(Sparkline, OfOneSampleIsADot) {
-    chart.setSamples({7});
+    chart.setSamples(WattsSeries({7}));
     const auto picture = painted(chart);
     EXPECT_EQ(at(picture, width, height), chart.dotColor());
     EXPECT_EQ(at(picture, width / 2, height).alpha(), 0);
@@ -225,7 +226,7 @@ TEST_F(HistoryChart, FillsTheAreaBelowItsCurve) {
 }
 
 TEST_F(HistoryChart, LeavesATwentiethOfItsHeightFreeAtBothEnds) {
-    chart.setPoints({{0, 10}, {60, 10}});
+    chart.setPoints(HistoryDataPointSeries({{0, 10}, {60, 10}}));
     const auto flat = painted(chart);
     EXPECT_TRUE(similar(at(flat, width / 3, height * 95 / 100), curveColors[1]));
     EXPECT_TRUE(similar(at(flat, width - 1, height * 95 / 100), curveColors.last()));
@@ -260,14 +261,14 @@ TEST_F(HistoryChart, ReadsOutThePointAndItsTimeOfDay) {
 TEST_F(HistoryChart, GivesBackItsPoints) {
     int changes = 0;
     QObject::connect(&chart, &HistoryChartView::pointsChanged, [&] { ++changes; });
-    const QList<QPointF> points{{1, 2}, {3, 4}};
+    const HistoryDataPointSeries points({{1, 2}, {3, 4}});
     chart.setPoints(points);
     EXPECT_EQ(chart.points(), points);
     EXPECT_EQ(changes, 1);
 }
 
 TEST_F(HistoryChart, ShowsNothingWithoutPoints) {
-    chart.setPoints({});
+    chart.setPoints(HistoryDataPointSeries());
     EXPECT_TRUE(isEmpty(painted(chart)));
 }
 

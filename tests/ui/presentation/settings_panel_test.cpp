@@ -14,8 +14,8 @@ constexpr Date now = 1'700'000'000;
 constexpr double day = 86'400;
 
 // The four buttons, of which the one at the position is selected; one beyond them selects none.
-std::array<Choice, 4> intervals(std::size_t selected) {
-    std::array<Choice, 4> choices{Choice{"1 Week"}, {"2 Weeks"}, {"1 Month"}, {"2 Months"}};
+std::vector<Choice> intervals(std::size_t selected) {
+    std::vector<Choice> choices{{"1 Week"}, {"2 Weeks"}, {"1 Month"}, {"2 Months"}};
     if (selected < choices.size()) {
         choices[selected].selected = true;
     }
@@ -47,14 +47,14 @@ TEST(GeneralSection, OffersTheLoginItemAndTheDisplays) {
         .symbol = {"gearshape", ColorName::primary},
         .title = primary("General"),
         .launchAtLogin = {primary("Launch at Login"), secondary("Start Quelby when you log in"), false},
-        .displayTitle = primary("Menu Bar Display"),
-        .displaySubtitle = secondary("Choose what to show next to the icon"),
-        .displays = {Choice{"Watts", true},
-                     {"Battery%", false},
-                     {"mA", false},
-                     {"Volts", false},
-                     {"Temp", false},
-                     {"Icon", false}}};
+        .menuBarDisplay = {primary("Menu Bar Display"),
+                           secondary("Choose what to show next to the icon"),
+                           {{"Watts", true},
+                            {"Battery%", false},
+                            {"mA", false},
+                            {"Volts", false},
+                            {"Temp", false},
+                            {"Icon", false}}}};
     EXPECT_EQ(generalSection(fields), expected);
     fields.launchAtLogin = true;
     EXPECT_TRUE(generalSection(fields).launchAtLogin.enabled);
@@ -70,7 +70,7 @@ TEST(GeneralSection, SelectsTheDisplayThatIsShown) {
     PublishedFields fields;
     for (const auto& selected : labels) {
         fields.menuBarDisplay = selected.first;
-        const auto displays = generalSection(fields).displays;
+        const auto displays = generalSection(fields).menuBarDisplay.choices;
         ASSERT_EQ(displays.size(), std::size(labels));
         for (std::size_t index = 0; index < displays.size(); ++index) {
             EXPECT_EQ(displays[index], (Choice{labels[index].second, labels[index].first == selected.first}));
@@ -84,8 +84,7 @@ TEST_F(CalibrationSectionTest, BeginsWithoutADate) {
         .title = primary("Battery Calibration"),
         .autoCalibrate = {primary("Auto Calibrate"),
                           secondary("Periodically charge to 100% to calibrate the battery gauge"), false},
-        .frequency = primary("Frequency"),
-        .intervals = intervals(2),
+        .frequency = {primary("Frequency"), intervals(2)},
         .dates = {{{"info.circle", ColorName::secondary},
                    secondary("First calibration will start when charge limit is active")}}};
     EXPECT_EQ(calibrationSection(fields, now, "en"), expected);
@@ -104,7 +103,7 @@ TEST_F(CalibrationSectionTest, SelectsTheIntervalThatIsSet) {
                                                     {8, 4}, {0, 4},  {31, 4}};
     for (const auto& [days, selected] : expected) {
         fields.calibrationIntervalDays = days;
-        EXPECT_EQ(calibrationSection(fields, now, "en").intervals, intervals(selected)) << days;
+        EXPECT_EQ(calibrationSection(fields, now, "en").frequency.choices, intervals(selected)) << days;
     }
 }
 
