@@ -5,6 +5,7 @@
 #include "helper/daemon_config.h"
 #include "helper/daemon_status.h"
 #include "monitor/power_monitor.h"
+#include "monitor/preference_keys.h"
 
 namespace quelby {
 
@@ -58,13 +59,12 @@ void PowerMonitor::readDaemonStatus() {
 }
 
 void PowerMonitor::toggleChargeLimit(bool enabled) {
-    constexpr std::string_view tipShown = "hasShownChargingTip";
     chargeLimitEnabled = enabled;
     writeDaemonConfig();
-    if (!enabled || platform_.preferences.flag(tipShown)) {
+    if (!enabled || platform_.preferences.flag(preference_keys::hasShownChargingTip)) {
         return;
     }
-    platform_.preferences.setFlag(tipShown, true);
+    platform_.preferences.setFlag(preference_keys::hasShownChargingTip, true);
     shouldShowChargingTip = true;
 }
 

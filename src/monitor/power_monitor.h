@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+#include "base/cycle_interval.h"
 #include "history/history_store.h"
 #include "monitor/battery_prediction.h"
 #include "monitor/published_fields.h"
@@ -17,7 +18,7 @@
 namespace quelby {
 
 struct MonitorOptions {
-    std::chrono::duration<double> interval = std::chrono::seconds(3); // from one cycle to the next
+    std::chrono::duration<double> interval = cycleInterval; // from one cycle to the next
     std::optional<HistoryAccess> history; // none: no history. Two recorders would count energy twice.
 };
 
@@ -56,7 +57,8 @@ public:
     // at once; where it was not, nothing changes.
     void installDaemon();
 
-    // Likewise. The limit is off afterwards; the other settings stay in memory.
+    // Asks for the administrator's password, and waits for it. The limit is off afterwards; the other
+    // settings stay in memory.
     void uninstallDaemon();
 
     // Removes the helper, if the user agrees, the history, all preferences, the start at login and the
