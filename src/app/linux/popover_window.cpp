@@ -8,6 +8,7 @@
 #include <malloc.h>
 
 #include "app/linux/popover_place.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::app {
 
@@ -104,7 +105,7 @@ void PopoverWindow::make() {
         DashboardActions{.quit = parts_.quit, .openBatterySettings = parts_.openBatterySettings});
     view_ = std::make_unique<DashboardView>(*model_, parts_.appearance());
     window_ = std::make_unique<Window>(*this);
-    window_->setTitle(QStringLiteral("Quelby"));
+    window_->setTitle(QString::fromUtf8(words::program));
     const QSize size = view_->item().size().toSize();
     window_->setMinimumSize(size);
     window_->setMaximumSize(size);

@@ -21,7 +21,7 @@ struct Dashboard {
     Header header;
     std::optional<ChargeLimitCard> chargeLimit; // none on a machine without a battery
     PowerBadge powerBadge;
-    std::optional<BatteryCard> battery; // likewise
+    std::optional<BatteryCard> battery; // none on a machine without a battery
     ComponentCard components;
     ProcessCard processes;
     std::optional<TrendCard> trend; // none until there is a trend
