@@ -14,7 +14,7 @@ class SparklineView : public quelby::ChartItem {
     QML_ELEMENT
     Q_PROPERTY(QList<qreal> samples READ samples WRITE setSamples NOTIFY samplesChanged) // W, newest last
     Q_PROPERTY(quelby::InkValue dotInk READ dotInk NOTIFY samplesChanged)
-    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY dotColorChanged)
 
 public:
     explicit SparklineView(QQuickItem* parent = nullptr) : ChartItem(parent) {}
@@ -31,13 +31,14 @@ public:
 
 Q_SIGNALS:
     void samplesChanged();
+    void dotColorChanged();
 
 private:
     [[nodiscard]] std::size_t count() const override { return samples_.size(); }
 
     [[nodiscard]] std::vector<ChartPoint> curve() const override;
     [[nodiscard]] std::optional<HoverReadOut> readOutAt(std::size_t index) const override;
-    void paintMarks(QPainter& painter) const override;
+    void paintMarks(QPainter& painter, const ChartStyle& style) const override;
 
     std::vector<double> samples_;
     QColor dotColor_;
