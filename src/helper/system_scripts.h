@@ -12,7 +12,7 @@ namespace quelby {
 // Stops and removes the helper and its folder.
 [[nodiscard]] std::string helperUninstallScript();
 
-// Likewise, and the program as well.
+// Stops and removes the helper, its folder and the program.
 [[nodiscard]] std::string fullUninstallScript(const std::filesystem::path& program);
 
 } // namespace quelby

@@ -16,7 +16,7 @@ namespace quelby {
 //   AppleRawMaxCapacity     mAh, full at present
 //   AppleRawCurrentCapacity mAh, remaining
 //   MaxCapacity             mAh or %, where the raw value is missing
-//   CurrentCapacity         mAh or %, likewise
+//   CurrentCapacity         mAh or %, where the raw value is missing
 //   CycleCount              charge cycles
 //   IsCharging, ExternalConnected, FullyCharged
 //   InstantAmperage         mA, negative while discharging; above 30000 it is taken for a negative number in

@@ -44,7 +44,9 @@ private:
     WithoutTray withoutTray_;
     DesktopAppearance appearance_;
     std::function<bool(const KeyDown&)> keyMonitor_;
-    LinuxStatusItem* item_ = nullptr; // its owner's, likewise below; none before it is made
+
+    // Owned by whoever asked for them; null before they are made.
+    LinuxStatusItem* item_ = nullptr;
     LateDashboard* popover_ = nullptr;
 };
 

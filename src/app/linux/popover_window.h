@@ -50,9 +50,12 @@ private:
     std::optional<QPoint> itemPlace_;
     std::optional<QPoint> closingPress_;
     QElapsedTimer sinceClosingPress_;
-    std::unique_ptr<DashboardModel> model_; // none before the first opening, likewise below
+
+    // None before the first opening, and after having been given back.
+    std::unique_ptr<DashboardModel> model_;
     std::unique_ptr<DashboardView> view_;
     std::unique_ptr<Window> window_;
+
     std::unique_ptr<OutsidePresses> presses_; // while it is shown
     QTimer givingBack_;
 };

@@ -4,7 +4,8 @@
 
 namespace quelby {
 
-// pkexec asks with the desktop's own dialog, or in the terminal. Who is root already is not asked.
+// pkexec asks with the desktop's own dialog, or in the terminal. It does not ask a
+// user who is root already.
 class PkexecShell final : public PrivilegedShell {
 public:
     [[nodiscard]] bool run(const std::string& script) override;

@@ -31,7 +31,7 @@ void rewriteInPlace(const std::filesystem::path& file, std::string_view text) {
     const auto opened = openRegular(file, O_WRONLY | O_NOFOLLOW);
     if (opened.isOpen() && std::cmp_equal(::write(opened.number(), text.data(), text.size()), text.size())) {
         static_cast<void>(::ftruncate(opened.number(), static_cast<off_t>(text.size())));
-        static_cast<void>(::fchmod(opened.number(), everybodysMode)); // the owner's to change
+        static_cast<void>(::fchmod(opened.number(), everybodysMode)); // the owner alone may
     }
 }
 
