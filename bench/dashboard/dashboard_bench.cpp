@@ -15,12 +15,13 @@
 #include <fmt/format.h>
 
 #include "platform/host/machine.h"
+#include "ui/presentation/metrics.h"
 #include "ui/view/dashboard_view.h"
 
 namespace quelby {
 namespace {
 
-constexpr QSize viewSize(400, 660);
+constexpr QSize viewSize(viewWidth, viewHeight);
 
 // A laptop as it is after all of its recording.
 class Laptop {

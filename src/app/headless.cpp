@@ -3,9 +3,9 @@
 #include <csignal>
 
 #include "app/recorder_lock.h"
-#include "console/cycle_line.h"
 #include "console/cycles.h"
 #include "console/standard_output.h"
+#include "ui/presentation/cycle_line.h"
 
 namespace quelby::app {
 

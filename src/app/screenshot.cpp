@@ -51,7 +51,7 @@ Result<void> draw(PowerMonitor& monitor, Clock& clock, const ScreenshotCommand& 
         return problem("the library with the dashboard is missing");
     }
     monitor.selectHistoryRange(monitor.historyRange); // with what the cycles have recorded
-    const PictureOptions options{.settings = command.view == ScreenshotView::settings,
+    const PictureOptions options{.settings = command.page == Page::settings,
                                  .dark = command.dark,
                                  .scale = command.scale,
                                  .scrolledTo = command.scroll};

@@ -8,6 +8,7 @@
 #include <fmt/ranges.h>
 
 #include "base/number_text.h"
+#include "ui/presentation/settings_panel.h"
 
 namespace quelby::cli {
 
@@ -15,6 +16,21 @@ namespace {
 
 constexpr double shortestInterval = 0.01;     // seconds
 constexpr double longestInterval = 1'000'000; // eleven days; a timer counts milliseconds in 32 bits
+
+template <typename Cases>
+std::vector<std::string_view> rawValues(const Cases& cases) {
+    std::vector<std::string_view> values;
+    std::transform(cases.begin(), cases.end(), std::back_inserter(values),
+                   [](auto one) { return rawValue(one); });
+    return values;
+}
+
+// As in "7, 14, 30 or 60".
+template <typename Values>
+std::string oneOf(const Values& values) {
+    const auto last = std::prev(values.end());
+    return fmt::format("{} or {}", fmt::join(values.begin(), last, ", "), *last);
+}
 
 std::int64_t parseCount(const std::string& text) {
     const auto count = wholeNumber(text);
@@ -37,7 +53,8 @@ std::chrono::duration<double> parseInterval(const std::string& text) {
 TimeRange parseRange(const std::string& text) {
     const auto range = timeRange(text);
     if (!range) {
-        throw CLI::ValidationError(fmt::format("--range takes 30m, 1h, 24h or 7d, not \"{}\"", text));
+        throw CLI::ValidationError(
+            fmt::format("--range takes {}, not \"{}\"", oneOf(rawValues(allTimeRanges)), text));
     }
     return *range;
 }
@@ -45,11 +62,8 @@ TimeRange parseRange(const std::string& text) {
 MenuBarDisplay parseDisplay(const std::string& text) {
     const auto display = menuBarDisplay(text);
     if (!display) {
-        std::vector<std::string_view> names;
-        std::transform(allMenuBarDisplays.begin(), allMenuBarDisplays.end(), std::back_inserter(names),
-                       [](MenuBarDisplay one) { return rawValue(one); });
-        throw CLI::ValidationError(
-            fmt::format("--display takes one of \"{}\", not \"{}\"", fmt::join(names, R"(", ")"), text));
+        throw CLI::ValidationError(fmt::format("--display takes one of \"{}\", not \"{}\"",
+                                               fmt::join(rawValues(allMenuBarDisplays), R"(", ")"), text));
     }
     return *display;
 }
@@ -65,13 +79,6 @@ TitleFormat parseTitleFormat(const std::string& text) {
     throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
 }
 
-DashboardView parseView(const std::string& text) {
-    if (text == "dashboard" || text == "settings") {
-        return text == "settings" ? DashboardView::settings : DashboardView::dashboard;
-    }
-    throw CLI::ValidationError(fmt::format(R"(--view takes dashboard or settings, not "{}")", text));
-}
-
 // "on" or "off".
 std::optional<bool> switchPosition(const std::string& text) {
     return text == "on" ? std::optional(true) : text == "off" ? std::optional(false) : std::nullopt;
@@ -79,20 +86,23 @@ std::optional<bool> switchPosition(const std::string& text) {
 
 LimitCommand parseLimit(const std::string& text) {
     const auto percent = wholeNumber(text);
-    const bool settable = percent && *percent >= 20 && *percent <= 100 && *percent % 5 == 0;
+    const bool settable = percent && *percent >= stopRange.lowest && *percent <= stopRange.highest &&
+                          *percent % stopRange.step == 0;
     if (text != "show" && !switchPosition(text) && !settable) {
-        throw CLI::ValidationError(fmt::format(
-            "limit takes show, on, off or a percentage from 20 to 100 in steps of 5, not \"{}\"", text));
+        throw CLI::ValidationError(
+            fmt::format("limit takes show, on, off or a percentage from {} to {} in steps of {}, not \"{}\"",
+                        stopRange.lowest, stopRange.highest, stopRange.step, text));
     }
     return {.enable = switchPosition(text), .percent = settable ? percent : std::nullopt};
 }
 
 CalibrationCommand parseCalibration(const std::string& text) {
     const auto days = wholeNumber(text);
-    const bool settable = days == 7 || days == 14 || days == 30 || days == 60;
+    const bool settable = days && std::find(calibrationIntervals.begin(), calibrationIntervals.end(),
+                                            *days) != calibrationIntervals.end();
     if (text != "show" && !switchPosition(text) && !settable) {
-        throw CLI::ValidationError(
-            fmt::format("calibration takes show, on, off, 7, 14, 30 or 60, not \"{}\"", text));
+        throw CLI::ValidationError(fmt::format("calibration takes show, on, off, {}, not \"{}\"",
+                                               oneOf(calibrationIntervals), text));
     }
     return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
 }
@@ -119,7 +129,7 @@ void addRepetition(CLI::App& command, Repetition& repetition) {
     command
         .add_option_function<std::string>(
             "--interval", [&](const std::string& text) { repetition.interval = parseInterval(text); },
-            "Time between two cycles, 3 unless named")
+            fmt::format("Time between two cycles, {} unless named", cycleInterval.count()))
         ->type_name("SECONDS");
 }
 
@@ -160,7 +170,8 @@ struct Reading {
                    limit, parseLimit);
         addSetting(
             "calibration",
-            "The battery's calibration: show (unless named otherwise), on, off, or 7, 14, 30 or 60 days",
+            fmt::format("The battery's calibration: show (unless named otherwise), on, off, or {} days",
+                        oneOf(calibrationIntervals)),
             calibration, parseCalibration);
         addSetting("helper", "The charge-limit helper: status (unless named otherwise), install or uninstall",
                    helper, parseHelper);
@@ -168,7 +179,7 @@ struct Reading {
 
     // A command with one word behind it, which may be missing.
     template <typename T>
-    void addSetting(const char* name, const char* help, T& setting, T (*parse)(const std::string&)) {
+    void addSetting(const char* name, const std::string& help, T& setting, T (*parse)(const std::string&)) {
         auto* const command = app.add_subcommand(name, help);
         command
             ->add_option_function<std::string>(
@@ -198,7 +209,7 @@ struct Reading {
         addForm(*command, "--json", OutputForm::json, dashboard.form, "As one JSON object");
         command
             ->add_option_function<std::string>(
-                "--view", [this](const std::string& text) { dashboard.view = parseView(text); },
+                "--view", [this](const std::string& text) { dashboard.page = parsePage(text); },
                 "dashboard or settings; dashboard unless named")
             ->type_name("VIEW");
         command->final_callback([this] { request.command = dashboard; });
@@ -223,7 +234,7 @@ struct Reading {
         command
             ->add_option_function<std::string>(
                 "--range", [this](const std::string& text) { history.range = parseRange(text); },
-                "30m, 1h, 24h or 7d; 30m unless named")
+                fmt::format("{}; {} unless named", oneOf(rawValues(allTimeRanges)), rawValue(history.range)))
             ->type_name("RANGE");
         auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
         addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);

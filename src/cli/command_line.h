@@ -7,6 +7,7 @@
 #include <optional>
 #include <variant>
 
+#include "base/cycle_interval.h"
 #include "console/machine_arguments.h"
 #include "history/time_range.h"
 #include "monitor/menu_bar_display.h"
@@ -20,8 +21,8 @@ struct StatusCommand {
 };
 
 struct Repetition {
-    std::optional<std::int64_t> count;         // cycles, 1 or more; none: until it is ended
-    std::chrono::duration<double> interval{3}; // 0.01 s or more
+    std::optional<std::int64_t> count;                      // cycles, 1 or more; none: until it is ended
+    std::chrono::duration<double> interval = cycleInterval; // 0.01 s or more
 };
 
 struct WatchCommand {
@@ -29,11 +30,9 @@ struct WatchCommand {
     Repetition repetition;
 };
 
-enum class DashboardView { dashboard, settings };
-
 struct DashboardCommand {
     OutputForm form = OutputForm::text;
-    DashboardView view = DashboardView::dashboard;
+    Page page = Page::dashboard;
 };
 
 struct RecordCommand {
@@ -57,12 +56,12 @@ struct TitleCommand {
 // Shows the setting unless it says what to change.
 struct LimitCommand {
     std::optional<bool> enable;
-    std::optional<std::int64_t> percent; // 20 to 100, in steps of 5
+    std::optional<std::int64_t> percent; // % of full charge, within stopRange
 };
 
 struct CalibrationCommand {
     std::optional<bool> enable;
-    std::optional<std::int64_t> days; // 7, 14, 30 or 60
+    std::optional<std::int64_t> days; // one of calibrationIntervals
 };
 
 enum class HelperWish { status, install, uninstall };

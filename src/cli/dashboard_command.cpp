@@ -36,7 +36,7 @@ std::string settingsOutput(const PublishedFields& fields, Date now, OutputForm f
 Result<void> runDashboard(Machine& machine, const DashboardCommand& command) {
     const auto platform = machine.platform();
     const auto print = [&](const PowerMonitor& monitor) {
-        const auto output = command.view == DashboardView::settings ? settingsOutput : dashboardOutput;
+        const auto output = command.page == Page::settings ? settingsOutput : dashboardOutput;
         return writeToStandardOutput(output(monitor, platform.clock->now(), command.form));
     };
     return runCycles(machine, platform, untilTheEnd(machine, print));

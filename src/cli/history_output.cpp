@@ -1,7 +1,6 @@
 #include "cli/history_output.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <optional>
 
@@ -9,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/arithmetic.h"
+#include "cli/terminal/block_cells.h"
 
 namespace quelby::cli {
 
@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::int64_t curveRows = 8;
 constexpr int scaleColumns = 9; // "  12.3 W " at the left of the curve
-constexpr std::array<std::string_view, 9> cells{" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
 
 // The mean power of each column, none where nothing was recorded.
 std::vector<std::optional<double>> columnMeans(const HistoryView& view, int columns) {
@@ -45,11 +44,11 @@ std::vector<std::optional<double>> columnMeans(const HistoryView& view, int colu
 // The part of a column in one row, where rows count from the bottom and the top of all is `most`.
 std::string_view cell(std::optional<double> mean, std::int64_t row, double most) {
     if (!mean || most <= 0) {
-        return cells.front();
+        return columnCells.front();
     }
-    const auto eighths = truncated(std::round(*mean / most * static_cast<double>(curveRows) * 8));
-    const auto inRow = std::clamp<std::int64_t>(difference(eighths, row * 8), row == 0 ? 1 : 0, 8);
-    return cells.at(static_cast<std::size_t>(inRow));
+    const auto filled = truncated(std::round(*mean / most * static_cast<double>(curveRows) * eighths));
+    const auto inRow = std::clamp<std::int64_t>(difference(filled, row * eighths), row == 0 ? 1 : 0, eighths);
+    return columnCells.at(static_cast<std::size_t>(inRow));
 }
 
 std::string curve(const HistoryView& view, int columns) {

@@ -26,7 +26,7 @@ Result<void> runTitle(Machine& machine, const TitleCommand& command, Pace pace) 
     run.afterCycle = [&](const PowerMonitor& monitor) -> Result<void> {
         auto line = lineOf(monitor, command);
         if (line == shown) {
-            return {}; // a bar redraws for every line
+            return {}; // a bar would redraw for nothing
         }
         shown = line;
         return writeToStandardOutput(line);

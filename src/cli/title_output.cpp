@@ -2,11 +2,9 @@
 
 #include <algorithm>
 
-#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
-#include "base/utf8.h"
-#include "console/cycle_line.h"
+#include "ui/presentation/cycle_line.h"
 #include "ui/presentation/menu_bar_title.h"
 
 namespace quelby::cli {
@@ -46,10 +44,8 @@ std::string asClass(std::string_view state) {
 }
 
 Json forWaybar(const PublishedFields& fields, const std::string& title) {
-    const auto tooltip = fmt::format("{}, {:.1f} W, CPU {:.1f} %", batteryText(fields),
-                                     fields.totalPower.get(), fields.cpuUsage.get());
     return {{"text", asPangoMarkup(withoutLeadingBlank(title))},
-            {"tooltip", asPangoMarkup(printable(tooltip))},
+            {"tooltip", asPangoMarkup(statusBarToolTip(fields))},
             {"class", asClass(batteryState(fields))},
             {"percentage", fields.batteryPercent.get()}};
 }

@@ -9,10 +9,10 @@
 #include "cli/terminal/keys.h"
 #include "cli/terminal/terminal_screen.h"
 #include "cli/terminal/watch_frame.h"
-#include "console/cycle_line.h"
 #include "console/key_listener.h"
 #include "console/signals.h"
 #include "console/standard_output.h"
+#include "ui/presentation/cycle_line.h"
 
 namespace quelby::cli {
 
@@ -45,7 +45,7 @@ private:
 
     void redraw() {
         if (monitor_ != nullptr) {
-            static_cast<void>(draw()); // a terminal that is gone fails the next cycle
+            static_cast<void>(draw()); // if the terminal is gone, the next cycle says so
         }
     }
 
@@ -98,7 +98,7 @@ private:
     void act(char character) {
         const auto range = static_cast<std::size_t>(character - '1');
         if (character == 'q') {
-            ::raise(SIGTERM); // the way that every run ends
+            ::raise(SIGTERM); // ends the run as a signal from outside does
         } else if (character == '?') {
             view_.help = !view_.help;
         } else if (character >= '1' && range < allTimeRanges.size() && monitor_ != nullptr) {
@@ -113,7 +113,7 @@ private:
     int page_ = 1; // rows by which a page is scrolled
     TerminalScreen screen_;
     KeyListener keys_{screen_.takesKeys(), [this](std::string_view bytes) { press(bytes); }};
-    PowerMonitor* monitor_ = nullptr; // the run's; none before its first cycle
+    PowerMonitor* monitor_ = nullptr; // that of the run; null before its first cycle
 };
 
 Result<void> watchLineByLine(Machine& machine, CycleRun run, OutputForm form) {

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/arithmetic.h"
+#include "base/cycle_interval.h"
 #include "history/history_file.h"
 #include "history/sqlite/statement.h"
 
@@ -176,7 +177,9 @@ double HistoryStore::todayWh() {
         return 0.0;
     }
     const auto dayStart = truncated(clock_.startOfDay());
-    Statement raw(db_->get(), "SELECT SUM(watts * 3.0 / 3600.0) FROM readings WHERE timestamp > ?");
+    Statement raw(db_->get(),
+                  fmt::format("SELECT SUM(watts * {:.1f} / 3600.0) FROM readings WHERE timestamp > ?",
+                              std::chrono::duration<double>(cycleInterval).count()));
     raw.bind(1, dayStart);
     double total = sum(raw);
     const auto rawStart = truncated(clock_.now() - rawRetention);

@@ -2,6 +2,7 @@
 
 #include "history/history_file.h"
 #include "monitor/power_monitor.h"
+#include "monitor/preference_keys.h"
 
 namespace quelby {
 
@@ -30,7 +31,7 @@ void PowerMonitor::fullUninstall(const std::function<void()>& then) {
     std::error_code ignored;
     std::filesystem::remove_all(historyFile(platform_.folders->applicationSupport()).parent_path(), ignored);
     platform_.preferences->removeAll();
-    for (const auto* const key : {"menuBarDisplay", "launchAtLogin", "hasShownChargingTip"}) {
+    for (const auto key : preference_keys::all) {
         platform_.preferences->remove(key);
     }
     static_cast<void>(platform_.loginItem->unregisterProgram());
@@ -39,7 +40,7 @@ void PowerMonitor::fullUninstall(const std::function<void()>& then) {
 
 void PowerMonitor::setLaunchAtLogin(bool enabled) {
     launchAtLogin = enabled;
-    platform_.preferences->setFlag("launchAtLogin", enabled);
+    platform_.preferences->setFlag(preference_keys::launchAtLogin, enabled);
     auto& item = *platform_.loginItem;
     static_cast<void>(enabled ? item.registerProgram() : item.unregisterProgram());
 }

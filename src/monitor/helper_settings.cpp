@@ -5,6 +5,7 @@
 #include "helper/daemon_config.h"
 #include "helper/daemon_status.h"
 #include "monitor/power_monitor.h"
+#include "monitor/preference_keys.h"
 
 namespace quelby {
 
@@ -57,11 +58,10 @@ void PowerMonitor::readDaemonStatus() {
 }
 
 Result<void> PowerMonitor::toggleChargeLimit(bool enabled) {
-    constexpr std::string_view tipShown = "hasShownChargingTip";
     chargeLimitEnabled = enabled;
     auto told = writeDaemonConfig();
-    if (enabled && !platform_.preferences->flag(tipShown)) {
-        platform_.preferences->setFlag(tipShown, true);
+    if (enabled && !platform_.preferences->flag(preference_keys::hasShownChargingTip)) {
+        platform_.preferences->setFlag(preference_keys::hasShownChargingTip, true);
         shouldShowChargingTip = true;
     }
     return told;

@@ -3,6 +3,7 @@
 #include "monitor/battery_reading.h"
 #include "monitor/component_power.h"
 #include "monitor/cpu_usage.h"
+#include "monitor/preference_keys.h"
 #include "monitor/top_processes.h"
 
 namespace quelby {
@@ -15,7 +16,7 @@ PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptio
     : platform_(platform)
     , options_(options)
     , storeDisplay_(menuBarDisplay.observe([preferences = platform_.preferences](MenuBarDisplay coming) {
-        preferences->setText("menuBarDisplay", rawValue(coming));
+        preferences->setText(preference_keys::menuBarDisplay, rawValue(coming));
     })) {}
 
 void PowerMonitor::startMonitoring() {
@@ -35,11 +36,11 @@ void PowerMonitor::stopMonitoring() {
 }
 
 void PowerMonitor::restorePreferences() {
-    const auto stored = platform_.preferences->text("menuBarDisplay");
+    const auto stored = platform_.preferences->text(preference_keys::menuBarDisplay);
     if (const auto display = stored ? quelby::menuBarDisplay(*stored) : std::nullopt) {
         menuBarDisplay = *display;
     }
-    launchAtLogin = platform_.preferences->flag("launchAtLogin");
+    launchAtLogin = platform_.preferences->flag(preference_keys::launchAtLogin);
 }
 
 void PowerMonitor::openHistory() {

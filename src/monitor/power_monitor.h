@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+#include "base/cycle_interval.h"
 #include "history/history_store.h"
 #include "monitor/battery_prediction.h"
 #include "monitor/published_fields.h"
@@ -18,7 +19,7 @@
 namespace quelby {
 
 struct MonitorOptions {
-    std::chrono::duration<double> interval = std::chrono::seconds(3); // from one cycle to the next
+    std::chrono::duration<double> interval = cycleInterval; // from one cycle to the next
     std::optional<HistoryAccess> history; // none: no history. Two recorders would count energy twice.
 };
 

@@ -18,7 +18,8 @@ public:
     [[nodiscard]] virtual std::optional<std::string> cpuListing() = 0;
 
     // A heading line, then a line for each process, the highest share first: the share, a blank, the
-    // executable's short name (no folder, no arguments; blanks are possible). Nothing as above.
+    // executable's short name (no folder, no arguments; blanks are possible). Nothing while
+    // the processes cannot be read.
     [[nodiscard]] virtual std::optional<std::string> topListing() = 0;
 
     // Configured logical processors, sleeping ones included; at least 1.

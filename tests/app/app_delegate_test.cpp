@@ -6,6 +6,7 @@
 
 #include "support/fake_desktop.h"
 #include "support/fake_platform.h"
+#include "ui/presentation/menu_bar_title.h"
 
 namespace quelby::app {
 namespace {
@@ -105,7 +106,7 @@ TEST_F(AppDelegateTest, SharesItsMonitorWithThePopover) {
     desktop.monitor->totalPower = 41.4;
     delegate->updateMenuBar();
     EXPECT_EQ(desktop.item->title, " 41W");
-    EXPECT_EQ(desktop.item->toolTip, "no battery, 41.4 W");
+    EXPECT_EQ(desktop.item->toolTip, menuBarToolTip(*desktop.monitor));
 }
 
 TEST_F(AppDelegateTest, WiresNothingWhereThereIsNoButton) {

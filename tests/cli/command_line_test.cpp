@@ -1,7 +1,10 @@
 #include "cli/command_line.h"
 
+#include <fmt/format.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include "base/version.h"
 
 namespace quelby::cli {
 namespace {
@@ -103,7 +106,7 @@ TEST(CommandLine, RefusesWrongUsageWithOneSentence) {
 }
 
 TEST(CommandLine, AnswersHelpAndVersionEverywhere) {
-    EXPECT_EQ(answer({"--version"}).text, "quelbyctl " QUELBY_VERSION "\n");
+    EXPECT_EQ(answer({"--version"}).text, fmt::format("quelbyctl {}\n", version()));
     EXPECT_EQ(answer({"watch", "--version"}).exitStatus, 0);
     EXPECT_THAT(answer({"--help"}).text, HasSubstr("--replay"));
     EXPECT_THAT(answer({"watch", "--help"}).text, HasSubstr("--interval"));

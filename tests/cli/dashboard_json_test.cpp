@@ -76,9 +76,9 @@ TEST_F(DashboardJsonTest, NamesTranslucentColoursWithTheirOpacity) {
 }
 
 TEST_F(DashboardJsonTest, HoldsPlaceholdersInPlaceOfRowsAndCurves) {
-    EXPECT_EQ(json()["processes"]["placeholder"]["text"], "Loading...");
+    EXPECT_EQ(json()["processes"]["placeholder"]["text"], processCard(fields).placeholder->text);
     EXPECT_FALSE(json()["processes"].contains("rows"));
-    EXPECT_EQ(json()["history"]["placeholder"]["text"]["text"], "Collecting data...");
+    EXPECT_EQ(json()["history"]["placeholder"]["text"]["text"], historyCard(fields).placeholder->text.text);
     fields.topProcesses = {{"editor", 1, 1}};
     fields.historyData = {{1, 2}, {2, 3}, {3, 4}};
     EXPECT_FALSE(json()["processes"].contains("placeholder"));
@@ -97,15 +97,18 @@ TEST_F(DashboardJsonTest, OfTheSettingsHoldsItsSectionsInTheirOrder) {
                 ElementsAre("header", "general", "calibration", "helper", "uninstall", "version", "quit"));
     EXPECT_EQ(settings()["header"]["symbol"]["symbol"], "chevron.left");
     EXPECT_EQ(settings()["general"]["launchAtLogin"]["enabled"], false);
-    EXPECT_EQ(settings()["general"]["menuBarDisplay"]["choices"].dump(),
-              R"([{"text":"Watts","selected":true},{"text":"Battery%","selected":false},)"
-              R"({"text":"mA","selected":false},{"text":"Volts","selected":false},)"
-              R"({"text":"Temp","selected":false},{"text":"Icon","selected":false}])");
-    EXPECT_EQ(settings()["calibration"]["frequency"]["choices"][2].dump(),
-              R"({"text":"1 Month","selected":true})");
+    const auto panel = settingsPanel(fields, 1'700'000'000, "en");
+    const auto choices = settings()["general"]["menuBarDisplay"]["choices"];
+    ASSERT_EQ(choices.size(), panel.general.displays.size());
+    for (std::size_t i = 0; i < choices.size(); ++i) {
+        EXPECT_EQ(choices[i],
+                  (ordered_json{{"text", panel.general.displays.at(i).text}, {"selected", i == 0}}));
+    }
+    EXPECT_EQ(settings()["calibration"]["frequency"]["choices"][2],
+              (ordered_json{{"text", panel.calibration.intervals[2].text}, {"selected", true}}));
     EXPECT_EQ(settings()["helper"]["status"]["dot"], "red");
-    EXPECT_EQ(settings()["uninstall"]["button"]["text"]["text"], "Uninstall Quelby");
-    EXPECT_EQ(settings()["version"]["text"], "Quelby v1.0");
+    EXPECT_EQ(settings()["uninstall"]["button"]["text"]["text"], panel.uninstall.button.text.text);
+    EXPECT_EQ(settings()["version"]["text"], panel.version.text);
 }
 
 } // namespace

@@ -33,5 +33,5 @@ public:
 } // namespace quelby::app
 
 extern "C" Q_DECL_EXPORT quelby::app::DashboardLibrary* quelbyMakeDashboard() {
-    return new quelby::app::QuickDashboard; // the caller's
+    return new quelby::app::QuickDashboard; // owned by the caller
 }

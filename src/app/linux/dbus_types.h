@@ -44,7 +44,7 @@ struct DBusMenuProperties {
 
 using DBusMenuPropertiesList = QList<DBusMenuProperties>;
 
-// Before any of these is sent.
+// To be called before any of these is sent or read.
 void registerDBusTypes();
 
 QDBusArgument& operator<<(QDBusArgument& argument, const DBusPicture& picture);

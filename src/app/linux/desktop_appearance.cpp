@@ -56,7 +56,7 @@ void DesktopAppearance::setBus(const std::optional<QDBusConnection>& bus) {
         return;
     }
     auto connection = *bus;
-    qRegisterMetaType<QDBusVariant>(); // the slot is found by the names of its types
+    qRegisterMetaType<QDBusVariant>(); // which the bus needs to find the slot
     connection.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
                        SLOT(settingChanged(QString, QString, QDBusVariant)));
     ask(connection, appearanceGroup, colorSchemeKey);

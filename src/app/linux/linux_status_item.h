@@ -49,7 +49,7 @@ private:
     std::optional<StatusNotifierItem> item_;
     std::unique_ptr<XEmbedItem> older_;
     std::optional<StatusNotifierWatcher> watcher_;
-    QObject owner_; // of what is done later
+    QObject owner_; // with it goes what would have been done later
 };
 
 } // namespace quelby::app

@@ -41,7 +41,7 @@ private:
     void readEvents() {
         while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
             if (isPress(*event)) {
-                const auto listener = listener_; // which may end this object
+                const auto listener = listener_; // a copy: calling it may end this object
                 listener(pointer());
                 return;
             }

@@ -14,8 +14,7 @@ struct PopoverScreen {
 };
 
 // At the item that was pressed, whole on its screen, off the edge where the item's panel is. Without a point,
-// in the corner where trays mostly are: above at the right end, and likewise where the reading direction is
-// from the right.
+// in the corner where trays mostly are: at the upper right, also where people read from right to left.
 [[nodiscard]] QPoint popoverPlace(std::optional<QPoint> item, const PopoverScreen& screen, QSize size);
 
 } // namespace quelby::app

@@ -5,6 +5,7 @@
 #include <QScreen>
 
 #include "app/linux/popover_place.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::app {
 
@@ -73,7 +74,7 @@ PopoverWindow::PopoverWindow(const DashboardWindowParts& parts, PopoverForm form
              DashboardActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
     , view_(model_, parts.appearance())
     , window_(std::make_unique<Window>(*this)) {
-    window_->setTitle(QStringLiteral("Quelby"));
+    window_->setTitle(QString::fromUtf8(words::program));
     const QSize size = view_.item().size().toSize();
     window_->setMinimumSize(size);
     window_->setMaximumSize(size);

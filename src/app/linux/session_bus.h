@@ -36,7 +36,7 @@ private:
     void tell(const std::optional<QDBusConnection>& bus) const;
 
     std::optional<QDBusConnection> connection_;
-    int connections_ = 0; // made so far; each has a name of its own
+    int connections_ = 0; // how many there were so far; Qt needs another name for each
     std::vector<Listener> listeners_;
     QTimer retry_;
 };

@@ -15,8 +15,8 @@ public:
 
     enum class Rank { first, second, alone };
 
-    // First; or second, and then the first has been asked to show itself; or alone, because the bus takes no
-    // names.
+    // Takes the service's name. A second start has asked the first one to show itself by then; one is alone
+    // where the bus gives out no names.
     [[nodiscard]] Rank claim();
 
 private:

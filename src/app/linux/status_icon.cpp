@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include "ui/presentation/metrics.h"
 #include "ui/symbols/symbol_picture.h"
 
 namespace quelby::app {
@@ -30,7 +31,7 @@ void drawSymbol(QPainter& painter, const QRectF& area, const QString& name) {
 }
 
 QFont titleFont(qreal height) {
-    QFont font(QStringLiteral("Roboto"));
+    QFont font(QString::fromUtf8(fontFamily));
     font.setPixelSize(qRound(height));
     font.setWeight(QFont::DemiBold);
     return font;

@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "app/linux/status_icon.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::app {
 
@@ -90,7 +91,7 @@ QString StatusNotifierItem::iconName() const {
         return iconFolder_ ? iconFolder_->filePath(QStringLiteral("%1.png").arg(iconNumber_)) : QString();
     case IconForm::wide:
     case IconForm::compact:
-        break; // a name would go before the picture
+        break; // hosts would prefer a name to the picture
     }
     return {};
 }
@@ -118,7 +119,7 @@ QVariantMap StatusNotifierItem::properties() const {
     QVariantMap all{
         {QStringLiteral("Category"), QStringLiteral("Hardware")},
         {QStringLiteral("Id"), QStringLiteral("quelby")},
-        {QStringLiteral("Title"), QStringLiteral("Quelby")},
+        {QStringLiteral("Title"), QString::fromUtf8(words::program)},
         {QStringLiteral("Status"), QStringLiteral("Active")},
         {QStringLiteral("WindowId"), 0},
         {QStringLiteral("IconThemePath"), QString()},
@@ -129,8 +130,9 @@ QVariantMap StatusNotifierItem::properties() const {
         {QStringLiteral("AttentionIconName"), QString()},
         {QStringLiteral("AttentionIconPixmap"), QVariant::fromValue(DBusPictures())},
         {QStringLiteral("AttentionMovieName"), QString()},
-        {QStringLiteral("ToolTip"), QVariant::fromValue(DBusToolTip{
-                                        {}, {}, QStringLiteral("Quelby"), QString::fromUtf8(look_.toolTip)})},
+        {QStringLiteral("ToolTip"),
+         QVariant::fromValue(
+             DBusToolTip{{}, {}, QString::fromUtf8(words::program), QString::fromUtf8(look_.toolTip)})},
         {QStringLiteral("ItemIsMenu"), false},
         {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(host_.wantsMenu ? menuPath : noMenu))}};
     if (host_.showsLabel) { // other hosts lose the icon where there is a label, even an empty one

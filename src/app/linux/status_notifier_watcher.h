@@ -30,7 +30,7 @@ private:
     HostListener listener_;
     QString itemService_;
     QDBusServiceWatcher watcher_;
-    QObject owner_; // of the answers that are awaited
+    QObject owner_; // with it goes who waits for an answer
 };
 
 } // namespace quelby::app

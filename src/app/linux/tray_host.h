@@ -9,7 +9,7 @@ namespace quelby::app {
 
 enum class IconForm {
     symbol,  // a square; the title stands beside it as a label
-    file,    // likewise, as a file on the disk
+    file,    // the same, read from a file on the disk
     wide,    // the symbol with the title drawn beside it
     compact, // a square with the title drawn below a small symbol
 };

@@ -2,6 +2,8 @@
 
 #include <QDBusVariant>
 
+#include "ui/presentation/words.h"
+
 namespace quelby::app {
 
 namespace {
@@ -24,8 +26,8 @@ MenuBarDisplay displayOf(int id) {
     return allMenuBarDisplays.at(static_cast<std::size_t>(id - firstDisplay));
 }
 
-QVariantMap label(const QString& text) {
-    return {{QStringLiteral("label"), text}};
+QVariantMap label(std::string_view text) {
+    return {{QStringLiteral("label"), QString::fromUtf8(text)}};
 }
 
 } // namespace
@@ -43,7 +45,7 @@ void TrayMenu::setDisplay(MenuBarDisplay display) {
 
 QVariantMap TrayMenu::propertiesOf(int id) const {
     if (isDisplay(id)) {
-        auto row = label(QString::fromUtf8(rawValue(displayOf(id))));
+        auto row = label(rawValue(displayOf(id)));
         row.insert(QStringLiteral("toggle-type"), QStringLiteral("radio"));
         row.insert(QStringLiteral("toggle-state"), displayOf(id) == display_ ? 1 : 0);
         return row;
@@ -52,11 +54,11 @@ QVariantMap TrayMenu::propertiesOf(int id) const {
     case 0:
         return {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
     case showDashboard:
-        return label(QStringLiteral("Show Dashboard"));
+        return label(words::showDashboard);
     case settings:
-        return label(QStringLiteral("Settings"));
+        return label(words::settings);
     case quit:
-        return label(QStringLiteral("Quit Quelby"));
+        return label(words::quit);
     default:
         return {{QStringLiteral("type"), QStringLiteral("separator")}};
     }
@@ -144,7 +146,7 @@ void TrayMenu::answerLayout(const QDBusMessage& message) const {
 
 void TrayMenu::answerGroupProperties(const QDBusMessage& message) const {
     auto ids = qdbus_cast<QList<int>>(message.arguments().first());
-    if (ids.isEmpty()) { // which asks for all
+    if (ids.isEmpty()) { // an empty list asks for all of them
         ids.append(0);
         const auto rows = menu().rows;
         std::transform(rows.begin(), rows.end(), std::back_inserter(ids),

@@ -10,6 +10,7 @@
 
 #include "app/linux/status_icon.h"
 #include "app/linux/x_connection.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::app {
 
@@ -111,9 +112,9 @@ private:
         const std::uint32_t versionAndFlags[] = {0, xembedMapped};
         xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window_, info, info, 32, 2,
                             versionAndFlags);
-        const std::string_view name = "Quelby";
         xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, window_, XCB_ATOM_WM_NAME,
-                            XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(name.size()), name.data());
+                            XCB_ATOM_STRING, 8, static_cast<std::uint32_t>(words::program.size()),
+                            words::program.data());
         graphics_ = xcb_generate_id(connection_.get());
         xcb_create_gc(connection_.get(), graphics_, window_, 0, nullptr);
     }
@@ -207,7 +208,7 @@ private:
     }
 
     XConnection connection_;
-    xcb_screen_t* screen_; // the connection's
+    xcb_screen_t* screen_; // owned by the connection
     Listener listener_;
     QSocketNotifier readable_;
     xcb_window_t tray_ = XCB_WINDOW_NONE;

@@ -4,12 +4,15 @@
 
 #include <QKeyEvent>
 
+#include "ui/presentation/metrics.h"
+#include "ui/presentation/words.h"
+
 namespace quelby::app {
 
 QuickDashboard::QuickDashboard(ModelMaker makeModel, std::function<void()> leave)
     : makeModel_(std::move(makeModel)), leave_(std::move(leave)) {
-    setTitle(QStringLiteral("Quelby"));
-    resize(400, 660);
+    setTitle(QString::fromUtf8(words::program));
+    resize(viewWidth, viewHeight);
 }
 
 QuickDashboard::~QuickDashboard() {

@@ -22,10 +22,10 @@ public:
     // Shows the cards.
     void open(Appearance appearance);
 
-    // The window is open, likewise below.
+    // Only while it is open.
     void setAppearance(Appearance appearance);
 
-    // Shows the settings in place of the cards.
+    // Shows the settings in place of the cards. Only while it is open.
     void showSettings();
 
     // Nobody sees the dashboard any more, so nothing is drawn or computed for it.
@@ -39,7 +39,9 @@ private:
 
     ModelMaker makeModel_;
     std::function<void()> leave_;
-    std::unique_ptr<DashboardModel> model_; // none before the first opening, likewise below
+
+    // None before the first opening.
+    std::unique_ptr<DashboardModel> model_;
     std::unique_ptr<DashboardView> view_;
 };
 

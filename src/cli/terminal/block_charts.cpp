@@ -1,19 +1,15 @@
 #include "cli/terminal/block_charts.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <numeric>
 
+#include "cli/terminal/block_cells.h"
 #include "ui/presentation/chart_scale.h"
 
 namespace quelby::cli {
 
 namespace {
-
-constexpr std::array<const char*, 9> barCells{"", "▏", "▎", "▍", "▌", "▋", "▊", "▉", "█"};
-constexpr std::array<const char*, 9> columnCells{" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
-constexpr int eighths = 8;
 
 std::string repeated(const char* cell, int count) {
     std::string cells;
@@ -59,7 +55,7 @@ Block curve(const std::vector<double>& values, int columns, int rows) {
     Block block(static_cast<std::size_t>(rows));
     const ChartScale scale(values);
     for (int column = 0; column < columns && !values.empty(); ++column) {
-        // Also the lowest value is seen.
+        // One eighth at the least, so that the lowest value is seen, too.
         const double height = scale.normalised(valueOf(values, column, columns));
         const auto filled = 1 + static_cast<int>(std::lround(height * (rows * eighths - 1)));
         const double position = columns > 1 ? static_cast<double>(column) / (columns - 1) : 0;

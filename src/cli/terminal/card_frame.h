@@ -6,7 +6,7 @@ namespace quelby::cli {
 
 struct CardText {
     Line title;      // in the frame's upper edge
-    Line atTheRight; // likewise
+    Line atTheRight; // in the frame's upper edge, at its other end
     Block content;   // as wide as contentWidth() says, or less
 };
 

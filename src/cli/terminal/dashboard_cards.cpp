@@ -9,6 +9,7 @@
 #include "cli/terminal/card_parts.h"
 #include "cli/terminal/display_width.h"
 #include "ui/presentation/history_chart.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::cli {
 
@@ -39,7 +40,7 @@ CardText text(const ChargeLimitCard& card, int columns) {
 }
 
 CardText text(const PowerBadge& badge) {
-    CardText written{.title = {{"Power", {.bold = true}}}};
+    CardText written{.title = {{std::string(words::power), {.bold = true}}}};
     const auto sign = badge.sign ? badge.sign->text : std::string();
     const auto figures = bigFigures(sign + badge.figure.text);
     for (const auto& row : figures) {

@@ -57,7 +57,7 @@ private:
 
     Platform real_;
     RecordedCycle cycle_;
-    bool helperLoaded_ = false; // as was told at the start, and holds for every cycle
+    bool helperLoaded_ = false; // asked once, at the start
 };
 
 } // namespace quelby

@@ -4,7 +4,7 @@
 //   battery       the property table, null (no battery service) or "unreadable"
 //   processors    number of logical processors
 //   cpuListing    text, or null (the lister could not be started)
-//   topListing    likewise
+//   topListing    text, or null (the lister could not be started)
 //   storageDraw   optional: 0 or 1
 //   status        optional: text of the helper's status.json
 //   helperLoaded  optional: Boolean

@@ -1,6 +1,7 @@
 // A recorded machine in place of this one.
 #pragma once
 
+#include "base/cycle_interval.h"
 #include "base/problem.h"
 #include "platform/battery_source.h"
 #include "platform/clock.h"
@@ -68,7 +69,7 @@ private:
     std::optional<RecordedCycle> next_;
     bool started_ = false;
     double clockAdvance_ = 0; // seconds that the clock is ahead of the lines' times
-    double lastStep_ = 3;     // seconds between the last two lines
+    double lastStep_ = static_cast<double>(cycleInterval.count()); // seconds between the last two lines
     RandomStorageDraw unrecordedDraws_{1};
 };
 

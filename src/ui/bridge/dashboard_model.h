@@ -83,8 +83,9 @@ public:
     Q_INVOKABLE void setChargeLimit(double percent);
     Q_INVOKABLE void installDaemon();
     Q_INVOKABLE void uninstallDaemon();
-    Q_INVOKABLE void
-    selectHistoryRange(int index); // of the range buttons; others are ignored, likewise below
+
+    // What is chosen counts from 0 in the order of its buttons; a number that no button has is ignored.
+    Q_INVOKABLE void selectHistoryRange(int index);
     Q_INVOKABLE void setLaunchAtLogin(bool enabled);
     Q_INVOKABLE void selectMenuBarDisplay(int index);
     Q_INVOKABLE void setAutoCalibrate(bool enabled);

@@ -20,10 +20,10 @@ std::optional<HoverReadOut> HistoryChartView::readOutAt(std::size_t index) const
     return historyReadOut(*points_, chartSize(), index);
 }
 
-void HistoryChartView::paintMarks(QPainter& painter) const {
+void HistoryChartView::paintMarks(QPainter& painter, const ChartStyle& style) const {
     const auto labels = historyAxisLabels(*points_);
-    painter.setFont(font(8, QFont::Normal));
-    painter.setPen(labelColor());
+    painter.setFont(fontOf(style, style.axisSize, QFont::Normal));
+    painter.setPen(style.axisColor);
     const QRectF chart(0, 0, chartSize().width, chartSize().height);
     painter.drawText(chart, Qt::AlignLeft | Qt::AlignTop, QString::fromStdString(labels.maximum));
     painter.drawText(chart, Qt::AlignLeft | Qt::AlignBottom, QString::fromStdString(labels.minimum));

@@ -29,7 +29,7 @@ private:
 
     [[nodiscard]] std::vector<ChartPoint> curve() const override;
     [[nodiscard]] std::optional<HoverReadOut> readOutAt(std::size_t index) const override;
-    void paintMarks(QPainter& painter) const override;
+    void paintMarks(QPainter& painter, const ChartStyle& style) const override;
 
     HistoryDataPointSeries points_;
 };

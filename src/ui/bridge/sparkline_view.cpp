@@ -20,7 +20,7 @@ ColorValue SparklineView::dotInk() const {
 void SparklineView::setDotColor(const QColor& color) {
     dotColor_ = color;
     update();
-    Q_EMIT appearanceChanged();
+    Q_EMIT dotColorChanged();
 }
 
 std::vector<ChartPoint> SparklineView::curve() const {
@@ -31,15 +31,15 @@ std::optional<HoverReadOut> SparklineView::readOutAt(std::size_t index) const {
     return sparklineReadOut(*samples_, chartSize(), index);
 }
 
-void SparklineView::paintMarks(QPainter& painter) const {
+void SparklineView::paintMarks(QPainter& painter, const ChartStyle& style) const {
     const auto dot = newestDot(*samples_, chartSize());
     if (!dot || hoverIndex() >= 0) {
         return;
     }
-    constexpr qreal diameter = 6;
+    const qreal radius = style.dotDiameter / 2;
     painter.setPen(Qt::NoPen);
     painter.setBrush(dotColor_);
-    painter.drawEllipse(QPointF(dot->point.x, dot->point.y), diameter / 2, diameter / 2);
+    painter.drawEllipse(QPointF(dot->point.x, dot->point.y), radius, radius);
 }
 
 } // namespace quelby

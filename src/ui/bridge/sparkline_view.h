@@ -15,7 +15,7 @@ class SparklineView : public quelby::ChartItem {
     Q_PROPERTY(
         quelby::WattsSeries samples READ samples WRITE setSamples NOTIFY samplesChanged) // W, newest last
     Q_PROPERTY(quelby::ColorValue dotInk READ dotInk NOTIFY samplesChanged)
-    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY appearanceChanged)
+    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY dotColorChanged)
 
 public:
     explicit SparklineView(QQuickItem* parent = nullptr) : ChartItem(parent) {}
@@ -33,13 +33,14 @@ public:
 
 Q_SIGNALS:
     void samplesChanged();
+    void dotColorChanged();
 
 private:
     [[nodiscard]] std::size_t count() const override { return samples_->size(); }
 
     [[nodiscard]] std::vector<ChartPoint> curve() const override;
     [[nodiscard]] std::optional<HoverReadOut> readOutAt(std::size_t index) const override;
-    void paintMarks(QPainter& painter) const override;
+    void paintMarks(QPainter& painter, const ChartStyle& style) const override;
 
     WattsSeries samples_;
     QColor dotColor_;

@@ -26,7 +26,10 @@ StopLevel stopLevel(const PublishedFields& fields) {
     const auto status = statusText(fields);
     const auto limit = truncated(fields.chargeLimitPercent);
     return {.stopAt = {secondary("Stop at:"), Text{fmt::format("{}%", limit), ColorName::green}},
-            .slider = {.value = fields.chargeLimitPercent, .from = 20, .to = 100, .step = 5},
+            .slider = {.value = fields.chargeLimitPercent,
+                       .from = stopRange.lowest,
+                       .to = stopRange.highest,
+                       .step = stopRange.step},
             // No label for 40 %: the scale names where people stop.
             .scale = {secondary("20%"), secondary("60%"), secondary("80%"), secondary("100%")},
             .status = {status.color, status}};

@@ -57,6 +57,15 @@ struct ChargeLimitCard {
     QUELBY_RECORD(ChargeLimitCard)
 };
 
+// What a person may choose as the level to stop at, in % of full charge.
+struct StopRange {
+    Int lowest = 20;
+    Int highest = 100;
+    Int step = 5;
+};
+
+inline constexpr StopRange stopRange;
+
 [[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields);
 
 } // namespace quelby

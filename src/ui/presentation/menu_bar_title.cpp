@@ -4,6 +4,9 @@
 
 #include <fmt/format.h>
 
+#include "base/utf8.h"
+#include "ui/presentation/cycle_line.h"
+
 namespace quelby {
 
 namespace {
@@ -69,6 +72,14 @@ std::string menuBarTitle(const PublishedFields& fields, MenuBarDisplay display) 
         return {};
     }
     return {};
+}
+
+std::string menuBarToolTip(const PublishedFields& fields) {
+    return printable(fmt::format("{}, {:.1f} W", batteryText(fields), fields.totalPower.get()));
+}
+
+std::string statusBarToolTip(const PublishedFields& fields) {
+    return fmt::format("{}, CPU {:.1f} %", menuBarToolTip(fields), fields.cpuUsage.get());
 }
 
 } // namespace quelby

@@ -17,4 +17,10 @@ namespace quelby {
 // that.
 [[nodiscard]] std::string menuBarTitle(const PublishedFields& fields, MenuBarDisplay display);
 
+// What is said of the symbol while the pointer rests on it: "82 % discharging, ~3h 12m remaining, 12.3 W".
+[[nodiscard]] std::string menuBarToolTip(const PublishedFields& fields);
+
+// The same with the load, for bars that lead to no dashboard.
+[[nodiscard]] std::string statusBarToolTip(const PublishedFields& fields);
+
 } // namespace quelby

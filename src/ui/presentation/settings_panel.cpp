@@ -2,7 +2,9 @@
 
 #include <fmt/format.h>
 
+#include "base/version.h"
 #include "ui/presentation/relative_date.h"
+#include "ui/presentation/words.h"
 
 namespace quelby {
 
@@ -101,7 +103,7 @@ SettingsPanel settingsPanel(const PublishedFields& fields, Date now, const std::
             .calibration = calibrationSection(fields, now, language),
             .helper = helperSection(fields),
             .uninstall = uninstallSection(),
-            .version = secondary("Quelby v1.0"),
+            .version = secondary(fmt::format("{} v{}", words::program, version())),
             .quit = quitButton()};
 }
 

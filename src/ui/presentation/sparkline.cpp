@@ -4,13 +4,14 @@
 
 #include <fmt/format.h>
 
+#include "base/cycle_interval.h"
+
 namespace quelby {
 
 namespace {
 
-constexpr std::size_t secondsPerSample = 3; // whatever interval the samples were really taken at
-constexpr double labelMargin = 50;          // points
-constexpr double labelAbove = 18;           // points
+constexpr double labelMargin = 50; // points
+constexpr double labelAbove = 18;  // points
 
 ChartPoint pointOf(const std::vector<double>& samples, const ChartScale& scale, ChartSize size,
                    std::size_t index) {
@@ -48,7 +49,7 @@ std::optional<HoverReadOut> sparklineReadOut(const std::vector<double>& samples,
         return std::nullopt;
     }
     const auto point = pointOf(samples, ChartScale(samples), size, index);
-    const auto age = (samples.size() - 1 - index) * secondsPerSample;
+    const auto age = (samples.size() - 1 - index) * static_cast<std::size_t>(cycleInterval.count());
     return HoverReadOut{.point = point,
                         .label = fmt::format("{:.1f}W  {}", samples[index], ageText(age)),
                         .labelCentre = labelCentre(point, size.width, labelMargin, labelAbove)};

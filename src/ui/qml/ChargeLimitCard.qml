@@ -44,7 +44,7 @@ CardChrome {
         symbol: card.content.offer.installButton.symbol
         label: card.content.offer.installButton.text.text
         ink: Theme.ink(card.content.offer.installButton.text.color)
-        surface: pressed || hovered ? Qt.darker(Theme.fills[Ink.Accent], 1.15) : Theme.fills[Ink.Accent]
+        surface: pressed || hovered ? Theme.accentPressed : Theme.fills[Ink.Accent]
         Layout.fillWidth: true
         Layout.maximumWidth: Math.ceil(implicitWidth)
         onClicked: card.installWanted()

@@ -28,10 +28,7 @@ Item {
     Binding { target: frame.chart; property: "y"; value: -frame.chart.overhang }
     Binding { target: frame.chart; property: "width"; value: frame.width + 2 * frame.chart.overhang }
     Binding { target: frame.chart; property: "height"; value: frame.height + 2 * frame.chart.overhang }
-    Binding { target: frame.chart; property: "fontFamily"; value: Theme.family }
-    Binding { target: frame.chart; property: "curveColors"; value: Theme.curveColors }
-    Binding { target: frame.chart; property: "labelColor"; value: Theme.inks[Ink.Secondary] }
-    Binding { target: frame.chart; property: "haloColor"; value: Theme.hoverHalo }
+    Binding { target: frame.chart; property: "style"; value: Theme.chart }
 
     FocusRing {
         visible: frame.activeFocus

@@ -21,7 +21,7 @@ T.RadioButton {
 
     contentItem: Text {
         text: button.choice.text
-        color: button.choice.selected ? "white"
+        color: button.choice.selected ? Theme.onFill
                                       : Theme.inks[button.pressed || button.hovered ? Ink.Primary : Ink.Secondary]
         font.family: Theme.family
         font.pixelSize: button.size

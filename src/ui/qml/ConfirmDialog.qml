@@ -49,7 +49,7 @@ FocusScope {
 
     Rectangle {
         anchors.centerIn: parent
-        width: parent.width - 8 * Theme.viewPadding / 2
+        width: parent.width - 4 * Theme.viewPadding
         height: column.implicitHeight + 2 * Theme.viewPadding
         radius: Theme.cardRadius
         color: Theme.panel
@@ -105,8 +105,8 @@ FocusScope {
                     id: action
 
                     label: dialog.content.action
-                    ink: "white"
-                    surface: dialog.content.destructive ? "#c9302c" : Theme.fills[Ink.Accent]
+                    ink: Theme.onFill
+                    surface: dialog.content.destructive ? Theme.destructive : Theme.fills[Ink.Accent]
                     onClicked: dialog.answer(true)
                     Layout.fillWidth: true
                     Layout.maximumWidth: Math.ceil(implicitWidth)

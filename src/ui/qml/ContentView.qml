@@ -10,8 +10,11 @@ FocusScope {
     id: view
 
     required property DashboardModel monitor
-    required property bool dark // what the desktop likes, likewise below
+
+    // What the desktop likes.
+    required property bool dark
     required property bool animated
+
     property bool showSettings: false
     property bool showUninstallConfirm: false
     property alias scrollTop: scroll.contentY

@@ -21,7 +21,7 @@ RowLayout {
     PlainButton {
         id: back
 
-        name: "Back"
+        name: Words.back
         visible: header.inSettings
         padding: Theme.unit
         onClicked: header.settingsToggled()
@@ -48,7 +48,7 @@ RowLayout {
     }
 
     PlainButton {
-        name: header.inSettings ? "Close Settings" : "Settings"
+        name: header.inSettings ? Words.closeSettings : Words.settings
         padding: Theme.unit
         onClicked: header.settingsToggled()
 

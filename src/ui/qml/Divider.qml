@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 
 Rectangle {
-    implicitHeight: Theme.unit / 2
+    implicitHeight: Theme.hairline
     color: Theme.divider
     Layout.fillWidth: true
 }

@@ -58,10 +58,7 @@ CardChrome {
 
         chart: HistoryChartView {
             points: card.content.points
-            areaColors: [
-                Theme.translucent(Theme.fills[Ink.Blue], 0.3), Theme.translucent(Theme.fills[Ink.Blue], 0.05),
-                Theme.translucent(Theme.fills[Ink.Blue], 0)
-            ]
+            areaColors: Theme.historyArea
         }
     }
 

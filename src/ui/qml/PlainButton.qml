@@ -10,7 +10,7 @@ T.AbstractButton {
 
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
-    opacity: pressed ? 0.6 : 1
+    opacity: pressed ? Theme.pressedOpacity : 1
     Accessible.name: name
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()

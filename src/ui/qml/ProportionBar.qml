@@ -10,7 +10,7 @@ Item {
     property bool graded: false // from a pale beginning
 
     readonly property color full: Theme.fill(content.color)
-    readonly property color pale: graded ? Theme.translucent(full, 0.55) : full
+    readonly property color pale: graded ? Theme.translucent(full, Theme.paleOpacity) : full
     property real fraction: content.fraction // on its way to the content's
 
     implicitHeight: Theme.barHeight

@@ -15,6 +15,6 @@ T.ScrollBar {
         implicitWidth: 3 * Theme.unit
         radius: width / 2
         color: Theme.controlPressed
-        opacity: bar.pressed || bar.hovered ? 1 : 0.7
+        opacity: bar.pressed || bar.hovered ? 1 : Theme.restingOpacity
     }
 }

@@ -64,9 +64,9 @@ T.Slider {
         width: 8 * Theme.unit
         height: width
         radius: width / 2
-        color: slider.pressed ? "#e4e4e8" : "white"
-        border.color: "#33000000"
-        border.width: 1
+        color: slider.pressed ? Theme.knobPressed : Theme.knob
+        border.color: Theme.knobEdge
+        border.width: Theme.hairline
 
         FocusRing {
             visible: slider.visualFocus

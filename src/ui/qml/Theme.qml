@@ -14,8 +14,8 @@ QtObject {
     // All sizes are multiples of this, in points.
     readonly property real unit: 2
 
-    readonly property real viewWidth: 200 * unit
-    readonly property real viewHeight: 330 * unit
+    readonly property real viewWidth: Metrics.viewWidth
+    readonly property real viewHeight: Metrics.viewHeight
     readonly property real viewPadding: 8 * unit
     readonly property real viewSpacing: 7 * unit
     readonly property real cardPadding: 6 * unit
@@ -24,9 +24,9 @@ QtObject {
     readonly property real barHeight: 4 * unit
     readonly property real levelBarHeight: 5 * unit
     readonly property real focusWidth: unit
+    readonly property real hairline: unit / 2
 
-    // Its digits are all of one width, so that figures do not dance.
-    readonly property string family: "Roboto"
+    readonly property string family: Metrics.fontFamily
     readonly property string starFamily: "DejaVu Sans"
 
     readonly property real hugeSize: 36
@@ -52,7 +52,16 @@ QtObject {
     readonly property color scrim: dark ? "#99000000" : "#59000000"
     readonly property color panel: dark ? "#2e2e33" : "#fafafc"
     readonly property color focus: dark ? "#7fb0ff" : "#2f6feb"
-    readonly property color hoverHalo: dark ? "#00000000" : "#40000000"
+    readonly property color onFill: inks[Ink.White] // text on a coloured surface
+    readonly property color accentPressed: Qt.darker(fills[Ink.Accent], 1.15)
+    readonly property color destructive: "#c9302c"
+    readonly property color knob: "#ffffff"
+    readonly property color knobPressed: "#e4e4e8"
+    readonly property color knobEdge: "#33000000"
+
+    readonly property real pressedOpacity: 0.6
+    readonly property real restingOpacity: 0.7 // of what comes out fully under the pointer
+    readonly property real paleOpacity: 0.55 // where a graded bar begins
 
     // In the order of Ink.Name. Text has to be read, so it is darker than the surfaces of the same name in the
     // light, and lighter in the dark.
@@ -67,8 +76,33 @@ QtObject {
         : ["#1c1c1f", "#8a8a93", "#34b25f", "#e3b01a", "#ee8a2d", "#e5544c", "#3f8cf0", "#a868dd", "#21a9c0",
            "#2f6feb", "#ffffff"]
 
-    readonly property list<color> curveColors: [
-        fills[Ink.Green], fills[Ink.Yellow], fills[Ink.Orange], fills[Ink.Red]
+    readonly property ChartStyle chart: ChartStyle {
+        fontFamily: theme.family
+        curveColors: [theme.fills[Ink.Green], theme.fills[Ink.Yellow], theme.fills[Ink.Orange], theme.fills[Ink.Red]]
+        curveWidth: theme.unit
+        dotDiameter: 3 * theme.unit
+        axisColor: theme.inks[Ink.Secondary]
+        axisSize: 8
+        lineColor: "#66ffffff"
+        lineWidth: theme.hairline
+        circleColor: "#ffffff"
+        circleDiameter: 3.5 * theme.unit
+        haloColor: theme.dark ? "#00000000" : "#40000000"
+        haloWidth: theme.unit
+        labelColor: "#ffffff"
+        labelBackground: "#cc000000"
+        labelSize: theme.caption2Size
+        labelHorizontalPadding: 3 * theme.unit
+        labelVerticalPadding: 1.5 * theme.unit
+        labelRadius: 2 * theme.unit
+    }
+
+    // From the top to the bottom of the area below a curve.
+    readonly property list<color> trendArea: [
+        translucent(fills[Ink.Green], 0.3), translucent(fills[Ink.Yellow], 0.1), translucent(fills[Ink.Yellow], 0)
+    ]
+    readonly property list<color> historyArea: [
+        translucent(fills[Ink.Blue], 0.3), translucent(fills[Ink.Blue], 0.05), translucent(fills[Ink.Blue], 0)
     ]
 
     // Of text.

@@ -45,7 +45,7 @@ T.CheckBox {
             width: parent.height - 2 * gap
             height: width
             radius: height / 2
-            color: "white"
+            color: Theme.knob
 
             Behavior on x { NumberAnimation { duration: Theme.fade } }
         }

@@ -24,10 +24,7 @@ CardChrome {
         chart: SparklineView {
             samples: card.content.samples
             dotColor: Theme.fill(dotInk)
-            areaColors: [
-                Theme.translucent(Theme.fills[Ink.Green], 0.3), Theme.translucent(Theme.fills[Ink.Yellow], 0.1),
-                Theme.translucent(Theme.fills[Ink.Yellow], 0)
-            ]
+            areaColors: Theme.trendArea
         }
     }
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "app/linux/support/bus_peer.h"
+#include "ui/presentation/words.h"
 
 namespace quelby::app {
 namespace {
@@ -92,9 +93,9 @@ protected:
 };
 
 TEST_F(TrayMenuTest, HasTheDashboardTheDisplaysTheSettingsAndTheWayOut) {
-    EXPECT_THAT(rows(), ElementsAre("Show Dashboard", "separator", "* Power (W)", "Battery %", "Current (mA)",
-                                    "Voltage (V)", "Temperature", "Icon Only", "separator", "Settings",
-                                    "Quit Quelby"));
+    EXPECT_THAT(rows(), ElementsAre(words::showDashboard, "separator", "* Power (W)", "Battery %",
+                                    "Current (mA)", "Voltage (V)", "Temperature", "Icon Only", "separator",
+                                    words::settings, words::quit));
 }
 
 TEST_F(TrayMenuTest, MarksTheDisplaysAsChoicesOfWhichOneHolds) {
@@ -149,7 +150,7 @@ TEST_F(TrayMenuTest, TakesSeveralEventsAtOnce) {
 TEST_F(TrayMenuTest, GivesOneRowWithoutTheOthers) {
     const auto row = layout(4);
     EXPECT_EQ(row.id, 4);
-    EXPECT_EQ(textOf(row.properties, "label"), "Settings");
+    EXPECT_EQ(textOf(row.properties, "label"), words::settings);
     EXPECT_THAT(row.rows, IsEmpty());
 }
 
@@ -161,14 +162,15 @@ TEST_F(TrayMenuTest, GivesThePropertiesOfTheRowsThatAreAskedForOrOfAll) {
     const auto two = properties({5, 10});
     ASSERT_THAT(two, SizeIs(2));
     EXPECT_EQ(two[0].id, 5);
-    EXPECT_EQ(textOf(two[0].properties, "label"), "Quit Quelby");
+    EXPECT_EQ(textOf(two[0].properties, "label"), words::quit);
     EXPECT_EQ(textOf(two[1].properties, "toggle-type"), "radio");
     EXPECT_THAT(properties({}), SizeIs(12));
 }
 
 TEST_F(TrayMenuTest, GivesOneProperty) {
     const auto answer = call("GetProperty", {4, "label"});
-    EXPECT_EQ(answer.arguments().value(0).value<QDBusVariant>().variant().toString(), "Settings");
+    EXPECT_EQ(answer.arguments().value(0).value<QDBusVariant>().variant().toString().toStdString(),
+              words::settings);
 }
 
 TEST_F(TrayMenuTest, NeedsNothingToBeReadBeforeItIsShown) {

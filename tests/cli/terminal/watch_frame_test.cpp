@@ -64,11 +64,15 @@ TEST_F(WatchFrameTest, BeginsWithTheClockAndEndsWithTheKeys) {
 
 TEST_F(WatchFrameTest, ShowsEveryCardWhereThereIsRoom) {
     const auto shown = lines({.size = {160, 60}});
-    for (const auto* text : {"Charge Limit", "Stop at: 80%", "Battery Drain", "55%", "Component Power",
-                             "TOTAL", "editor", "12W now", "10W min", "Consumption History", "Avg 0.0W",
-                             "Efficiency", "★★☆☆☆", "Battery Details", "healthy"}) {
-        EXPECT_THAT(shown, Contains(HasSubstr(text)));
+    const auto said = dashboard(fields, 1'700'000'000);
+    for (const auto& text : {said.chargeLimit->title, said.chargeLimit->stopLevel->stopAt[1],
+                             said.powerBadge.caption, said.battery->level, said.components.title,
+                             said.components.total.label, said.processes.rows[0].name, said.trend->now,
+                             said.trend->min, said.history.title, said.history.badges[0].value,
+                             said.efficiency.title, said.details->title, *said.details->rows[3].note}) {
+        EXPECT_THAT(shown, Contains(HasSubstr(text.text)));
     }
+    EXPECT_THAT(shown, Contains(HasSubstr(said.efficiency.stars)));
 }
 
 TEST_F(WatchFrameTest, ScrollsToTheEndAndNoFurther) {
@@ -91,28 +95,31 @@ TEST_F(WatchFrameTest, SaysThatThereIsMoreBelow) {
 TEST_F(WatchFrameTest, ShowsTheKeysInPlaceOfTheCards) {
     const auto shown = lines({.size = {80, 24}, .help = true});
     EXPECT_THAT(shown, Contains(HasSubstr("history of 30 minutes, 1 hour, 24 hours, 7 days")));
-    EXPECT_THAT(shown, Each(Not(HasSubstr("Battery"))));
+    EXPECT_THAT(shown, Each(Not(HasSubstr(powerBadge(fields).caption.text))));
 }
 
 TEST_F(WatchFrameTest, LeavesOutWhatADesktopDoesNotHave) {
+    const auto ofALaptop = dashboard(fields, 1'700'000'000);
     fields.hasBattery = false;
     fields.powerHistory = {10, 20};
     const auto shown = lines({.size = {160, 60}});
-    for (const auto* text : {"Charge Limit", "Health", "Battery Details", "Live Power Trend"}) {
-        EXPECT_THAT(shown, Each(Not(HasSubstr(text))));
+    for (const auto& text : {ofALaptop.chargeLimit->title, ofALaptop.battery->health.text,
+                             ofALaptop.details->title, ofALaptop.trend->title}) {
+        EXPECT_THAT(shown, Each(Not(HasSubstr(text.text))));
     }
 }
 
 TEST_F(WatchFrameTest, OffersTheHelperWhereThereIsNone) {
+    const auto stopAt = chargeLimitCard(fields).stopLevel->stopAt[0].text;
     fields.daemonInstalled = false;
     const auto shown = lines({.size = {80, 60}});
-    EXPECT_THAT(shown, Contains(HasSubstr("Install Helper (one-time password)")));
-    EXPECT_THAT(shown, Each(Not(HasSubstr("Stop at"))));
+    EXPECT_THAT(shown, Contains(HasSubstr(chargeLimitCard(fields).offer->installButton.text.text)));
+    EXPECT_THAT(shown, Each(Not(HasSubstr(stopAt))));
 }
 
 TEST_F(WatchFrameTest, SaysWhatTheHistoryWaitsFor) {
     fields.historyData = {};
-    EXPECT_THAT(lines({.size = {80, 80}}), Contains(HasSubstr("Collecting data...")));
+    EXPECT_THAT(lines({.size = {80, 80}}), Contains(HasSubstr(historyCard(fields).placeholder->text.text)));
 }
 
 TEST_F(WatchFrameTest, ShowsNoNameThatATerminalWouldObey) {

@@ -1,3 +1,5 @@
+#include <memory>
+
 #include <QHoverEvent>
 #include <QImage>
 #include <QPainter>
@@ -18,12 +20,31 @@ constexpr int height = 60;
 const QList<QColor> curveColors{Qt::green, Qt::yellow, QColor(255, 128, 0), Qt::red};
 const QColor areaColor(0, 0, 255, 100);
 
-template <typename Chart>
-void setUp(Chart& chart) {
+void fill(ChartStyle& style) {
+    style.curveColors = curveColors;
+    style.curveWidth = 2;
+    style.dotDiameter = 6;
+    style.axisColor = Qt::black;
+    style.axisSize = 8;
+    style.lineColor = QColor(255, 255, 255, 102);
+    style.lineWidth = 1;
+    style.circleColor = Qt::white;
+    style.circleDiameter = 7;
+    style.haloColor = Qt::transparent;
+    style.haloWidth = 2;
+    style.labelColor = Qt::white;
+    style.labelBackground = QColor(0, 0, 0, 204);
+    style.labelSize = 10;
+    style.labelHorizontalPadding = 6;
+    style.labelVerticalPadding = 3;
+    style.labelRadius = 4;
+}
+
+void setUp(ChartItem& chart, ChartStyle& style) {
+    fill(style);
     chart.setSize({width + 2 * overhang, height + 2 * overhang});
-    chart.setCurveColors(curveColors);
+    chart.setStyle(&style);
     chart.setAreaColors({areaColor, areaColor});
-    chart.setLabelColor(Qt::black);
 }
 
 QImage painted(ChartItem& chart) {
@@ -66,23 +87,25 @@ void leave(ChartItem& chart) {
 class Sparkline : public testing::Test {
 protected:
     Sparkline() {
-        setUp(chart);
+        setUp(chart, style);
         chart.setDotColor(Qt::magenta);
         chart.setSamples(WattsSeries({5, 5, 5, 5, 5}));
     }
 
+    ChartStyle style;
     SparklineView chart;
 };
 
 class HistoryChart : public testing::Test {
 protected:
     HistoryChart() {
-        setUp(chart);
+        setUp(chart, style);
         chart.setPoints(
             HistoryDataPointSeries({{1'700'000'000, 10}, {1'700'000'060, 30}, {1'700'000'120, 10}}));
     }
 
     TimeZone zone{"UTC0"};
+    ChartStyle style;
     HistoryChartView chart;
 };
 
@@ -195,11 +218,18 @@ TEST_F(Sparkline, ShowsALineACircleAndALabelWhereItIsLookedAt) {
 }
 
 TEST_F(Sparkline, SetsItsWhiteLineOffFromWhatIsLight) {
-    chart.setHaloColor(Qt::cyan);
+    style.haloColor = Qt::cyan;
     pointAt(chart, 188);
     const auto halo = at(painted(chart), 187, 10);
     EXPECT_EQ(halo.alpha(), 255);
     EXPECT_LT(halo.red(), 100);
+}
+
+TEST_F(Sparkline, ShowsNothingWithoutAStyle) {
+    auto passing = std::make_unique<ChartStyle>();
+    chart.setStyle(passing.get());
+    passing.reset();
+    EXPECT_TRUE(isEmpty(painted(chart)));
 }
 
 TEST_F(Sparkline, ShowsNothingWithoutSamples) {

@@ -195,14 +195,14 @@ TEST_F(DashboardModelTest, MakesOnlyTheSideThatIsShown) {
     model.setSettingsShown(true);
     EXPECT_THAT(std::exchange(notifications, {}),
                 UnorderedElementsAre(Pair("header", 1), Pair("settings", 1)));
-    EXPECT_EQ(model.header()->title.text, "Settings");
+    EXPECT_EQ(model.header()->title, settingsHeader().title);
     EXPECT_FALSE(model.header()->clock.has_value());
     monitor.batteryPercent = 12;
     EXPECT_THAT(atTheEndOfTheTurn(), IsEmpty());
     monitor.launchAtLogin = true;
     EXPECT_THAT(atTheEndOfTheTurn(), ElementsAre(Pair("settings", 1)));
     model.setSettingsShown(false);
-    EXPECT_EQ(model.header()->title.text, "Quelby");
+    EXPECT_EQ(model.header()->title, dashboardHeader(0).title);
     EXPECT_EQ(model.battery()->level.text, "12%");
 }
 
@@ -215,7 +215,7 @@ TEST_F(DashboardModelTest, ShowsTheSettingsOnlyOnceSomebodyWatches) {
     EXPECT_TRUE(model.areSettingsShown());
     EXPECT_EQ(model.settings(), SettingsPanelValue());
     model.setWatched(true);
-    EXPECT_EQ(model.settings()->version.text, "Quelby v1.0");
+    EXPECT_EQ(model.settings()->version, settingsPanel(monitor, 0, "en").version);
 }
 
 TEST_F(DashboardModelTest, FollowsTheChargingTipOnEitherSide) {

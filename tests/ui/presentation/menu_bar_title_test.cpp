@@ -118,5 +118,17 @@ TEST(MenuBarSymbol, OfTheWholeGridOfStatesIsTheFirstThatApplies) {
     }
 }
 
+TEST(MenuBarToolTip, SaysBatteryAndPower) {
+    PublishedFields fields;
+    fields.batteryPercent = 82;
+    fields.predictedTime = "~3h 12m\nremaining";
+    fields.totalPower = 12.34;
+    fields.cpuUsage = 7.5;
+    EXPECT_EQ(menuBarToolTip(fields), "82 % discharging, ~3h 12m?remaining, 12.3 W");
+    EXPECT_EQ(statusBarToolTip(fields), "82 % discharging, ~3h 12m?remaining, 12.3 W, CPU 7.5 %");
+    fields.hasBattery = false;
+    EXPECT_EQ(menuBarToolTip(fields), "no battery, 12.3 W");
+}
+
 } // namespace
 } // namespace quelby

@@ -58,6 +58,28 @@ TEST(QmlRules, NoFileJoinsTexts) {
     }
 }
 
+TEST(QmlRules, NoFileSpeaks) {
+    static const std::regex words(R"("[^"]*[ A-Z][^"]*")");
+    static const std::regex nameOfAThing(R"(property: ")"); // of C++, which is spelt as there
+    for (const auto& line : everyLine()) {
+        if (line.place.rfind("Theme.qml", 0) != 0 && !std::regex_search(line.code, nameOfAThing)) {
+            EXPECT_FALSE(std::regex_search(line.code, words)) << line.place << ": " << line.code;
+        }
+    }
+}
+
+TEST(QmlRules, NoFileButTheThemeMakesAColour) {
+    static const std::regex color(
+        R"("#[0-9a-fA-F]+"|[cC]olor: "(?!transparent)|Qt\.(rgba|hsla|hsva|darker|lighter|tint|alpha))");
+    static const std::regex opacity(R"(translucent\([^,]*, [0-9]|opacity:.*\b0\.[0-9])");
+    for (const auto& line : everyLine()) {
+        if (line.place.rfind("Theme.qml", 0) != 0) {
+            EXPECT_FALSE(std::regex_search(line.code, color)) << line.place << ": " << line.code;
+            EXPECT_FALSE(std::regex_search(line.code, opacity)) << line.place << ": " << line.code;
+        }
+    }
+}
+
 // Numbers that are compared with are thresholds, unless they count what there is or measure what is drawn.
 TEST(QmlRules, NoFileDecidesByANumber) {
     static const std::regex comparison(R"(([\w.]+)\s*(?:[<>]=?|[!=]==?)\s*-?\d)");

@@ -1,5 +1,6 @@
 import QtQuick
 import Quelby
+import Quelby.Bridge
 
 DashboardTestCase {
     name: "Controls"
@@ -16,7 +17,7 @@ DashboardTestCase {
     }
 
     function limitSwitch() {
-        return named(ToggleSwitch, "Charge Limit")
+        return named(ToggleSwitch, said.chargeLimit.title.text)
     }
 
     function test_chargeLimitIsSwitched_data() {
@@ -57,13 +58,14 @@ DashboardTestCase {
     function test_helperIsInstalledFromTheCard(way) {
         set("daemonInstalled", false)
         compare(all(StepSlider).length, 0)
+        const install = said.chargeLimit.offer.installButton.text.text
         madeUp.administratorAgrees = false
-        way.act(named(ActionButton, "Install Helper (one-time password)"))
-        verify(has("Install Helper (one-time password)"))
+        way.act(named(ActionButton, install))
+        verify(has(install))
         madeUp.administratorAgrees = true
-        way.act(named(ActionButton, "Install Helper (one-time password)"))
+        way.act(named(ActionButton, install))
         compare(madeUp.scripts.length, 2)
-        verify(!has("Install Helper (one-time password)"))
+        verify(!has(install))
         compare(all(StepSlider).length, 1)
     }
 
@@ -86,9 +88,10 @@ DashboardTestCase {
 
     function test_programIsStartedAtLogin(way) {
         showSettings()
-        way.act(named(ToggleSwitch, "Launch at Login"))
-        verify(named(ToggleSwitch, "Launch at Login").on)
-        way.act(named(ToggleSwitch, "Launch at Login"))
+        const launch = said.settings.general.launchAtLogin.title.text
+        way.act(named(ToggleSwitch, launch))
+        verify(named(ToggleSwitch, launch).on)
+        way.act(named(ToggleSwitch, launch))
         compare(madeUp.loginWishes, ["register", "unregister"])
     }
 
@@ -98,14 +101,11 @@ DashboardTestCase {
 
     function test_aDisplayIsChosen(way) {
         showSettings()
-        const displays = {
-            "Battery%": "Battery %", "mA": "Current (mA)", "Volts": "Voltage (V)", "Temp": "Temperature",
-            "Icon": "Icon Only", "Watts": "Power (W)"
-        }
-        for (const label in displays) {
-            way.act(named(ChoiceButton, label))
-            compare(madeUp.field("menuBarDisplay"), displays[label])
-            verify(named(ChoiceButton, label).choice.selected)
+        const displays = ["Power (W)", "Battery %", "Current (mA)", "Voltage (V)", "Temperature", "Icon Only"]
+        for (const index of [1, 2, 3, 4, 5, 0]) {
+            way.act(choice(GeneralSection, index))
+            compare(madeUp.field("menuBarDisplay"), displays[index])
+            verify(choice(GeneralSection, index).choice.selected)
         }
     }
 
@@ -115,9 +115,10 @@ DashboardTestCase {
 
     function test_calibrationIsSwitched(way) {
         showSettings()
-        way.act(named(ToggleSwitch, "Auto Calibrate"))
+        const calibrate = said.settings.calibration.autoCalibrate.title.text
+        way.act(named(ToggleSwitch, calibrate))
         verify(!config().calibrationEnabled)
-        way.act(named(ToggleSwitch, "Auto Calibrate"))
+        way.act(named(ToggleSwitch, calibrate))
         verify(config().calibrationEnabled)
         compare(config().calibrationIntervalDays, 30)
     }
@@ -128,13 +129,12 @@ DashboardTestCase {
 
     function test_anIntervalIsChosenWhichSwitchesTheCalibrationOn(way) {
         showSettings()
-        const intervals = { "1 Week": 7, "2 Weeks": 14, "1 Month": 30, "2 Months": 60 }
-        for (const label in intervals) {
+        for (const [index, days] of [7, 14, 30, 60].entries()) {
             set("calibrationEnabled", false)
-            way.act(named(ChoiceButton, label))
-            compare(config().calibrationIntervalDays, intervals[label])
+            way.act(choice(CalibrationSection, index))
+            compare(config().calibrationIntervalDays, days)
             verify(config().calibrationEnabled)
-            verify(named(ToggleSwitch, "Auto Calibrate").on)
+            verify(one(ToggleSwitch, one(CalibrationSection)).on)
         }
     }
 
@@ -144,12 +144,14 @@ DashboardTestCase {
 
     function test_helperIsUninstalledAndInstalledAgain(way) {
         showSettings()
-        verify(has("Helper installed & running"))
-        way.act(named(ActionButton, "Uninstall"))
-        verify(has("Helper not installed"))
+        const installed = said.settings.helper.status.text.text
+        verify(has(installed))
+        way.act(named(ActionButton, said.settings.helper.button.text))
+        verify(!has(installed))
+        verify(has(said.settings.helper.status.text.text))
         compare(madeUp.field("chargeLimitEnabled"), false)
-        way.act(named(ActionButton, "Install"))
-        verify(has("Helper installed & running"))
+        way.act(named(ActionButton, said.settings.helper.button.text))
+        verify(has(installed))
         compare(madeUp.scripts.length, 2)
     }
 
@@ -166,7 +168,7 @@ DashboardTestCase {
     }
 
     function test_aButtonGivesWayUnderThePointer() {
-        const button = named(PlainButton, "Settings")
+        const button = named(PlainButton, Words.settings)
         mousePress(button)
         verify(button.opacity < 1)
         mouseMove(button, -40, 60)

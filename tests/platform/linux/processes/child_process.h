@@ -17,14 +17,14 @@ public:
     // Returns once the body has closed the descriptor that it is handed, which running a program does, too.
     template <typename Body>
     explicit ChildProcess(const Body& body) {
-        Pipe started;
+        Pipe started = makePipe();
         pid_ = quelby::started(::fork());
         if (pid_ == 0) {
-            body(std::move(started.writing));
+            body(std::move(started.writeEnd));
             ::_exit(0);
         }
-        started.writing.close();
-        waitForEnd(started.reading);
+        started.writeEnd.close();
+        waitForEnd(started.readEnd);
     }
 
     ChildProcess(const ChildProcess&) = delete;

@@ -89,18 +89,18 @@ TEST_F(LivingProcesses, StayAtZeroWhileTheySleep) {
 }
 
 TEST_F(LivingProcesses, ChangeTheirNames) {
-    Pipe go;
+    Pipe go = makePipe();
     const auto before = uniqueName("old");
     const auto after = uniqueName("new");
     const ChildProcess child([&](FileDescriptor ready) {
-        go.writing.close();
+        go.writeEnd.close();
         ::prctl(PR_SET_NAME, before.c_str());
         ready.close();
-        waitForEnd(go.reading);
+        waitForEnd(go.readEnd);
         restingAs(after)({});
     });
     EXPECT_THAT(look(), has(before));
-    go.writing.close();
+    go.writeEnd.close();
     EXPECT_TRUE(looksUntil([&] { return testing::Value(look(), has(after)); }));
     EXPECT_THAT(look(), Not(has(before)));
 }
@@ -127,7 +127,7 @@ public:
 
     void run(const char* argument) {
         child_.emplace([&](const FileDescriptor&) {
-            ::dup2(input_.reading.number(), STDIN_FILENO);
+            ::dup2(input_.readEnd.number(), STDIN_FILENO);
             ::execl(program().c_str(), argument, nullptr);
             ::_exit(1);
         });
@@ -136,7 +136,7 @@ public:
 private:
     std::filesystem::path folder_;
     std::filesystem::path program_;
-    Pipe input_; // nothing is ever written
+    Pipe input_ = makePipe(); // nothing is ever written
     std::optional<ChildProcess> child_;
 };
 

@@ -1,4 +1,4 @@
-#include "console/cycle_line.h"
+#include "ui/presentation/cycle_line.h"
 
 #include <cstdlib>
 #include <ctime>
