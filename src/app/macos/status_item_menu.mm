@@ -31,7 +31,7 @@ void addSeparator(NSMenu* menu) {
 void addDisplays(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay chosen) {
     NSInteger place = 0;
     for (const auto display : allMenuBarDisplays) {
-        add(menu, target, {rawValue(display), @selector(chooseDisplay:), place, display == chosen});
+        add(menu, target, { rawValue(display), @selector(chooseDisplay:), place, display == chosen });
         ++place;
     }
 }
@@ -40,12 +40,12 @@ void addDisplays(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay ch
 
 void fillStatusItemMenu(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay chosen) {
     @autoreleasepool {
-        add(menu, target, {"Show Dashboard", @selector(showDashboard:)});
+        add(menu, target, { "Show Dashboard", @selector(showDashboard:) });
         addSeparator(menu);
         addDisplays(menu, target, chosen);
         addSeparator(menu);
-        add(menu, target, {"Settings", @selector(showSettings:)});
-        add(menu, target, {"Quit Quelby", @selector(quit:)});
+        add(menu, target, { "Settings", @selector(showSettings:) });
+        add(menu, target, { "Quit Quelby", @selector(quit:) });
     }
 }
 
