@@ -21,6 +21,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "briefly.h"
 #include "monitor/power_monitor.h"
 #include "platform/posix/file_descriptor.h"
 #include "platform/posix/system_clock.h"
@@ -173,8 +174,7 @@ double costOfOneTopRefresh() {
     return (costOfTop(refreshes + 1) - costOfTop(1)) / refreshes;
 }
 
-void compare(std::size_t count, std::size_t wokenOneIn) {
-    constexpr int pairs = 61;
+void compare(std::size_t count, std::size_t wokenOneIn, int pairs) {
     const double top = [&] {
         const Sleepers sleepers(count);
         return costOfOneTopRefresh();
@@ -199,14 +199,17 @@ void ignoreSignal(int) {}
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    const bool brief = quelby::isBrief(argc, argv);
+    const auto counts = brief ? std::vector<std::size_t>{100} : std::vector<std::size_t>{100, 500, 2000};
+    const int pairs = brief ? 1 : 61;
     std::signal(SIGUSR1, ignoreSignal);
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
     fmt::print("{:>9} {:>9} {:>11} {:>11} {:>11} {:>11} {:>9} {:>9}\n", "processes", "woken", "cycle ms",
                "first ms", "scan ms", "top -b ms", "to scan", "to top");
-    for (const std::size_t count : {std::size_t{100}, std::size_t{500}, std::size_t{2000}}) {
+    for (const std::size_t count : counts) {
         for (const std::size_t wokenOneIn : {count, std::size_t{5}, std::size_t{1}}) {
-            compare(count, wokenOneIn);
+            compare(count, wokenOneIn, pairs);
         }
     }
 }

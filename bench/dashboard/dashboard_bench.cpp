@@ -14,6 +14,7 @@
 #include <QQuickWindow>
 #include <fmt/format.h>
 
+#include "briefly.h"
 #include "platform/host/machine.h"
 #include "ui/presentation/metrics.h"
 #include "ui/view/dashboard_view.h"
@@ -99,9 +100,9 @@ double median(int times, const std::function<void()>& prepare, const std::functi
     return costs[static_cast<std::size_t>(times) / 2];
 }
 
-double emptyWindow() {
+double emptyWindow(int times) {
     return median(
-        50, [] {},
+        times, [] {},
         [] {
             PictureWindow window;
             window.draw();
@@ -123,11 +124,11 @@ double firstFrame(Laptop& laptop, int times) {
 }
 
 // A view that was kept while it was closed: up to date again, and drawn as a whole into a new window.
-double frameOfKeptView(Laptop& laptop) {
+double frameOfKeptView(Laptop& laptop, int times) {
     const auto model = laptop.model();
     DashboardView view(*model, {.animated = false});
     return median(
-        50, [&] { laptop.nextCycle(); },
+        times, [&] { laptop.nextCycle(); },
         [&] {
             PictureWindow window;
             view.item().setParentItem(window.content());
@@ -138,7 +139,7 @@ double frameOfKeptView(Laptop& laptop) {
         });
 }
 
-double redrawAfterCycle(Laptop& laptop) {
+double redrawAfterCycle(Laptop& laptop, int times) {
     const auto model = laptop.model();
     DashboardView view(*model, {.animated = false});
     view.setWatched(true);
@@ -146,7 +147,7 @@ double redrawAfterCycle(Laptop& laptop) {
     view.item().setParentItem(window.content());
     window.draw();
     const double cost = median(
-        50, [&] { laptop.nextCycle(); },
+        times, [&] { laptop.nextCycle(); },
         [&] { window.draw(); }); // what has been posted comes first: the cards are made anew
     view.item().setParentItem(nullptr);
     return cost;
@@ -158,16 +159,16 @@ void print(const char* name, double milliseconds, double baseline) {
         stdout);
 }
 
-void printAll() {
+void printAll(int times) {
     Laptop laptop;
     const double cold = firstFrame(laptop, 1);
-    const double baseline = emptyWindow();
+    const double baseline = emptyWindow(times);
     std::fputs("median CPU time                                        to baseline\n", stdout);
     print("baseline: an empty window, made and drawn", baseline, baseline);
     print("first frame of all, from nothing", cold, baseline);
-    print("later first frames, from nothing", firstFrame(laptop, 30), baseline);
-    print("first frame of a view that was kept", frameOfKeptView(laptop), baseline);
-    print("redraw after a cycle", redrawAfterCycle(laptop), baseline);
+    print("later first frames, from nothing", firstFrame(laptop, times), baseline);
+    print("first frame of a view that was kept", frameOfKeptView(laptop, times), baseline);
+    print("redraw after a cycle", redrawAfterCycle(laptop, times), baseline);
 }
 
 } // namespace
@@ -178,6 +179,6 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopSettingsAware(false);
     quelby::drawWithoutGpu();
     const QGuiApplication application(argc, argv);
-    quelby::printAll();
+    quelby::printAll(quelby::isBrief(argc, argv) ? 1 : 50);
     return 0;
 }

@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "briefly.h"
 #include "history/history_file.h"
 #include "history/history_store.h"
 #include "history/set_clock.h"
@@ -20,7 +21,6 @@ using namespace quelby;
 
 constexpr double tick = 3; // seconds
 constexpr int ticksOfAMinute = 20;
-constexpr int runs = 301;
 
 double cpuMicroseconds() {
     struct timespec time = {};
@@ -42,9 +42,8 @@ double median(std::vector<double> values) {
 }
 
 template <typename Action>
-double medianCostOf(const Action& action) {
+double medianCostOf(int runs, const Action& action) {
     std::vector<double> costs;
-    costs.reserve(runs);
     for (int run = 0; run < runs; ++run) {
         costs.push_back(costOf(action));
     }
@@ -69,7 +68,8 @@ std::string fullTables(double now) {
 
 class History {
 public:
-    History() {
+    // Each figure is the median of so many runs.
+    explicit History(int runs) : runs_(runs) {
         sqlite3* handle = nullptr;
         if (sqlite3_open(historyFile(folder_.path()).c_str(), &handle) != SQLITE_OK ||
             sqlite3_exec(handle, fullTables(clock_.time).c_str(), nullptr, nullptr, nullptr) != SQLITE_OK) {
@@ -87,18 +87,18 @@ public:
     }
 
     [[nodiscard]] double costOfCurve(TimeRange range) {
-        return medianCostOf([&] { static_cast<void>(store_.loadData(range)); });
+        return medianCostOf(runs_, [&] { static_cast<void>(store_.loadData(range)); });
     }
 
     [[nodiscard]] double costOfToday() {
-        return medianCostOf([&] { static_cast<void>(store_.todayWh()); });
+        return medianCostOf(runs_, [&] { static_cast<void>(store_.todayWh()); });
     }
 
     [[nodiscard]] double now() const { return clock_.time; }
 
     // Steps through all rows of a query that is prepared anew each time.
     [[nodiscard]] double costOfQuery(const std::string& query) {
-        return medianCostOf([&] {
+        return medianCostOf(runs_, [&] {
             Statement statement(bare_.get(), query);
             while (statement.step()) {
                 static_cast<void>(statement.number(0));
@@ -111,7 +111,7 @@ public:
         sqlite3_prepare_v2(bare_.get(), "INSERT OR REPLACE INTO readings VALUES (?, 12.5, 79, 0, 25.0)", -1,
                            &insertion, nullptr);
         auto second = static_cast<std::int64_t>(clock_.time);
-        const double cost = medianCostOf([&] {
+        const double cost = medianCostOf(runs_, [&] {
             sqlite3_bind_int64(insertion, 1, ++second);
             sqlite3_step(insertion);
             sqlite3_reset(insertion);
@@ -127,6 +127,7 @@ private:
         sqlite3_exec(bare_.get(), script.c_str(), nullptr, nullptr, nullptr);
     }
 
+    int runs_;
     TemporaryFolder folder_;
     SetClock clock_;
     HistoryStore store_{folder_.path(), clock_, HistoryAccess::recording};
@@ -179,8 +180,8 @@ void printQueries(History& history) {
 
 } // namespace
 
-int main() {
-    History history;
+int main(int argc, char** argv) {
+    History history(isBrief(argc, argv) ? 1 : 301);
     fmt::print("{:<20} {:>9} {:>9} {:>11} {:>6}  {}\n", "", "us", "limit us", "baseline us", "ratio",
                "baseline");
     printReadings(history);

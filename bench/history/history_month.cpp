@@ -8,6 +8,7 @@
 
 #include <fmt/format.h>
 
+#include "briefly.h"
 #include "history/history_file.h"
 #include "history/history_store.h"
 #include "history/set_clock.h"
@@ -18,7 +19,6 @@ namespace {
 
 using namespace quelby;
 
-constexpr int days = 32;
 constexpr int readingsOfADay = 28'800;
 
 struct Sizes {
@@ -70,7 +70,8 @@ void liveADay(HistoryStore& store, SetClock& clock) {
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    const int days = isBrief(argc, argv) ? 4 : 32;
     const TemporaryFolder folder;
     SetClock clock;
     HistoryStore store(folder.path(), clock, HistoryAccess::recording);

@@ -1,8 +1,8 @@
-// The folders of src/ are floors; a file may include only from its own floor and from those below it.
+// The folders of src/ stand upon one another; a file may include only from its own folder and from those below it.
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <regex>
 #include <set>
 #include <string>
@@ -17,35 +17,72 @@ namespace fs = std::filesystem;
 
 const fs::path sources = fs::path(QUELBY_SOURCE_DIR) / "src";
 
-// What each floor may include of the others.
-const std::map<std::string, std::set<std::string>> floorsBelow{
-    {"base", {}},
-    {"platform", {"base"}},
-    {"history", {"base", "platform"}},
-    {"monitor", {"base", "platform", "history", "helper"}},
-    {"helper", {"base", "platform"}},
-    {"ui", {"base", "platform", "history", "helper", "monitor"}},
-    {"console", {"base", "platform", "history", "helper", "monitor"}},
-    {"cli", {"base", "platform", "history", "helper", "monitor", "ui", "console"}},
-    {"app", {"base", "platform", "history", "helper", "monitor", "ui", "console"}},
+enum class Qt { without, with };
+
+struct Folder {
+    std::string name;
+    std::vector<std::string> standsUpon; // it may include these, and whatever they stand upon
+    Qt qt = Qt::without;
 };
 
-// The only folders that may know of Qt.
-const std::vector<std::string> foldersWithQt{"app",       "console",    "platform/qt",
-                                             "ui/bridge", "ui/symbols", "ui/view"};
+// Every folder with sources, from the ground up.
+const std::vector<Folder> folders{
+    {"base", {}},
+    {"platform", {"base"}},
+    {"platform/posix", {"platform"}},
+    {"platform/qt", {"platform"}, Qt::with},
+    {"platform/replay", {"platform/posix"}},
+    {"platform/linux/battery", {"platform/posix"}},
+    {"platform/linux/processes", {"platform/posix"}},
+    {"platform/linux", {"platform/linux/battery", "platform/linux/processes", "platform/qt"}},
+    {"platform/macos", {"platform/posix"}},
+    {"platform/host", {"platform/qt", "platform/replay"}},
+    {"helper", {"platform"}},
+    {"history/sqlite", {}},
+    {"history", {"history/sqlite", "platform"}},
+    {"monitor", {"helper", "history"}},
+    {"ui/presentation", {"monitor"}},
+    {"ui/symbols", {}, Qt::with},
+    {"ui/bridge", {"ui/presentation", "ui/symbols"}, Qt::with},
+    {"ui/view", {"ui/bridge"}, Qt::with},
+    {"console", {"monitor", "platform/host"}, Qt::with},
+    {"cli/terminal", {"console", "ui/presentation"}},
+    {"cli", {"cli/terminal"}},
+    {"app", {"console", "ui/view"}, Qt::with},
+    {"app/linux", {"app"}, Qt::with},
+    {"app/macos", {"app", "platform/macos"}, Qt::with},
+};
+
+const Folder* find(const std::string& name) {
+    const auto found = std::find_if(folders.begin(), folders.end(),
+                                    [&](const Folder& folder) { return folder.name == name; });
+    return found == folders.end() ? nullptr : &*found;
+}
+
+bool standsUpon(const Folder& folder, const std::string& other) {
+    return std::any_of(folder.standsUpon.begin(), folder.standsUpon.end(), [&](const std::string& name) {
+        const auto* const below = find(name);
+        return name == other || (below != nullptr && standsUpon(*below, other));
+    });
+}
 
 std::vector<fs::path> sourceFiles() {
+    static const std::set<std::string> kinds{".h", ".cpp", ".mm"};
     std::vector<fs::path> files;
     for (const auto& entry : fs::recursive_directory_iterator(sources)) {
-        if (entry.path().extension() == ".h" || entry.path().extension() == ".cpp") {
+        if (kinds.contains(entry.path().extension().string())) {
             files.push_back(entry.path());
         }
     }
     return files;
 }
 
+std::string relative(const fs::path& path) {
+    return path.lexically_relative(sources).generic_string();
+}
+
 std::vector<std::string> includesOf(const fs::path& file) {
-    static const std::regex include(R"(^\s*#\s*include\s*[<"]([^>"]+)[>"])");
+    static const std::regex include(R"(^\s*#\s*(?:include|import)\s*[<"]([^>"]+)[>"])");
     std::vector<std::string> names;
     std::ifstream stream(file);
     for (std::string line; std::getline(stream, line);) {
@@ -56,37 +93,38 @@ std::vector<std::string> includesOf(const fs::path& file) {
     return names;
 }
 
-std::string firstFolder(const std::string& path) {
-    return path.substr(0, path.find('/'));
-}
-
-bool mayKnowQt(const std::string& file) {
-    return std::any_of(foldersWithQt.begin(), foldersWithQt.end(),
-                       [&](const std::string& folder) { return file.rfind(folder + '/', 0) == 0; });
+TEST(Folders, StandOnlyUponThoseThatAreNamedBefore) {
+    std::set<std::string> before;
+    for (const auto& folder : folders) {
+        EXPECT_TRUE(fs::is_directory(sources / folder.name)) << folder.name << " is not there";
+        for (const auto& name : folder.standsUpon) {
+            EXPECT_TRUE(before.contains(name)) << folder.name << " stands upon " << name;
+        }
+        EXPECT_TRUE(before.insert(folder.name).second) << folder.name << " is named twice";
+    }
 }
 
 TEST(Includes, PointDownwardsOnly) {
     const auto files = sourceFiles();
     ASSERT_GT(files.size(), 50U);
-    for (const auto& path : files) {
-        const auto file = path.lexically_relative(sources).generic_string();
-        const auto floor = firstFolder(file);
-        ASSERT_TRUE(floorsBelow.contains(floor)) << file << " stands on no known floor";
-        for (const auto& include : includesOf(path)) {
-            const auto target = firstFolder(include);
-            if (floorsBelow.contains(target) && target != floor) {
-                EXPECT_TRUE(floorsBelow.at(floor).contains(target)) << file << " includes " << include;
+    for (const auto& file : files) {
+        const auto* const folder = find(relative(file.parent_path()));
+        ASSERT_NE(folder, nullptr) << relative(file) << " stands in no known folder";
+        for (const auto& include : includesOf(file)) {
+            const auto target = fs::path(include).parent_path().generic_string();
+            if (find(target) != nullptr && target != folder->name) {
+                EXPECT_TRUE(standsUpon(*folder, target)) << relative(file) << " includes " << include;
             }
         }
     }
 }
 
 TEST(Includes, KeepQtOutOfTheLowerFloors) {
-    for (const auto& path : sourceFiles()) {
-        const auto file = path.lexically_relative(sources).generic_string();
-        for (const auto& include : includesOf(path)) {
-            if (!mayKnowQt(file)) {
-                EXPECT_NE(include.front(), 'Q') << file << " includes " << include;
+    for (const auto& file : sourceFiles()) {
+        const auto* const folder = find(relative(file.parent_path()));
+        for (const auto& include : includesOf(file)) {
+            if (folder == nullptr || folder->qt == Qt::without) {
+                EXPECT_NE(include.front(), 'Q') << relative(file) << " includes " << include;
             }
         }
     }

@@ -19,7 +19,7 @@ void addKeyDownMonitor(std::function<bool(const KeyDown&)> handler) {
     @autoreleasepool {
         [NSEvent addLocalMonitorForEventsMatchingMask:NSEventMaskKeyDown
                                               handler:^NSEvent*(NSEvent* event) {
-                                                  return handler(keyDown(event)) ? nil : event;
+                                                return handler(keyDown(event)) ? nil : event;
                                               }];
     }
 }

@@ -20,7 +20,8 @@ void listenToSecondaryPress(NSStatusBarButton* button) {
 } // namespace
 
 struct MacosStatusItem::Parts {
-    Parts() : item([[[NSStatusBar systemStatusBar] statusItemWithLength:NSVariableStatusItemLength] retain]) {}
+    Parts()
+        : item([[[NSStatusBar systemStatusBar] statusItemWithLength:NSVariableStatusItemLength] retain]) {}
 
     Own<NSStatusItem> item;
     std::optional<Own<QuelbyStatusItemTarget>> target; // none before there are actions

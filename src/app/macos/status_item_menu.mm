@@ -32,7 +32,7 @@ void addSeparator(NSMenu* menu) {
 void addDisplays(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay chosen) {
     NSInteger place = 0;
     for (const auto display : allMenuBarDisplays) {
-        add(menu, target, {rawValue(display), @selector(chooseDisplay:), place, display == chosen});
+        add(menu, target, { rawValue(display), @selector(chooseDisplay:), place, display == chosen });
         ++place;
     }
 }
@@ -41,12 +41,12 @@ void addDisplays(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay ch
 
 void fillStatusItemMenu(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay chosen) {
     @autoreleasepool {
-        add(menu, target, {words::showDashboard, @selector(showDashboard:)});
+        add(menu, target, { words::showDashboard, @selector(showDashboard:) });
         addSeparator(menu);
         addDisplays(menu, target, chosen);
         addSeparator(menu);
-        add(menu, target, {words::settings, @selector(showSettings:)});
-        add(menu, target, {words::quit, @selector(quit:)});
+        add(menu, target, { words::settings, @selector(showSettings:) });
+        add(menu, target, { words::quit, @selector(quit:) });
     }
 }
 

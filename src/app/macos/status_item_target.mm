@@ -12,8 +12,8 @@ using namespace quelby;
 namespace {
 
 bool asksForMenu(NSEvent* event) {
-    return [event type] == NSEventTypeRightMouseUp ||
-           ([event modifierFlags] & NSEventModifierFlagControl) != 0;
+    return
+        [event type] == NSEventTypeRightMouseUp || ([event modifierFlags] & NSEventModifierFlagControl) != 0;
 }
 
 // The corner below which the menu opens, whichever way the view counts.

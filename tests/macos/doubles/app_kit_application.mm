@@ -152,8 +152,8 @@ NSString* const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
 @implementation NSScreen
 
 + (NSArray*)screens {
-    return [NSArray arrayWithObjects:[[[NSScreen alloc] init] autorelease], [[[NSScreen alloc] init] autorelease],
-                                     nil];
+    return [NSArray
+        arrayWithObjects:[[[NSScreen alloc] init] autorelease], [[[NSScreen alloc] init] autorelease], nil];
 }
 
 - (NSRect)frame {

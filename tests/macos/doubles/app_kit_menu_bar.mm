@@ -70,7 +70,7 @@ using namespace quelby::fake;
 
 // A template of the system's is one for all: it must be marked each time.
 @interface SymbolImage : NSImage {
-  @public
+@public
     Image look_;
 }
 @end
@@ -107,7 +107,7 @@ using namespace quelby::fake;
 @end
 
 @interface BarButton : NSStatusBarButton {
-  @public
+@public
     SymbolImage* image_;
     NSString* title_;
     NSString* toolTip_;

@@ -65,7 +65,8 @@ NSString* NSPopoverDidCloseNotification = @"NSPopoverDidCloseNotification";
 - (void)showRelativeToRect:(NSRect)rect ofView:(NSView*)view preferredEdge:(NSRectEdge)edge {
     demand(view != nil && [view window] != nil, "a popover at a view that is nowhere");
     demand(_contentViewController != nil, "a popover without content");
-    note("showRelativeToRect " + sizeText(rect.size) + (view == state().button ? " of the button" : " of another view") +
+    note("showRelativeToRect " + sizeText(rect.size) +
+         (view == state().button ? " of the button" : " of another view") +
          (edge == NSRectEdgeMinY ? " at the bottom" : " elsewhere"));
     if (_realWindow == nil) {
         _realWindow = [[NSWindow alloc] init];

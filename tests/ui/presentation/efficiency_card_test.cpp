@@ -18,6 +18,20 @@ const Label fullyCharged{{"checkmark.circle.fill", ColorName::green},
 const Label efficient{{"checkmark.circle.fill", ColorName::green},
                       secondary("Efficient — running at optimal power levels")};
 
+// The first rule that applies gives the advice.
+const Label& ruledAdvice(const PublishedFields& fields) {
+    if (fields.totalPower > 30) {
+        return highDraw;
+    }
+    if (fields.totalPower > 20) {
+        return moderate;
+    }
+    if (fields.batteryPercent < 20 && !fields.isPluggedIn) {
+        return lowBattery;
+    }
+    return fields.fullyCharged ? fullyCharged : efficient;
+}
+
 class EfficiencyAdviceTest : public testing::Test {
 protected:
     EfficiencyAdviceTest() {
@@ -109,21 +123,16 @@ TEST_F(EfficiencyAdviceTest, SaysThatTheBatteryIsFullWhetherPluggedInOrNot) {
     expectAdvice(fullyCharged);
 }
 
-// Every combination of what the advice depends on: the first rule that applies gives it.
+// Every combination of what the advice depends on.
 TEST_F(EfficiencyAdviceTest, IsThatOfTheFirstRuleThatApplies) {
     for (const double watts : {20.0, 20.1, 30.0, 30.1}) {
         for (int state = 0; state < 8; ++state) {
-            const bool low = (state & 1) != 0;
             fields.totalPower = watts;
-            fields.batteryPercent = low ? 19 : 20;
+            fields.batteryPercent = (state & 1) != 0 ? 19 : 20;
             fields.isPluggedIn = (state & 2) != 0;
             fields.fullyCharged = (state & 4) != 0;
-            auto expected = fields.fullyCharged ? fullyCharged : efficient;
-            expected = low && !fields.isPluggedIn ? lowBattery : expected;
-            expected = watts >= 20.1 ? moderate : expected;
-            expected = watts >= 30.1 ? highDraw : expected;
             SCOPED_TRACE(testing::Message() << watts << " W, state " << state);
-            expectAdvice(expected);
+            expectAdvice(ruledAdvice(fields));
         }
     }
 }
