@@ -47,7 +47,7 @@ public:
     [[nodiscard]] std::unique_ptr<DashboardModel> model() {
         return std::make_unique<DashboardModel>(
             monitor_, machine_->platform().clock,
-            DashboardActions{.quit = [] {}, .openBatterySettings = [] {}});
+            ProgramActions{.quit = [] {}, .openBatterySettings = [] {}});
     }
 
 private:

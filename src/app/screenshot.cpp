@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <fmt/format.h>
 
-#include "app/dashboard_painter.h"
+#include "app/picture_painter.h"
 #include "console/cycles.h"
 #include "console/program.h"
 
@@ -46,7 +46,7 @@ Result<void> write(const QImage& picture, const std::filesystem::path& path) {
 }
 
 Result<void> draw(PowerMonitor& monitor, Clock& clock, const ScreenshotCommand& command) {
-    const auto painter = loadDashboardPainter();
+    const auto painter = loadPicturePainter();
     if (!painter) {
         return problem("the library with the dashboard is missing");
     }

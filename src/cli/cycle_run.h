@@ -13,7 +13,7 @@ namespace quelby::cli {
 }
 
 // All of a recording at once, or a single cycle of this computer, with one look at the end.
-[[nodiscard]] inline CycleRun untilTheEnd(const Machine& machine, Look atEnd) {
+[[nodiscard]] inline CycleRun untilTheEnd(const Machine& machine, CycleAction atEnd) {
     auto run = cycleRun({}, Pace::withoutWaiting);
     if (machine.kind() == MachineKind::thisComputer) {
         run.count = 1;

@@ -1,4 +1,4 @@
-#include "cli/dashboard_command.h"
+#include "cli/commands.h"
 
 #include "cli/cycle_run.h"
 #include "cli/dashboard_json.h"

@@ -1,4 +1,4 @@
-#include "cli/helper_command.h"
+#include "cli/commands.h"
 
 #include <fmt/format.h>
 

@@ -1,4 +1,4 @@
-#include "cli/limit_command.h"
+#include "cli/commands.h"
 
 #include <ctime>
 

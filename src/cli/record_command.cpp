@@ -1,4 +1,4 @@
-#include "cli/record_command.h"
+#include "cli/commands.h"
 
 #include "cli/cycle_run.h"
 #include "platform/replay/machine_recorder.h"

@@ -1,4 +1,4 @@
-#include "cli/status_command.h"
+#include "cli/commands.h"
 
 #include "cli/cycle_run.h"
 #include "cli/fields_json.h"

@@ -1,4 +1,4 @@
-#include "cli/title_command.h"
+#include "cli/commands.h"
 
 #include "cli/cycle_run.h"
 #include "cli/title_output.h"
@@ -9,7 +9,7 @@ namespace quelby::cli {
 namespace {
 
 std::string lineOf(const PowerMonitor& monitor, const TitleCommand& command) {
-    return titleLine(monitor, command.display.value_or(monitor.menuBarDisplay), command.format) + '\n';
+    return formattedTitle(monitor, command.display.value_or(monitor.menuBarDisplay), command.format) + '\n';
 }
 
 } // namespace

@@ -52,7 +52,7 @@ Json forWaybar(const PublishedFields& fields, const std::string& title) {
 
 } // namespace
 
-std::string titleLine(const PublishedFields& fields, MenuBarDisplay display, TitleFormat format) {
+std::string formattedTitle(const PublishedFields& fields, MenuBarDisplay display, TitleFormat format) {
     const auto title = menuBarTitle(fields, display);
     switch (format) {
     case TitleFormat::plain:

@@ -14,7 +14,7 @@ namespace quelby::cli {
 //   json     {"symbol", "title"}, the title as it is
 //   waybar   the object of Waybar's custom modules: "text" and "tooltip" in Pango's markup, "class" (one of
 //            discharging, charging, full, plugged-in, no-battery) and "percentage" (the battery's level)
-[[nodiscard]] std::string titleLine(const PublishedFields& fields, MenuBarDisplay display,
+[[nodiscard]] std::string formattedTitle(const PublishedFields& fields, MenuBarDisplay display,
                                     TitleFormat format);
 
 } // namespace quelby::cli

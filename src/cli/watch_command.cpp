@@ -1,4 +1,4 @@
-#include "cli/watch_command.h"
+#include "cli/commands.h"
 
 #include <algorithm>
 #include <csignal>

@@ -20,24 +20,24 @@ protected:
 };
 
 TEST_F(TitleLineTest, IsTheBareTitle) {
-    EXPECT_EQ(titleLine(fields, MenuBarDisplay::watts, TitleFormat::plain), "-12W");
-    EXPECT_EQ(titleLine(fields, MenuBarDisplay::iconOnly, TitleFormat::plain), "");
+    EXPECT_EQ(formattedTitle(fields, MenuBarDisplay::watts, TitleFormat::plain), "-12W");
+    EXPECT_EQ(formattedTitle(fields, MenuBarDisplay::iconOnly, TitleFormat::plain), "");
 }
 
 TEST_F(TitleLineTest, IsSymbolAndTitleAsJson) {
-    EXPECT_EQ(titleLine(fields, MenuBarDisplay::percentage, TitleFormat::json),
+    EXPECT_EQ(formattedTitle(fields, MenuBarDisplay::percentage, TitleFormat::json),
               R"({"symbol":"battery.75percent","title":" 80%"})");
-    EXPECT_EQ(titleLine(fields, MenuBarDisplay::iconOnly, TitleFormat::json),
+    EXPECT_EQ(formattedTitle(fields, MenuBarDisplay::iconOnly, TitleFormat::json),
               R"({"symbol":"battery.75percent","title":""})");
 }
 
 TEST_F(TitleLineTest, IsACustomModuleForWaybar) {
-    EXPECT_EQ(titleLine(fields, MenuBarDisplay::watts, TitleFormat::waybar),
+    EXPECT_EQ(formattedTitle(fields, MenuBarDisplay::watts, TitleFormat::waybar),
               R"({"text":"-12W","tooltip":")" + statusBarToolTip(fields) +
                   R"(","class":"discharging","percentage":80})");
     fields.isPluggedIn = true;
     fields.predictedTime = "<&>";
-    const auto line = titleLine(fields, MenuBarDisplay::temperature, TitleFormat::waybar);
+    const auto line = formattedTitle(fields, MenuBarDisplay::temperature, TitleFormat::waybar);
     EXPECT_NE(line.find("&lt;&amp;&gt;"), std::string::npos);
     EXPECT_EQ(line.find("<&>"), std::string::npos);
     EXPECT_NE(line.find(R"("class":"plugged-in")"), std::string::npos);

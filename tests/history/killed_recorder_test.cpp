@@ -22,7 +22,7 @@ class KilledRecorder : public RecorderTest {
 protected:
     // Starts the recorder, kills it after so many lines, and gives the number of lines that it had printed.
     [[nodiscard]] std::ptrdiff_t linesUntilKilled(double start, std::ptrdiff_t lines) const {
-        RunningProgram program(recorder(recording(start, step, linesOfARound), {"--fast"}), environment());
+        RecorderProcess program(recorder(recording(start, step, linesOfARound), {"--fast"}), environment());
         program.readLines(lines);
         const auto killed = program.kill();
         EXPECT_EQ(killed.exitStatus, 128 + SIGKILL);

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "history/history_file.h"
-#include "running_program.h"
+#include "recorder_process.h"
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
 #include "support/temporary_folder.h"

@@ -12,7 +12,7 @@ using Recorders = RecorderTest;
 
 TEST_F(Recorders, AreOneForEachFolder) {
     const auto machine = recording(firstTime, 3, 5);
-    RunningProgram first(recorder(machine), environment()); // at the pace of a living machine, so it stays
+    RecorderProcess first(recorder(machine), environment()); // at the pace of a living machine, so it stays
     first.readLines(1);
     const auto second = runProgram(recorder(machine, {"--fast"}));
     EXPECT_EQ(second.exitStatus, 1);
@@ -27,7 +27,7 @@ TEST_F(Recorders, AreOneForEachFolder) {
 
 TEST_F(Recorders, TakeOverFromOneThatWasKilled) {
     const auto machine = recording(firstTime, 3, 5);
-    RunningProgram first(recorder(machine), environment());
+    RecorderProcess first(recorder(machine), environment());
     first.readLines(1);
     EXPECT_EQ(first.kill().exitStatus, 128 + SIGKILL);
     const auto second = runProgram(recorder(machine, {"--fast"}));
@@ -50,7 +50,7 @@ protected:
 TEST_F(HistoryReaders, SeeEveryReadingThatTheRecorderHasPrinted) {
     constexpr int lines = 2000;
     constexpr double readingWh = 12 * 3.0 / 3600;
-    RunningProgram program(recorder(recording(firstTime, 3, lines), {"--fast"}), environment());
+    RecorderProcess program(recorder(recording(firstTime, 3, lines), {"--fast"}), environment());
     for (int printed = 1; printed < 600; printed += 100) {
         program.readLines(printed);
         for (const auto* command : {"history", "status"}) {

@@ -12,9 +12,9 @@ namespace {
 
 class Recordings : public testing::Test {
 protected:
-    // Calls look(monitor) after each cycle; gives the number of cycles.
-    template <typename Look>
-    int play(const std::string& name, Look look) {
+    // Calls visit(monitor) after each cycle; gives the number of cycles.
+    template <typename Visit>
+    int play(const std::string& name, Visit visit) {
         auto opened = ReplayedMachine::open(QUELBY_SOURCE_DIR "/resources/recordings/" + name + ".jsonl");
         EXPECT_TRUE(opened) << opened.error().sentence;
         auto& machine = *opened;
@@ -23,7 +23,7 @@ protected:
         int cycles = 0;
         monitor->onUpdate = [&] {
             ++cycles;
-            look(*monitor);
+            visit(*monitor);
         };
         monitor->startMonitoring();
         while (!machine.isAtLastLine()) {

@@ -55,7 +55,7 @@ StatusItem& LinuxDesktop::makeStatusItem() {
 }
 
 Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
-    return popover_.emplace(DashboardWindowParts{.monitor = std::move(monitor),
+    return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
                                                  .clock = platform_.clock,
                                                  .quit = std::move(quit),
                                                  .openBatterySettings = openBatterySettings,

@@ -20,7 +20,7 @@ constexpr int samePressPixels = 32;
 
 } // namespace
 
-LinuxPopover::LinuxPopover(DashboardWindowParts parts) : parts_(std::move(parts)) {
+LinuxPopover::LinuxPopover(PopoverParts parts) : parts_(std::move(parts)) {
     givingBack_.setSingleShot(true);
     givingBack_.setInterval(keptAfterClosing);
     QObject::connect(&givingBack_, &QTimer::timeout, &givingBack_, [this] { giveBack(); });
@@ -35,7 +35,7 @@ bool LinuxPopover::make() {
         return true;
     }
     if (!library_) {
-        library_ = loadDashboardLibrary();
+        library_ = loadQuickLibrary();
     }
     if (!library_) {
         writeToStandardError("quelby: the library with the dashboard is missing\n");

@@ -6,7 +6,7 @@
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include "app/linux/dashboard_library.h"
+#include "app/linux/quick_library.h"
 
 namespace quelby::app {
 
@@ -14,7 +14,7 @@ namespace quelby::app {
 // shown, and given back some time after it was last closed; what has to be remembered meanwhile is here.
 class LinuxPopover final : public Popover {
 public:
-    explicit LinuxPopover(DashboardWindowParts parts);
+    explicit LinuxPopover(PopoverParts parts);
     LinuxPopover(const LinuxPopover&) = delete;
     LinuxPopover& operator=(const LinuxPopover&) = delete;
     ~LinuxPopover() override;
@@ -41,12 +41,12 @@ private:
 
     void giveBack();
 
-    DashboardWindowParts parts_;
+    PopoverParts parts_;
     PopoverForm form_ = PopoverForm::atTheItem;
     std::optional<QPoint> itemPlace_;
     std::optional<QPoint> closingPress_;
     QElapsedTimer sinceClosingPress_;
-    std::unique_ptr<DashboardLibrary> library_; // none before the first showing
+    std::unique_ptr<QuickLibrary> library_; // none before the first showing
     std::unique_ptr<DashboardWindow> window_;   // none while it is not needed
     QTimer givingBack_;
 };

@@ -50,7 +50,7 @@ void LinuxStatusItem::dockInOlderTray() {
                                            &owner_, [this] { dockInOlderTray(); }, Qt::QueuedConnection);
                                    }});
     if (older_) {
-        older_->show(look_);
+        older_->show(content_);
     }
     listener_.shown(older_ != nullptr);
 }
@@ -67,37 +67,37 @@ void LinuxStatusItem::showSoon() {
 void LinuxStatusItem::show() {
     showing_ = false;
     if (item_) {
-        item_->show(look_);
+        item_->show(content_);
     }
     if (older_) {
-        older_->show(look_);
+        older_->show(content_);
     }
 }
 
 void LinuxStatusItem::setImage(std::string_view symbolName, std::string_view /*accessibilityDescription*/) {
-    if (symbolName != look_.symbol) {
-        look_.symbol = symbolName;
+    if (symbolName != content_.symbol) {
+        content_.symbol = symbolName;
         showSoon();
     }
 }
 
 void LinuxStatusItem::setTitle(std::string_view title) {
-    if (auto text = trimmed(title); text != look_.title) {
-        look_.title = std::move(text);
+    if (auto text = trimmed(title); text != content_.title) {
+        content_.title = std::move(text);
         showSoon();
     }
 }
 
 void LinuxStatusItem::setToolTip(std::string_view text) {
-    if (text != look_.toolTip) {
-        look_.toolTip = text;
+    if (text != content_.toolTip) {
+        content_.toolTip = text;
         showSoon();
     }
 }
 
 void LinuxStatusItem::setDisplay(MenuBarDisplay display) {
-    if (display != look_.display) {
-        look_.display = display;
+    if (display != content_.display) {
+        content_.display = display;
         showSoon();
     }
 }

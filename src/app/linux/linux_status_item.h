@@ -44,7 +44,7 @@ private:
 
     Listener listener_;
     StatusItemActions actions_;
-    ItemLook look_;
+    ItemContent content_;
     bool showing_ = false; // at the end of this turn
     std::optional<StatusNotifierItem> item_;
     std::unique_ptr<XEmbedItem> older_;

@@ -67,11 +67,11 @@ private:
     PopoverWindow& popover_;
 };
 
-PopoverWindow::PopoverWindow(const DashboardWindowParts& parts, PopoverForm form, Listener listener)
+PopoverWindow::PopoverWindow(const PopoverParts& parts, PopoverForm form, Listener listener)
     : form_(form)
     , listener_(std::move(listener))
     , model_(parts.monitor, *parts.clock,
-             DashboardActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
+             ProgramActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
     , view_(model_, parts.appearance())
     , window_(std::make_unique<Window>(*this)) {
     window_->setTitle(QString::fromUtf8(words::program));

@@ -5,7 +5,7 @@
 
 #include <QQuickWindow>
 
-#include "app/linux/dashboard_library.h"
+#include "app/linux/quick_library.h"
 #include "app/linux/outside_presses.h"
 #include "ui/view/dashboard_view.h"
 
@@ -14,7 +14,7 @@ namespace quelby::app {
 // The dashboard in a window of its own.
 class PopoverWindow final : public DashboardWindow {
 public:
-    PopoverWindow(const DashboardWindowParts& parts, PopoverForm form, Listener listener);
+    PopoverWindow(const PopoverParts& parts, PopoverForm form, Listener listener);
     PopoverWindow(const PopoverWindow&) = delete;
     PopoverWindow& operator=(const PopoverWindow&) = delete;
     ~PopoverWindow() override;

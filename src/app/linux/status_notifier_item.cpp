@@ -33,12 +33,12 @@ void StatusNotifierItem::setHost(const TrayHost& host) {
     announceLabel();
 }
 
-void StatusNotifierItem::show(const ItemLook& look) {
-    const bool symbolChanged = look.symbol != look_.symbol;
-    const bool titleChanged = look.title != look_.title;
-    const bool toolTipChanged = look.toolTip != look_.toolTip;
-    look_ = look;
-    menu_.setDisplay(look.display);
+void StatusNotifierItem::show(const ItemContent& content) {
+    const bool symbolChanged = content.symbol != content_.symbol;
+    const bool titleChanged = content.title != content_.title;
+    const bool toolTipChanged = content.toolTip != content_.toolTip;
+    content_ = content;
+    menu_.setDisplay(content.display);
     if (symbolChanged || (titleChanged && drawsTitle())) {
         announceIcon();
     }
@@ -65,7 +65,7 @@ void StatusNotifierItem::announceLabel() {
     if (!host_.showsLabel) {
         return;
     }
-    const auto label = QString::fromUtf8(look_.title);
+    const auto label = QString::fromUtf8(content_.title);
     emitSignal(QStringLiteral("XAyatanaNewLabel"), {label, labelGuide});
     emitPropertiesChanged({{QStringLiteral("XAyatanaLabel"), label}});
 }
@@ -80,13 +80,13 @@ void StatusNotifierItem::writeIconFile() {
     }
     QFile::remove(iconName());
     ++iconNumber_;
-    static_cast<void>(symbolIcon(look_.symbol, iconSides[1]).save(iconName(), "PNG"));
+    static_cast<void>(symbolIcon(content_.symbol, iconSides[1]).save(iconName(), "PNG"));
 }
 
 QString StatusNotifierItem::iconName() const {
     switch (host_.icon) {
     case IconForm::symbol:
-        return QString::fromUtf8(themeIconName(look_.symbol));
+        return QString::fromUtf8(themeIconName(content_.symbol));
     case IconForm::file:
         return iconFolder_ ? iconFolder_->filePath(QStringLiteral("%1.png").arg(iconNumber_)) : QString();
     case IconForm::wide:
@@ -101,14 +101,14 @@ DBusPictures StatusNotifierItem::pictures() const {
     for (const int side : iconSides) {
         switch (host_.icon) {
         case IconForm::wide:
-            pictures.append(dbusPicture(wideIcon(look_.symbol, look_.title, side)));
+            pictures.append(dbusPicture(wideIcon(content_.symbol, content_.title, side)));
             break;
         case IconForm::compact:
-            pictures.append(dbusPicture(compactIcon(look_.symbol, look_.title, side)));
+            pictures.append(dbusPicture(compactIcon(content_.symbol, content_.title, side)));
             break;
         case IconForm::symbol:
         case IconForm::file:
-            pictures.append(dbusPicture(symbolIcon(look_.symbol, side)));
+            pictures.append(dbusPicture(symbolIcon(content_.symbol, side)));
             break;
         }
     }
@@ -132,11 +132,11 @@ QVariantMap StatusNotifierItem::properties() const {
         {QStringLiteral("AttentionMovieName"), QString()},
         {QStringLiteral("ToolTip"),
          QVariant::fromValue(
-             DBusToolTip{{}, {}, QString::fromUtf8(words::program), QString::fromUtf8(look_.toolTip)})},
+             DBusToolTip{{}, {}, QString::fromUtf8(words::program), QString::fromUtf8(content_.toolTip)})},
         {QStringLiteral("ItemIsMenu"), false},
         {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(host_.wantsMenu ? menuPath : noMenu))}};
     if (host_.showsLabel) { // other hosts lose the icon where there is a label, even an empty one
-        all.insert(QStringLiteral("XAyatanaLabel"), QString::fromUtf8(look_.title));
+        all.insert(QStringLiteral("XAyatanaLabel"), QString::fromUtf8(content_.title));
         all.insert(QStringLiteral("XAyatanaLabelGuide"), labelGuide);
     }
     return all;

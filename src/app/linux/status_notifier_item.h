@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 #include "app/linux/dbus_object.h"
-#include "app/linux/item_look.h"
+#include "app/linux/item_content.h"
 #include "app/linux/tray_host.h"
 #include "app/linux/tray_menu.h"
 
@@ -26,7 +26,7 @@ public:
     // Whoever shows the item from now on.
     void setHost(const TrayHost& host);
 
-    void show(const ItemLook& look);
+    void show(const ItemContent& content);
 
 private:
     [[nodiscard]] QVariantMap properties() const override;
@@ -47,7 +47,7 @@ private:
     PressListener pressed_;
     TrayMenu menu_;
     TrayHost host_;
-    ItemLook look_;
+    ItemContent content_;
     std::optional<QTemporaryDir> iconFolder_; // for hosts that read icons from files
     int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
 };

@@ -51,9 +51,9 @@ public:
         return true;
     }
 
-    void show(const ItemLook& look) override {
-        look_ = look;
-        const auto width = static_cast<std::uint32_t>(wideIcon(look.symbol, look.title, height_).width());
+    void show(const ItemContent& content) override {
+        content_ = content;
+        const auto width = static_cast<std::uint32_t>(wideIcon(content.symbol, content.title, height_).width());
         if (width != wantedWidth_) {
             wantedWidth_ = width;
             tellWantedSize();
@@ -180,7 +180,7 @@ private:
         }
         width_ = event.width;
         height_ = event.height;
-        show(look_);
+        show(content_);
     }
 
     void press(const xcb_button_press_event_t& event) const {
@@ -194,8 +194,8 @@ private:
     void draw() {
         const int needed = static_cast<int>(wantedWidth_);
         const auto icon = width_ >= needed
-                              ? wideIcon(look_.symbol, look_.title, height_)
-                              : compactIcon(look_.symbol, look_.title, std::min(width_, height_));
+                              ? wideIcon(content_.symbol, content_.title, height_)
+                              : compactIcon(content_.symbol, content_.title, std::min(width_, height_));
         QImage picture(width_, height_, QImage::Format_ARGB32_Premultiplied);
         picture.fill(depth_ == 32 ? Qt::transparent : Qt::black);
         QPainter painter(&picture);
@@ -218,7 +218,7 @@ private:
     int width_ = fallbackHeight;
     int height_ = fallbackHeight;
     std::uint32_t wantedWidth_ = fallbackHeight; // pixels, for the symbol with the title beside it
-    ItemLook look_;
+    ItemContent content_;
 };
 
 } // namespace

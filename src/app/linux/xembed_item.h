@@ -6,7 +6,7 @@
 
 #include <QPoint>
 
-#include "app/linux/item_look.h"
+#include "app/linux/item_content.h"
 
 namespace quelby::app {
 
@@ -26,7 +26,7 @@ public:
 
     virtual ~XEmbedItem() = default;
 
-    virtual void show(const ItemLook& look) = 0;
+    virtual void show(const ItemContent& content) = 0;
 };
 
 } // namespace quelby::app

@@ -15,10 +15,10 @@ StatusItem& MacosDesktop::makeStatusItem() {
 }
 
 Popover& MacosDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
-    const QuickDashboard::ModelMaker makeModel = [monitor = std::move(monitor), quit = std::move(quit),
+    const PopoverContent::ModelMaker makeModel = [monitor = std::move(monitor), quit = std::move(quit),
                                                   clock = &clock_] {
         return std::make_unique<DashboardModel>(
-            monitor, *clock, DashboardActions{.quit = quit, .openBatterySettings = openBatterySettings});
+            monitor, *clock, ProgramActions{.quit = quit, .openBatterySettings = openBatterySettings});
     };
     auto embedded = std::make_unique<EmbeddedPopover>(item_->button(), makeModel);
     if (embedded->holdsDashboard()) {

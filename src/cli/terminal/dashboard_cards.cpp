@@ -112,7 +112,7 @@ CardText text(const TrendCard& card, int columns) {
     return written;
 }
 
-Block historyCurve(const HistoryCard& card, int columns) {
+Block historyBlock(const HistoryCard& card, int columns) {
     std::vector<double> watts;
     std::transform(card.points.begin(), card.points.end(), std::back_inserter(watts),
                    [](const HistoryDataPoint& point) { return point.watts; });
@@ -132,7 +132,7 @@ CardText text(const HistoryCard& card, int columns) {
     if (card.placeholder) {
         written.content.push_back(withGlyph(card.placeholder->symbol, span(card.placeholder->text)));
     } else {
-        append(written.content, historyCurve(card, columns));
+        append(written.content, historyBlock(card, columns));
     }
     Line badges;
     for (const auto& badge : card.badges) {

@@ -16,7 +16,7 @@ auto elementAt(const Elements& elements, int index) -> std::optional<typename El
 
 } // namespace
 
-DashboardModel::DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, DashboardActions actions,
+DashboardModel::DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, ProgramActions actions,
                                QObject* parent)
     : QObject(parent), monitor_(std::move(monitor)), clock_(clock), actions_(std::move(actions)) {}
 

@@ -28,7 +28,7 @@
 namespace quelby {
 
 // What the dashboard asks of the program around it.
-struct DashboardActions {
+struct ProgramActions {
     std::function<void()> quit;
     std::function<void()> openBatterySettings;
 };
@@ -54,7 +54,7 @@ class DashboardModel : public QObject {
 
 public:
     // The clock outlives the model.
-    DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, DashboardActions actions,
+    DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, ProgramActions actions,
                    QObject* parent = nullptr);
 
     [[nodiscard]] bool isWatched() const { return !subscriptions_.empty(); }
@@ -119,7 +119,7 @@ private:
 
     std::shared_ptr<PowerMonitor> monitor_;
     Clock& clock_;
-    DashboardActions actions_;
+    ProgramActions actions_;
     std::vector<Subscription> subscriptions_; // none while nobody watches
     bool refreshing_ = false;                 // at the end of this turn
     bool settingsShown_ = false;

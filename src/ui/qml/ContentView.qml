@@ -9,7 +9,7 @@ import Quelby.Bridge
 FocusScope {
     id: view
 
-    required property DashboardModel monitor
+    required property DashboardModel dashboard
 
     // What the desktop likes.
     required property bool dark
@@ -75,7 +75,7 @@ FocusScope {
 
     onShowSettingsChanged: scrollTo(0)
 
-    Binding { target: view.monitor; property: "settingsShown"; value: view.showSettings }
+    Binding { target: view.dashboard; property: "settingsShown"; value: view.showSettings }
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
 
@@ -114,14 +114,14 @@ FocusScope {
             spacing: Theme.viewSpacing
 
             DashboardHeader {
-                content: view.monitor.header
+                content: view.dashboard.header
                 inSettings: view.showSettings
                 Layout.fillWidth: true
                 onSettingsToggled: view.showSettings = !view.showSettings
             }
 
             DashboardCards {
-                monitor: view.monitor
+                dashboard: view.dashboard
                 visible: !view.showSettings
                 Layout.fillWidth: true
             }
@@ -131,17 +131,17 @@ FocusScope {
                 model: view.showSettings ? 1 : 0
 
                 SettingsPanel {
-                    monitor: view.monitor
+                    dashboard: view.dashboard
                     Layout.fillWidth: true
                     onUninstallWanted: view.showUninstallConfirm = true
                 }
             }
 
             QuitButton {
-                content: view.monitor.quitButton
+                content: view.dashboard.quitButton
                 Layout.alignment: Qt.AlignHCenter
                 Layout.topMargin: 2 * Theme.unit
-                onClicked: view.monitor.quit()
+                onClicked: view.dashboard.quit()
             }
         }
     }
@@ -150,19 +150,19 @@ FocusScope {
         id: tip
 
         anchors.fill: parent
-        content: view.monitor.chargingTip
-        shown: view.monitor.shouldShowChargingTip
-        onAccepted: view.monitor.openBatterySettings()
-        onDismissed: view.monitor.shouldShowChargingTip = false
+        content: view.dashboard.chargingTip
+        shown: view.dashboard.shouldShowChargingTip
+        onAccepted: view.dashboard.openBatterySettings()
+        onDismissed: view.dashboard.shouldShowChargingTip = false
     }
 
     ConfirmDialog {
         id: uninstall
 
         anchors.fill: parent
-        content: view.monitor.uninstallConfirmation
+        content: view.dashboard.uninstallConfirmation
         shown: view.showUninstallConfirm
-        onAccepted: view.monitor.fullUninstall()
+        onAccepted: view.dashboard.fullUninstall()
         onDismissed: view.showUninstallConfirm = false
     }
 }

@@ -6,60 +6,60 @@ import Quelby.Bridge
 ColumnLayout {
     id: cards
 
-    required property DashboardModel monitor
+    required property DashboardModel dashboard
 
     spacing: Theme.viewSpacing
 
     ChargeLimitCard {
         visible: content.present
-        content: cards.monitor.chargeLimit
+        content: cards.dashboard.chargeLimit
         Layout.fillWidth: true
-        onToggled: enabled => cards.monitor.toggleChargeLimit(enabled)
-        onLimitChosen: percent => cards.monitor.setChargeLimit(percent)
-        onInstallWanted: cards.monitor.installDaemon()
+        onToggled: enabled => cards.dashboard.toggleChargeLimit(enabled)
+        onLimitChosen: percent => cards.dashboard.setChargeLimit(percent)
+        onInstallWanted: cards.dashboard.installDaemon()
     }
 
     PowerBadge {
-        content: cards.monitor.powerBadge
+        content: cards.dashboard.powerBadge
         Layout.fillWidth: true
     }
 
     BatteryCard {
         visible: content.present
-        content: cards.monitor.battery
+        content: cards.dashboard.battery
         Layout.fillWidth: true
     }
 
     ComponentCard {
-        content: cards.monitor.components
+        content: cards.dashboard.components
         Layout.fillWidth: true
     }
 
     ProcessCard {
-        content: cards.monitor.processes
+        content: cards.dashboard.processes
         Layout.fillWidth: true
     }
 
     TrendCard {
         visible: content.present
-        content: cards.monitor.trend
+        content: cards.dashboard.trend
         Layout.fillWidth: true
     }
 
     HistoryCard {
-        content: cards.monitor.history
+        content: cards.dashboard.history
         Layout.fillWidth: true
-        onRangeChosen: index => cards.monitor.selectHistoryRange(index)
+        onRangeChosen: index => cards.dashboard.selectHistoryRange(index)
     }
 
     EfficiencyCard {
-        content: cards.monitor.efficiency
+        content: cards.dashboard.efficiency
         Layout.fillWidth: true
     }
 
     BatteryDetailsCard {
         visible: content.present
-        content: cards.monitor.details
+        content: cards.dashboard.details
         Layout.fillWidth: true
     }
 }

@@ -6,41 +6,41 @@ import Quelby.Bridge
 ColumnLayout {
     id: panel
 
-    required property DashboardModel monitor
+    required property DashboardModel dashboard
 
     signal uninstallWanted
 
     spacing: Theme.viewSpacing
 
     GeneralSection {
-        content: panel.monitor.settings.general
+        content: panel.dashboard.settings.general
         Layout.fillWidth: true
-        onLaunchAtLoginTurned: on => panel.monitor.setLaunchAtLogin(on)
-        onDisplayChosen: index => panel.monitor.selectMenuBarDisplay(index)
+        onLaunchAtLoginTurned: on => panel.dashboard.setLaunchAtLogin(on)
+        onDisplayChosen: index => panel.dashboard.selectMenuBarDisplay(index)
     }
 
     CalibrationSection {
-        content: panel.monitor.settings.calibration
+        content: panel.dashboard.settings.calibration
         Layout.fillWidth: true
-        onAutoCalibrateTurned: on => panel.monitor.setAutoCalibrate(on)
-        onIntervalChosen: index => panel.monitor.selectCalibrationInterval(index)
+        onAutoCalibrateTurned: on => panel.dashboard.setAutoCalibrate(on)
+        onIntervalChosen: index => panel.dashboard.selectCalibrationInterval(index)
     }
 
     HelperSection {
-        content: panel.monitor.settings.helper
+        content: panel.dashboard.settings.helper
         Layout.fillWidth: true
-        onInstallWanted: panel.monitor.installDaemon()
-        onUninstallWanted: panel.monitor.uninstallDaemon()
+        onInstallWanted: panel.dashboard.installDaemon()
+        onUninstallWanted: panel.dashboard.uninstallDaemon()
     }
 
     UninstallSection {
-        content: panel.monitor.settings.uninstall
+        content: panel.dashboard.settings.uninstall
         Layout.fillWidth: true
         onUninstallWanted: panel.uninstallWanted()
     }
 
     InkText {
-        content: panel.monitor.settings.version
+        content: panel.dashboard.settings.version
         Layout.alignment: Qt.AlignHCenter
     }
 }

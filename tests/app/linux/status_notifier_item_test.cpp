@@ -20,7 +20,7 @@ using testing::IsEmpty;
 using testing::Optional;
 using testing::SizeIs;
 
-const ItemLook look{"battery.75percent", "-12W", "80 % discharging", MenuBarDisplay::watts};
+const ItemContent content{"battery.75percent", "-12W", "80 % discharging", MenuBarDisplay::watts};
 
 class StatusNotifierItemTest : public testing::Test {
 protected:
@@ -31,7 +31,7 @@ protected:
 
     void showAt(std::string_view host) {
         item.setHost(trayHost(host));
-        item.show(look);
+        item.show(content);
         static_cast<void>(signalsSoFar());
     }
 
@@ -156,7 +156,7 @@ TEST_F(StatusNotifierItemTest, FollowsAChangeOfHosts) {
 
 TEST_F(StatusNotifierItemTest, SignalsALabelThatChangesAndNothingElse) {
     showAt("gnome-shell");
-    auto changed = look;
+    auto changed = content;
     changed.title = "-13W";
     item.show(changed);
     EXPECT_THAT(signalsSoFar(), ElementsAre("XAyatanaNewLabel", "PropertiesChanged"));
@@ -169,7 +169,7 @@ TEST_F(StatusNotifierItemTest, SignalsALabelThatChangesAndNothingElse) {
 }
 
 TEST_F(StatusNotifierItemTest, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
-    auto otherTitle = look;
+    auto otherTitle = content;
     otherTitle.title = "-13W";
     auto otherSymbol = otherTitle;
     otherSymbol.symbol = "battery.50percent";
@@ -190,7 +190,7 @@ TEST_F(StatusNotifierItemTest, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
 TEST_F(StatusNotifierItemTest, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
     showAt("ayatana-indicat");
     const auto first = property("IconName").toString();
-    auto changed = look;
+    auto changed = content;
     changed.title = "-13W";
     item.show(changed);
     EXPECT_EQ(property("IconName").toString(), first);
@@ -204,7 +204,7 @@ TEST_F(StatusNotifierItemTest, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSy
 
 TEST_F(StatusNotifierItemTest, SignalsAToolTipThatChanges) {
     showAt("lxqt-panel");
-    auto changed = look;
+    auto changed = content;
     changed.toolTip = "79 % discharging";
     item.show(changed);
     EXPECT_THAT(signalsSoFar(), ElementsAre("NewToolTip"));
@@ -215,7 +215,7 @@ TEST_F(StatusNotifierItemTest, SaysNothingWhileNothingChanges) {
     for (const auto* const host : {"gnome-shell", "ayatana-indicat", "waybar", "lxqt-panel"}) {
         showAt(host);
         for (int tick = 0; tick < 10; ++tick) {
-            item.show(look);
+            item.show(content);
         }
         EXPECT_THAT(signalsSoFar(), IsEmpty()) << host;
     }

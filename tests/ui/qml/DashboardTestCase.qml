@@ -12,7 +12,7 @@ TestCase {
     property bool animated: false
 
     // What the presentation says; of the settings only while they are shown.
-    readonly property var said: view?.monitor ?? null
+    readonly property var said: view?.dashboard ?? null
 
     width: 400
     height: 660
@@ -44,8 +44,8 @@ TestCase {
     }
 
     function makeView() {
-        view = createTemporaryObject(viewComponent, testCase, { monitor: madeUp.model })
-        view.monitor.watched = true
+        view = createTemporaryObject(viewComponent, testCase, { dashboard: madeUp.model })
+        view.dashboard.watched = true
         view.forceActiveFocus()
         settle()
     }

@@ -45,7 +45,7 @@ bool looksUntil(const IsThere& isThere) {
 
 class LivingProcesses : public testing::Test {
 protected:
-    std::vector<ListedLine> look() {
+    std::vector<ListedLine> scan() {
         static_cast<void>(lister_.cpuListing());
         return listed(lister_.topListing());
     }
@@ -56,10 +56,10 @@ protected:
 TEST_F(LivingProcesses, AreListedUntilTheyEnd) {
     const auto name = uniqueName("rest");
     ChildProcess child(restingAs(name));
-    EXPECT_THAT(look(), has(name));
-    EXPECT_THAT(look(), has(name));
+    EXPECT_THAT(scan(), has(name));
+    EXPECT_THAT(scan(), has(name));
     child.end();
-    EXPECT_THAT(look(), Not(has(name)));
+    EXPECT_THAT(scan(), Not(has(name)));
 }
 
 TEST_F(LivingProcesses, HaveTheirShareSinceThePreviousLook) {
@@ -72,7 +72,7 @@ TEST_F(LivingProcesses, HaveTheirShareSinceThePreviousLook) {
         }
     });
     EXPECT_TRUE(looksUntil([&] {
-        look();
+        scan();
         return shareOf(name, lister_.topListing()).value_or(0) > 20;
     }));
 }
@@ -82,7 +82,7 @@ TEST_F(LivingProcesses, StayAtZeroWhileTheySleep) {
     const ChildProcess child(restingAs(name));
     const auto before = std::chrono::steady_clock::now();
     EXPECT_TRUE(looksUntil([&] {
-        look();
+        scan();
         return std::chrono::steady_clock::now() - before > std::chrono::milliseconds(300);
     }));
     EXPECT_EQ(shareOf(name, lister_.topListing()), 0);
@@ -99,10 +99,10 @@ TEST_F(LivingProcesses, ChangeTheirNames) {
         waitForEnd(go.readEnd);
         restingAs(after)({});
     });
-    EXPECT_THAT(look(), has(before));
+    EXPECT_THAT(scan(), has(before));
     go.writeEnd.close();
-    EXPECT_TRUE(looksUntil([&] { return testing::Value(look(), has(after)); }));
-    EXPECT_THAT(look(), Not(has(before)));
+    EXPECT_TRUE(looksUntil([&] { return testing::Value(scan(), has(after)); }));
+    EXPECT_THAT(scan(), Not(has(before)));
 }
 
 // Runs a copy of `cat`, which waits for input that never comes.
@@ -144,14 +144,14 @@ TEST_F(LivingProcesses, HaveTheWholeNameOfTheirProgram) {
     LongNamed longNamed;
     std::filesystem::copy_file("/bin/cat", longNamed.program());
     longNamed.run("cat");
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheWholeNameOfALinkToTheirProgram) {
     LongNamed longNamed;
     std::filesystem::create_symlink("/bin/cat", longNamed.program());
     longNamed.run(longNamed.program().c_str());
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheWholeNameOfAProgramThatWasDeleted) {
@@ -159,17 +159,17 @@ TEST_F(LivingProcesses, HaveTheWholeNameOfAProgramThatWasDeleted) {
     std::filesystem::copy_file("/bin/cat", longNamed.program());
     longNamed.run("cat");
     std::filesystem::remove(longNamed.program());
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheNameTheyChoseWhereItIsNotTheirPrograms) {
     const std::string fifteenBytes = "my own long nam";
     const ChildProcess child(restingAs(fifteenBytes));
-    EXPECT_THAT(look(), has(fifteenBytes));
+    EXPECT_THAT(scan(), has(fifteenBytes));
 }
 
 TEST_F(LivingProcesses, CountThisProgramToo) {
-    EXPECT_THAT(look(), has("linux_processes_tests"));
+    EXPECT_THAT(scan(), has("linux_processes_tests"));
 }
 
 } // namespace

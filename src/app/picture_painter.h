@@ -9,9 +9,9 @@
 
 namespace quelby::app {
 
-class DashboardPainter {
+class PicturePainter {
 public:
-    virtual ~DashboardPainter() = default;
+    virtual ~PicturePainter() = default;
 
     // What the dashboard looks like, at rest, without a display.
     [[nodiscard]] virtual QImage picture(std::shared_ptr<PowerMonitor> monitor, Clock& clock,
@@ -19,6 +19,6 @@ public:
 };
 
 // Null where a part of the program is missing, as it is in a damaged installation only.
-[[nodiscard]] std::unique_ptr<DashboardPainter> loadDashboardPainter();
+[[nodiscard]] std::unique_ptr<PicturePainter> loadPicturePainter();
 
 } // namespace quelby::app

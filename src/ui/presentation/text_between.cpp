@@ -1,4 +1,4 @@
-#include "ui/presentation/gliding_text.h"
+#include "ui/presentation/text_between.h"
 
 #include <algorithm>
 #include <optional>
@@ -38,7 +38,7 @@ std::optional<Figure> figureIn(std::string_view text) {
 
 } // namespace
 
-std::string glidingText(std::string_view from, std::string_view to, double progress) {
+std::string textBetween(std::string_view from, std::string_view to, double progress) {
     const auto start = figureIn(from);
     const auto end = figureIn(to);
     const bool glides = start && end && start->before == end->before && start->behind == end->behind;

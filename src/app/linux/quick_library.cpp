@@ -2,7 +2,7 @@
 
 #include <QtGlobal>
 
-#include "app/linux/dashboard_library.h"
+#include "app/linux/quick_library.h"
 #include "app/linux/popover_window.h"
 #include "ui/view/dashboard_picture.h"
 #include "ui/view/dashboard_view.h"
@@ -11,11 +11,11 @@ namespace quelby::app {
 
 namespace {
 
-class QuickDashboard final : public DashboardLibrary {
+class LoadedQuickLibrary final : public QuickLibrary {
 public:
-    QuickDashboard() { drawWithoutGpu(); }
+    LoadedQuickLibrary() { drawWithoutGpu(); }
 
-    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow(const DashboardWindowParts& parts,
+    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow(const PopoverParts& parts,
                                                               PopoverForm form,
                                                               DashboardWindow::Listener listener) override {
         return std::make_unique<PopoverWindow>(parts, form, std::move(listener));
@@ -32,6 +32,6 @@ public:
 
 } // namespace quelby::app
 
-extern "C" Q_DECL_EXPORT quelby::app::DashboardLibrary* quelbyMakeDashboard() {
-    return new quelby::app::QuickDashboard; // owned by the caller
+extern "C" Q_DECL_EXPORT quelby::app::QuickLibrary* quelbyMakeDashboard() {
+    return new quelby::app::LoadedQuickLibrary; // owned by the caller
 }

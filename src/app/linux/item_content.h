@@ -7,13 +7,13 @@
 namespace quelby::app {
 
 // What a status item shows.
-struct ItemLook {
+struct ItemContent {
     std::string symbol;
     std::string title; // trimmed
     std::string toolTip;
     MenuBarDisplay display = MenuBarDisplay::watts; // chosen in its menu
 
-    bool operator==(const ItemLook&) const = default;
+    bool operator==(const ItemContent&) const = default;
 };
 
 } // namespace quelby::app

@@ -1,4 +1,4 @@
-#include "running_program.h"
+#include "recorder_process.h"
 #include "support/started.h"
 
 #include <algorithm>
@@ -33,7 +33,7 @@ namespace {
 
 } // namespace
 
-RunningProgram::RunningProgram(const std::vector<std::string>& words, const Environment& environment) {
+RecorderProcess::RecorderProcess(const std::vector<std::string>& words, const Environment& environment) {
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
         ADD_FAILURE() << "no pipe";
@@ -47,22 +47,22 @@ RunningProgram::RunningProgram(const std::vector<std::string>& words, const Envi
     }
 }
 
-RunningProgram::~RunningProgram() {
+RecorderProcess::~RecorderProcess() {
     if (process_ > 0) {
         static_cast<void>(kill());
     }
 }
 
-void RunningProgram::readLines(std::ptrdiff_t count) {
+void RecorderProcess::readLines(std::ptrdiff_t count) {
     while (lines() < count && readMore()) {
     }
 }
 
-std::ptrdiff_t RunningProgram::lines() const {
+std::ptrdiff_t RecorderProcess::lines() const {
     return std::count(text_.begin(), text_.end(), '\n');
 }
 
-ProgramResult RunningProgram::kill() {
+ProgramResult RecorderProcess::kill() {
     if (process_ <= 0) {
         return {};
     }
@@ -74,7 +74,7 @@ ProgramResult RunningProgram::kill() {
     return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status), text_, {}};
 }
 
-bool RunningProgram::readMore() {
+bool RecorderProcess::readMore() {
     std::array<char, 4096> buffer{};
     const auto count = ::read(output_.number(), buffer.data(), buffer.size());
     if (count <= 0) {

@@ -5,13 +5,13 @@
 namespace quelby {
 
 // One of the built programs at work, with its output in a pipe and nothing on standard input.
-class RunningProgram {
+class RecorderProcess {
 public:
     // The environment is added to the test's own.
-    explicit RunningProgram(const std::vector<std::string>& words, const Environment& environment = {});
-    RunningProgram(const RunningProgram&) = delete;
-    RunningProgram& operator=(const RunningProgram&) = delete;
-    ~RunningProgram(); // kills the program
+    explicit RecorderProcess(const std::vector<std::string>& words, const Environment& environment = {});
+    RecorderProcess(const RecorderProcess&) = delete;
+    RecorderProcess& operator=(const RecorderProcess&) = delete;
+    ~RecorderProcess(); // kills the program
 
     // Reads until so many lines have come in all, or the output ends.
     void readLines(std::ptrdiff_t count);

@@ -1,4 +1,4 @@
-#include "app/macos/quick_dashboard.h"
+#include "app/macos/popover_content.h"
 
 #include <utility>
 
@@ -9,25 +9,25 @@
 
 namespace quelby::app {
 
-QuickDashboard::QuickDashboard(ModelMaker makeModel, std::function<void()> leave)
+PopoverContent::PopoverContent(ModelMaker makeModel, std::function<void()> leave)
     : makeModel_(std::move(makeModel)), leave_(std::move(leave)) {
     setTitle(QString::fromUtf8(words::program));
     resize(viewWidth, viewHeight);
 }
 
-QuickDashboard::~QuickDashboard() {
+PopoverContent::~PopoverContent() {
     if (view_) {
         view_->item().setParentItem(nullptr);
     }
 }
 
-void QuickDashboard::make(Appearance appearance) {
+void PopoverContent::make(Appearance appearance) {
     model_ = makeModel_();
     view_ = std::make_unique<DashboardView>(*model_, appearance);
     view_->item().setParentItem(contentItem());
 }
 
-void QuickDashboard::open(Appearance appearance) {
+void PopoverContent::open(Appearance appearance) {
     if (!view_) {
         make(appearance);
     }
@@ -38,22 +38,22 @@ void QuickDashboard::open(Appearance appearance) {
     show();
 }
 
-void QuickDashboard::setAppearance(Appearance appearance) {
+void PopoverContent::setAppearance(Appearance appearance) {
     view_->setAppearance(appearance);
 }
 
-void QuickDashboard::showSettings() {
+void PopoverContent::showSettings() {
     view_->showSettings(true);
 }
 
-void QuickDashboard::shut() {
+void PopoverContent::shut() {
     hide();
     if (view_) {
         view_->setWatched(false);
     }
 }
 
-void QuickDashboard::keyPressEvent(QKeyEvent* event) {
+void PopoverContent::keyPressEvent(QKeyEvent* event) {
     QQuickWindow::keyPressEvent(event);
     if (!event->isAccepted() && event->key() == Qt::Key_Escape) {
         leave_();

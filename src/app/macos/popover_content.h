@@ -11,13 +11,13 @@ namespace quelby::app {
 
 // The window that the dashboard is drawn in, wherever it is put. The dashboard itself is made when it is
 // first opened.
-class QuickDashboard final : public QQuickWindow {
+class PopoverContent final : public QQuickWindow {
 public:
     using ModelMaker = std::function<std::unique_ptr<DashboardModel>()>;
 
     // `leave` is what the Escape key does where nothing in the dashboard has a use for it.
-    QuickDashboard(ModelMaker makeModel, std::function<void()> leave);
-    ~QuickDashboard() override;
+    PopoverContent(ModelMaker makeModel, std::function<void()> leave);
+    ~PopoverContent() override;
 
     // Shows the cards.
     void open(Appearance appearance);

@@ -9,7 +9,7 @@
 
 #include <QPoint>
 
-#include "app/dashboard_painter.h"
+#include "app/picture_painter.h"
 #include "app/popover.h"
 #include "ui/view/appearance.h"
 
@@ -47,7 +47,7 @@ public:
 };
 
 // What the window is about, and what it asks of the program.
-struct DashboardWindowParts {
+struct PopoverParts {
     std::shared_ptr<PowerMonitor> monitor;
     Ref<Clock> clock; // outlives the window
     std::function<void()> quit;
@@ -55,14 +55,14 @@ struct DashboardWindowParts {
     std::function<Appearance()> appearance;
 };
 
-class DashboardLibrary : public DashboardPainter {
+class QuickLibrary : public PicturePainter {
 public:
     [[nodiscard]] virtual std::unique_ptr<DashboardWindow>
-    makeWindow(const DashboardWindowParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
+    makeWindow(const PopoverParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
 };
 
 // From the file beside the program, which stays loaded then. Null where it is missing, as it is in a damaged
 // installation only.
-[[nodiscard]] std::unique_ptr<DashboardLibrary> loadDashboardLibrary();
+[[nodiscard]] std::unique_ptr<QuickLibrary> loadQuickLibrary();
 
 } // namespace quelby::app
