@@ -16,7 +16,7 @@
 
 #include "briefly.h"
 #include "platform/host/machine.h"
-#include "ui/presentation/metrics.h"
+#include "ui/presentation/elements/metrics.h"
 #include "ui/view/dashboard_view.h"
 
 namespace quelby {
@@ -45,9 +45,8 @@ public:
     }
 
     [[nodiscard]] std::unique_ptr<DashboardModel> model() {
-        return std::make_unique<DashboardModel>(
-            monitor_, machine_->platform().clock,
-            ProgramActions{.quit = [] {}, .openBatterySettings = [] {}});
+        return std::make_unique<DashboardModel>(monitor_, machine_->platform().clock,
+                                                ProgramActions{.quit = [] {}, .openBatterySettings = [] {}});
     }
 
 private:

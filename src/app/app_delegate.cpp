@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
-#include "ui/presentation/menu_bar_title.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/text/menu_bar_title.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 

@@ -5,7 +5,7 @@
 #include "app/recorder_lock.h"
 #include "console/cycles.h"
 #include "console/standard_output.h"
-#include "ui/presentation/cycle_line.h"
+#include "ui/presentation/text/cycle_line.h"
 
 namespace quelby::app {
 

@@ -1,5 +1,5 @@
-#include "cli/command_line.h"
-#include "cli/commands.h"
+#include "cli/arguments/command_line.h"
+#include "cli/commands/commands.h"
 #include "console/program.h"
 
 namespace quelby::cli {

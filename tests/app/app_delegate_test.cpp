@@ -6,7 +6,7 @@
 
 #include "support/fake_desktop.h"
 #include "support/fake_platform.h"
-#include "ui/presentation/menu_bar_title.h"
+#include "ui/presentation/text/menu_bar_title.h"
 
 namespace quelby::app {
 namespace {

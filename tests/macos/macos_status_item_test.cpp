@@ -4,7 +4,7 @@
 
 #include "macos/doubles/app_kit.h"
 #include "macos/doubles/frameworks.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 namespace {

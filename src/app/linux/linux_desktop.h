@@ -5,10 +5,10 @@
 #include <QObject>
 
 #include "app/desktop.h"
-#include "app/linux/desktop_appearance.h"
-#include "app/linux/linux_popover.h"
-#include "app/linux/linux_status_item.h"
-#include "app/linux/session_bus.h"
+#include "app/linux/popover/linux_popover.h"
+#include "app/linux/session/desktop_appearance.h"
+#include "app/linux/session/session_bus.h"
+#include "app/linux/tray/linux_status_item.h"
 
 namespace quelby::app {
 

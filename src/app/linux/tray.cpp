@@ -4,8 +4,8 @@
 
 #include "app/app_delegate.h"
 #include "app/linux/linux_desktop.h"
-#include "app/linux/single_instance.h"
-#include "app/linux/x_connection.h"
+#include "app/linux/session/single_instance.h"
+#include "app/linux/session/x_connection.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
 #include "console/program.h"

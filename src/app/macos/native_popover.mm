@@ -6,7 +6,7 @@
 #include "app/macos/menu_bar_application.h"
 #include "app/macos/notification_listener.h"
 #include "platform/macos/own.h"
-#include "ui/presentation/metrics.h"
+#include "ui/presentation/elements/metrics.h"
 
 namespace quelby::app {
 

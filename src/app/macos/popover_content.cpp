@@ -4,8 +4,8 @@
 
 #include <QKeyEvent>
 
-#include "ui/presentation/metrics.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/elements/metrics.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 

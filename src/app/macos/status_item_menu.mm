@@ -1,7 +1,7 @@
 #include "app/macos/status_item_menu.h"
 
 #include "platform/macos/foundation_text.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 

@@ -5,7 +5,7 @@
 #include "app/macos/status_item_menu.h"
 #include "platform/macos/foundation_text.h"
 #include "platform/macos/own.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/text/words.h"
 
 using namespace quelby;
 

@@ -14,7 +14,7 @@
 #include <qqmlintegration.h>
 
 #include "ui/bridge/chart_style.h"
-#include "ui/presentation/chart_scale.h"
+#include "ui/presentation/charts/chart_scale.h"
 
 namespace quelby {
 

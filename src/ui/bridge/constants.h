@@ -5,8 +5,8 @@
 #include <QString>
 #include <qqmlintegration.h>
 
-#include "ui/presentation/metrics.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/elements/metrics.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby {
 

@@ -1,7 +1,7 @@
 #include "ui/bridge/dashboard_model.h"
 
-#include "ui/presentation/dialogs.h"
-#include "ui/presentation/relative_date.h"
+#include "ui/presentation/cards/dialogs.h"
+#include "ui/presentation/text/relative_date.h"
 
 namespace quelby {
 

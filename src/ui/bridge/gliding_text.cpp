@@ -1,6 +1,6 @@
 #include "ui/bridge/gliding_text.h"
 
-#include "ui/presentation/text_between.h"
+#include "ui/presentation/text/text_between.h"
 
 namespace quelby {
 

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "ui/presentation/history_chart.h"
+#include "ui/presentation/charts/history_chart.h"
 
 namespace quelby {
 

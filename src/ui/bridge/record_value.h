@@ -21,7 +21,7 @@
 #include <qqmlintegration.h>
 
 #include "ui/bridge/shared_record.h"
-#include "ui/presentation/record.h"
+#include "ui/presentation/elements/record.h"
 
 // The type of QML that each kind of member has.
 #define QUELBY_QML_part(type) quelby::type##Value

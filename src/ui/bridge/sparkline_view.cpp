@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "ui/presentation/sparkline.h"
+#include "ui/presentation/charts/sparkline.h"
 
 namespace quelby {
 

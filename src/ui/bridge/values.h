@@ -2,9 +2,9 @@
 #pragma once
 
 #include "ui/bridge/record_value.h"
+#include "ui/presentation/cards/dialogs.h"
+#include "ui/presentation/cards/settings_panel.h"
 #include "ui/presentation/dashboard.h"
-#include "ui/presentation/dialogs.h"
-#include "ui/presentation/settings_panel.h"
 
 namespace quelby {
 

@@ -2,16 +2,16 @@
 #pragma once
 
 #include "monitor/published_fields.h"
-#include "ui/presentation/battery_card.h"
-#include "ui/presentation/battery_details_card.h"
-#include "ui/presentation/charge_limit_card.h"
-#include "ui/presentation/component_card.h"
-#include "ui/presentation/efficiency_card.h"
-#include "ui/presentation/header.h"
-#include "ui/presentation/history_card.h"
-#include "ui/presentation/power_badge.h"
-#include "ui/presentation/process_card.h"
-#include "ui/presentation/trend_card.h"
+#include "ui/presentation/cards/battery_card.h"
+#include "ui/presentation/cards/battery_details_card.h"
+#include "ui/presentation/cards/charge_limit_card.h"
+#include "ui/presentation/cards/component_card.h"
+#include "ui/presentation/cards/efficiency_card.h"
+#include "ui/presentation/cards/header.h"
+#include "ui/presentation/cards/history_card.h"
+#include "ui/presentation/cards/power_badge.h"
+#include "ui/presentation/cards/process_card.h"
+#include "ui/presentation/cards/trend_card.h"
 
 namespace quelby {
 

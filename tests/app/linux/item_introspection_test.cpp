@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/linux/status_notifier_item.h"
 #include "app/linux/support/bus_peer.h"
+#include "app/linux/tray/status_notifier_item.h"
 
 namespace quelby::app {
 namespace {

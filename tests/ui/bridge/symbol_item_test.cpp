@@ -7,7 +7,7 @@
 
 #include "ui/bridge/symbol_item.h"
 #include "ui/bridge/values.h"
-#include "ui/presentation/menu_bar_title.h"
+#include "ui/presentation/text/menu_bar_title.h"
 #include "ui/support/made_up_dashboard.h"
 #include "ui/support/printing.h"
 

@@ -3,7 +3,7 @@
 #include <QMetaProperty>
 #include <gtest/gtest.h>
 
-#include "ui/presentation/relative_date.h"
+#include "ui/presentation/text/relative_date.h"
 #include "ui/support/made_up_dashboard.h"
 #include "ui/support/printing.h"
 

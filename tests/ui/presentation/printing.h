@@ -6,8 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/presentation/color.h"
-#include "ui/presentation/record.h"
+#include "ui/presentation/elements/color.h"
+#include "ui/presentation/elements/record.h"
 
 namespace quelby {
 

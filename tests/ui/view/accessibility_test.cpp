@@ -6,10 +6,10 @@
 
 #include "helper/daemon_config.h"
 #include "support/golden.h"
+#include "ui/presentation/cards/dialogs.h"
+#include "ui/presentation/cards/settings_panel.h"
 #include "ui/presentation/dashboard.h"
-#include "ui/presentation/dialogs.h"
-#include "ui/presentation/settings_panel.h"
-#include "ui/presentation/words.h"
+#include "ui/presentation/text/words.h"
 #include "ui/support/printing.h"
 #include "ui/support/shown_view.h"
 

@@ -9,8 +9,8 @@
 
 namespace quelby {
 
-// Processes by the files of /proc, as proc(5) defines them; no program is run. cpuListing() takes a scan at
-// all processes, and topListing() lists the same scan (and takes one only where there is none). A share is
+// Processes by the files of /proc, as proc(5) defines them; no program is run. cpuListing() scans
+// all processes, and topListing() lists the same scan (and makes one only where there is none). A share is
 // what was used since the previous scan, or the lifetime's average for a process seen for the first time.
 // Only what the user may see is listed (hidepid in proc(5)).
 //
@@ -21,7 +21,7 @@ public:
     // directory that stands in for /proc writes in place. The time of a scan can be handed in; the
     // directory's "uptime" goes before it, where there is one.
     explicit ProcProcessLister(std::filesystem::path procRoot,
-                               std::function<ScanTime()> scanTime = systemLookTime);
+                               std::function<ScanTime()> scanTime = systemScanTime);
 
     [[nodiscard]] std::optional<std::string> cpuListing() override;
     [[nodiscard]] std::optional<std::string> topListing() override;

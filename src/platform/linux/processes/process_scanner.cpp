@@ -9,7 +9,7 @@ namespace quelby {
 
 ProcessScanner::ProcessScanner(std::filesystem::path procRoot, CpuScale scale,
                                std::function<ScanTime()> scanTime)
-    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), lookTime_(std::move(scanTime)) {}
+    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), scanTime_(std::move(scanTime)) {}
 
 bool ProcessScanner::scan() {
     if (!directory_.listPids(pids_)) {
@@ -29,7 +29,7 @@ bool ProcessScanner::scan() {
 }
 
 ScanTime ProcessScanner::timeOfLook() {
-    auto time = lookTime_();
+    auto time = scanTime_();
     std::array<char, 64> buffer;
     if (const auto text = readBeginning(directory_.open("uptime"), buffer)) {
         time.uptimeSeconds = parseUptime(*text).value_or(time.uptimeSeconds);

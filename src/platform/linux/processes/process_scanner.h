@@ -37,7 +37,7 @@ private:
     ProcDirectory directory_;
     StatReader stats_;
     CpuScale scale_;
-    std::function<ScanTime()> lookTime_;
+    std::function<ScanTime()> scanTime_;
     std::vector<pid_t> pids_;
     ProcessTable table_;
 };

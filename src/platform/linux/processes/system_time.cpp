@@ -16,7 +16,7 @@ double seconds(clockid_t clock) {
 
 } // namespace
 
-ScanTime systemLookTime() {
+ScanTime systemScanTime() {
     return {seconds(CLOCK_MONOTONIC), seconds(CLOCK_BOOTTIME)};
 }
 

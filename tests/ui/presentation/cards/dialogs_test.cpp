@@ -1,0 +1,29 @@
+#include "ui/presentation/cards/dialogs.h"
+
+#include <gtest/gtest.h>
+
+namespace quelby {
+namespace {
+
+TEST(Dialogs, TellOfThePlatformsOwnCharging) {
+    const auto dialog = chargingTip();
+    EXPECT_EQ(dialog.title, "Disable Optimized Battery Charging");
+    EXPECT_EQ(dialog.message, "For Quelby's charge limit to work properly, disable macOS Optimized Battery "
+                              "Charging in System Settings → Battery.");
+    EXPECT_EQ(dialog.action, "Open Battery Settings");
+    EXPECT_FALSE(dialog.destructive);
+    EXPECT_EQ(dialog.cancel, "Got it");
+}
+
+TEST(Dialogs, AskBeforeEverythingIsRemoved) {
+    const auto dialog = uninstallConfirmation();
+    EXPECT_EQ(dialog.title, "Uninstall Quelby?");
+    EXPECT_EQ(dialog.message, "This will remove the charge helper, all settings, history data, and the app "
+                              "itself. This cannot be undone.");
+    EXPECT_EQ(dialog.action, "Uninstall Everything");
+    EXPECT_TRUE(dialog.destructive);
+    EXPECT_EQ(dialog.cancel, "Cancel");
+}
+
+} // namespace
+} // namespace quelby

@@ -1,0 +1,108 @@
+#include "ui/presentation/cards/power_badge.h"
+
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include "printing.h"
+
+namespace quelby {
+namespace {
+
+PowerBadge fullBadge(const char* figure) {
+    return {.symbol = {"checkmark.circle.fill", ColorName::green},
+            .sign = std::nullopt,
+            .figure = primary(figure),
+            .unit = secondary("W"),
+            .caption = secondary("Fully Charged — System Power Draw"),
+            .extra = {}};
+}
+
+PowerBadge chargingBadge(const char* figure, const char* system, const char* input) {
+    return {.symbol = {"bolt.fill", ColorName::green},
+            .sign = std::nullopt,
+            .figure = {figure, ColorName::green},
+            .unit = {"W", Color(ColorName::green, 0.7)},
+            .caption = secondary("Charging Battery"),
+            .extra = {{{"desktopcomputer", ColorName::secondary}, secondary(system)},
+                      {{"powerplug.fill", ColorName::secondary}, secondary(input)}}};
+}
+
+PowerBadge drainBadge(const char* figure, ColorName color) {
+    return {.symbol = {"battery.75percent", color},
+            .sign = Text{"-", color},
+            .figure = {figure, color},
+            .unit = secondary("W"),
+            .caption = secondary("Battery Drain"),
+            .extra = {}};
+}
+
+class PowerBadgeTest : public testing::Test {
+protected:
+    PowerBadgeTest() {
+        fields.totalPower = 12.34;
+        fields.chargePower = 21.98;
+        fields.acTotal = 83.4;
+    }
+
+    PublishedFields fields;
+};
+
+TEST_F(PowerBadgeTest, OfAFullBatteryShowsTheSystemsDraw) {
+    fields.isPluggedIn = true;
+    fields.fullyCharged = true;
+    EXPECT_EQ(powerBadge(fields), fullBadge("12.3"));
+}
+
+TEST_F(PowerBadgeTest, OfAChargingBatteryShowsWhatGoesIntoIt) {
+    fields.isPluggedIn = true;
+    EXPECT_EQ(powerBadge(fields), chargingBadge("22.0", "12W system", "83W total input"));
+}
+
+TEST_F(PowerBadgeTest, OnBatteryShowsTheDrain) {
+    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
+}
+
+TEST_F(PowerBadgeTest, OfAFullBatteryThatIsNotPluggedInShowsTheDrain) {
+    fields.fullyCharged = true;
+    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
+}
+
+// The adapter decides, not what the battery says of itself.
+TEST_F(PowerBadgeTest, DoesNotAskWhetherTheBatteryIsCharging) {
+    fields.isCharging = true;
+    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
+    fields.isPluggedIn = true;
+    fields.isCharging = false;
+    EXPECT_EQ(powerBadge(fields), chargingBadge("22.0", "12W system", "83W total input"));
+}
+
+TEST_F(PowerBadgeTest, ColoursTheDrainByItsSize) {
+    const std::tuple<double, const char*, ColorName> expected[] = {
+        {9.94, "9.9", ColorName::green},
+        {9.96, "10.0", ColorName::green},
+        {10.0, "10.0", ColorName::yellow},
+        {19.9, "19.9", ColorName::yellow},
+        {20.0, "20.0", ColorName::orange},
+        {29.9, "29.9", ColorName::orange},
+        {30.0, "30.0", ColorName::red},
+        {123.4, "123.4", ColorName::red},
+        {std::numeric_limits<double>::quiet_NaN(), "nan", ColorName::red}};
+    for (const auto& [watts, figure, color] : expected) {
+        fields.totalPower = watts;
+        EXPECT_EQ(powerBadge(fields), drainBadge(figure, color)) << watts;
+    }
+}
+
+TEST_F(PowerBadgeTest, RoundsHalvesToEven) {
+    fields.totalPower = 12.25;
+    EXPECT_EQ(powerBadge(fields), drainBadge("12.2", ColorName::yellow));
+    fields.isPluggedIn = true;
+    fields.chargePower = 12.75;
+    fields.totalPower = 12.5;
+    fields.acTotal = 25.5;
+    EXPECT_EQ(powerBadge(fields), chargingBadge("12.8", "12W system", "26W total input"));
+}
+
+} // namespace
+} // namespace quelby
