@@ -7,7 +7,7 @@
 #include <unistd.h>
 
 #include "history/sqlite/statement.h"
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 #include "support/started.h"
 
 namespace quelby {

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {

@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "history/history_store.h"
-#include "set_clock.h"
-#include "statement_log.h"
+#include "history/support/set_clock.h"
+#include "history/support/statement_log.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {

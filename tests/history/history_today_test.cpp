@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 #include "platform/posix/local_day.h"
 #include "support/time_zone.h"
 

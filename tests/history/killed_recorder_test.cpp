@@ -2,8 +2,8 @@
 #include <random>
 
 #include "base/number_text.h"
-#include "recorder_fixture.h"
-#include "tables.h"
+#include "history/support/recorder_fixture.h"
+#include "history/support/tables.h"
 
 namespace quelby {
 namespace {

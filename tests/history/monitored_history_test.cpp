@@ -1,12 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "file_size_limit.h"
 #include "history/history_file.h"
+#include "history/support/file_size_limit.h"
+#include "history/support/tables.h"
 #include "monitor/power_monitor.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
-#include "tables.h"
 
 namespace quelby {
 namespace {

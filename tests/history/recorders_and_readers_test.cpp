@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-#include "recorder_fixture.h"
+#include "history/support/recorder_fixture.h"
 
 namespace quelby {
 namespace {

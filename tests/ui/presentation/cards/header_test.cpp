@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "printing.h"
 #include "support/time_zone.h"
+#include "ui/presentation/printing.h"
 
 namespace quelby {
 namespace {

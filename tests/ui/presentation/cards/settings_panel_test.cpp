@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "printing.h"
+#include "ui/presentation/printing.h"
 
 namespace quelby {
 namespace {

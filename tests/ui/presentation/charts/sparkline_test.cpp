@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "chart_points.h"
-#include "printing.h"
+#include "ui/presentation/printing.h"
 
 namespace quelby {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "printing.h"
+#include "ui/presentation/printing.h"
 
 namespace quelby {
 namespace {
