@@ -22,8 +22,8 @@
 #include <unistd.h>
 
 #include "monitor/power_monitor.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/system_clock.h"
 #include "platform/system_readers.h"
 #include "support/fake_platform.h"
 

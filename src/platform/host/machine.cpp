@@ -4,8 +4,8 @@
 #include <random>
 
 #include "platform/host/chosen_folders.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/helper_files.h"
-#include "platform/posix/system_clock.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_run_loop.h"
 #include "platform/random_storage_draw.h"

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/days_from_now.h"
 #include "ui/support/made_up_dashboard.h"
 #include "ui/support/printing.h"
 
@@ -195,7 +196,7 @@ TEST_F(Values, OfTheChargeLimitCarryItsThreeStates) {
 }
 
 TEST_F(Values, OfTheSettingsCarryThem) {
-    const SettingsValue settings(settingsPanel(fields, now, "en"));
+    const SettingsValue settings(settingsPanel(fields, now, daysFromNow));
     EXPECT_EQ(settings.header.title.text, "Settings");
     EXPECT_EQ(settings.general.symbol.name, "gearshape");
     EXPECT_EQ(settings.general.title.text, "General");
@@ -213,7 +214,7 @@ TEST_F(Values, OfTheSettingsCarryThem) {
     EXPECT_EQ(settings.calibration.intervals[2], ChoiceValue(Choice{"1 Month", true}));
     EXPECT_THAT(settings.calibration.dates,
                 ElementsAre(label("checkmark.circle", ColorName::green, "Last: 3 days ago"),
-                            label("clock", ColorName::blue, "Next: in 1 month")));
+                            label("clock", ColorName::blue, "Next: in 27 days")));
     EXPECT_EQ(settings.version.text, "Quelby v1.0");
     EXPECT_EQ(settings.quit, LabelValue(quitButton()));
 }
