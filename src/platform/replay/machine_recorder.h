@@ -44,7 +44,9 @@ private:
 
     Platform real_;
     RecordedCycle cycle_;
-    bool helperLoaded_ = false; // as was told at the start, and holds for every cycle
+    // As they were told last, mostly at the start, which holds for every cycle from then on.
+    bool helperLoaded_ = false;
+    std::optional<std::string> config_;
 };
 
 } // namespace quelby

@@ -44,6 +44,9 @@ public:
     // The text of the helper's status.json, where there was one.
     [[nodiscard]] const std::optional<std::string>& helperStatus() const { return present_.status; }
 
+    // Likewise of its config.json.
+    [[nodiscard]] const std::optional<std::string>& helperConfig() const { return present_.config; }
+
     [[nodiscard]] bool isHelperLoaded() override { return present_.helperLoaded; }
 
     // Where nothing was recorded, the same draws come at every replay.
