@@ -43,7 +43,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     setupStatusItem();
     setupPopover();
     monitor_->startMonitoring();
-    monitor_->onUpdate = [runLoop = &platform_.runLoop, update = whileHere(&AppDelegate::updateMenuBar)] {
+    monitor_->onUpdate = [runLoop = platform_.runLoop, update = whileHere(&AppDelegate::updateMenuBar)] {
         runLoop->post(update);
     };
     updateMenuBar();
@@ -67,7 +67,7 @@ std::function<void()> AppDelegate::whileHere(void (AppDelegate::*action)()) {
 }
 
 void AppDelegate::setupStatusItem() {
-    statusItem_ = desktop_.makeStatusItem();
+    statusItem_ = &desktop_.makeStatusItem();
     if (!statusItem_->hasButton()) {
         return;
     }
@@ -96,11 +96,11 @@ void AppDelegate::setupStatusItem() {
 }
 
 void AppDelegate::setupPopover() {
-    popover_ = desktop_.makePopover(monitor_, whileHere(&AppDelegate::quit));
+    popover_ = &desktop_.makePopover(monitor_, whileHere(&AppDelegate::quit));
 }
 
 void AppDelegate::startMenuBarTimer() {
-    menuBarTimer_ = platform_.runLoop.repeat(titleInterval, whileHere(&AppDelegate::updateMenuBar));
+    menuBarTimer_ = platform_.runLoop->repeat(titleInterval, whileHere(&AppDelegate::updateMenuBar));
 }
 
 void AppDelegate::installKeyMonitor() {

@@ -15,7 +15,7 @@ Result<void> runHeadless(const MachineArguments& arguments) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
-    const auto lock = takeRecorderLock(platform.folders.applicationSupport());
+    const auto lock = takeRecorderLock(platform.folders->applicationSupport());
     if (!lock) {
         return tl::make_unexpected(lock.error());
     }
@@ -25,7 +25,7 @@ Result<void> runHeadless(const MachineArguments& arguments) {
         run.interval = std::chrono::seconds(0);
     }
     run.afterCycle = [&](const PowerMonitor& monitor) -> Result<void> {
-        static_cast<void>(writeToStandardOutput(cycleLine(monitor, platform.clock.now())));
+        static_cast<void>(writeToStandardOutput(cycleLine(monitor, platform.clock->now())));
         return {};
     };
     return runCycles(**machine, platform, run);

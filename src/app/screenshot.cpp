@@ -65,7 +65,7 @@ Result<void> takeScreenshot(const MachineArguments& arguments, const ScreenshotC
     }
     const auto platform = (*machine)->platform();
     auto run = untilThePicture(**machine, arguments.machine);
-    run.atEnd = [&](PowerMonitor& monitor) { return draw(monitor, platform.clock, command); };
+    run.atEnd = [&](PowerMonitor& monitor) { return draw(monitor, *platform.clock, command); };
     return runCycles(**machine, platform, run);
 }
 

@@ -28,7 +28,8 @@ public:
 
     virtual void setActions(StatusItemActions actions) = 0;
 
-    // A symbol by its name. One that cannot be made leaves the one before.
+    // A symbol by its name. One that cannot be made leaves the one before. The description is what a screen
+    // reader says of it; on Linux, whose hosts take none, it is ignored.
     virtual void setImage(std::string_view symbolName, std::string_view accessibilityDescription) = 0;
 
     // With a leading blank, which keeps it off the image, or empty.

@@ -37,7 +37,7 @@ Result<void> runDashboard(Machine& machine, const DashboardCommand& command) {
     const auto platform = machine.platform();
     const auto print = [&](const PowerMonitor& monitor) {
         const auto output = command.view == DashboardView::settings ? settingsOutput : dashboardOutput;
-        return writeToStandardOutput(output(monitor, platform.clock.now(), command.form));
+        return writeToStandardOutput(output(monitor, platform.clock->now(), command.form));
     };
     return runCycles(machine, platform, untilTheEnd(machine, print));
 }

@@ -5,7 +5,6 @@
 #include "cli/history_output.h"
 #include "cli/terminal/terminal_screen.h"
 #include "console/standard_output.h"
-#include "history/history_file.h"
 #include "history/history_store.h"
 
 namespace quelby::cli {
@@ -27,7 +26,7 @@ std::string inForm(OutputForm form, const HistoryView& view) {
 // The present of a recording is its end.
 void playToTheEnd(const Machine& machine, const Platform& platform) {
     while (machine.kind() == MachineKind::recorded && !machine.hasEnded()) {
-        static_cast<void>(platform.battery.readBattery());
+        static_cast<void>(platform.battery->readBattery());
     }
 }
 
@@ -36,13 +35,12 @@ void playToTheEnd(const Machine& machine, const Platform& platform) {
 Result<void> runHistory(Machine& machine, const HistoryCommand& command) {
     const auto platform = machine.platform();
     playToTheEnd(machine, platform);
-    const auto folder = platform.folders.applicationSupport();
-    if (const auto readable = openForReading(historyFile(folder)); !readable) {
-        return tl::make_unexpected(readable.error()); // the store itself would be silent
+    HistoryStore store(platform.folders->applicationSupport(), *platform.clock, HistoryAccess::readOnly);
+    if (auto opened = store.opened(); !opened) {
+        return opened;
     }
-    HistoryStore store(folder, platform.clock, HistoryAccess::readOnly);
     const HistoryView view{.range = command.range,
-                           .now = platform.clock.now(),
+                           .now = platform.clock->now(),
                            .result = store.loadData(command.range),
                            .todayWh = store.todayWh()};
     return writeToStandardOutput(inForm(command.form, view));

@@ -8,7 +8,6 @@
 #include "base/utf8.h"
 #include "cli/cycle_run.h"
 #include "console/standard_output.h"
-#include "helper/daemon_config.h"
 
 namespace quelby::cli {
 
@@ -45,59 +44,45 @@ std::string calibrationText(const PowerMonitor& monitor) {
                        monitor.calibrationEnabled ? helperText(monitor) : "");
 }
 
-// Writing is silent, so what was written is read again.
-Result<void> handedOver(const Platform& platform, const PowerMonitor& monitor) {
-    const auto text = platform.helperFolder.config();
-    const auto config = text ? decodeDaemonConfig(*text) : std::nullopt;
-    const bool same = config && config->chargeLimitEnabled == monitor.chargeLimitEnabled &&
-                      config->chargeLimitPercent == truncated(monitor.chargeLimitPercent) &&
-                      config->calibrationEnabled == monitor.calibrationEnabled &&
-                      config->calibrationIntervalDays == monitor.calibrationIntervalDays;
-    if (same) {
-        return {};
-    }
-    return problem(
-        fmt::format("cannot write the helper's settings to \"{}\"", platform.folders.helper().string()));
+using Change = std::function<Result<void>(PowerMonitor& monitor)>;
+
+Result<void> leaveAsItIs(PowerMonitor& /*monitor*/) {
+    return {};
 }
 
-using Change = std::function<void(PowerMonitor& monitor)>;
 using Describe = std::string (*)(const PowerMonitor& monitor);
 
 Result<void> changeAndPrint(Machine& machine, const Change& change, Describe describe) {
-    const auto platform = machine.platform();
-    return runCycles(machine, platform, untilTheEnd(machine, [&](PowerMonitor& monitor) -> Result<void> {
-                         if (change) {
-                             change(monitor);
-                             if (auto done = handedOver(platform, monitor); !done) {
-                                 return done;
-                             }
-                         }
-                         return writeToStandardOutput(describe(monitor));
+    return runCycles(machine, machine.platform(), untilTheEnd(machine, [&](PowerMonitor& monitor) {
+                         return change(monitor).and_then(
+                             [&] { return writeToStandardOutput(describe(monitor)); });
                      }));
 }
 
 } // namespace
 
 Result<void> runLimit(Machine& machine, const LimitCommand& command) {
-    Change change;
+    Change change = leaveAsItIs;
     if (command.enable) {
-        change = [&](PowerMonitor& monitor) { monitor.toggleChargeLimit(*command.enable); };
+        change = [&](PowerMonitor& monitor) { return monitor.toggleChargeLimit(*command.enable); };
     } else if (command.percent) {
         change = [&](PowerMonitor& monitor) {
-            monitor.setChargeLimit(static_cast<double>(*command.percent));
+            return monitor.setChargeLimit(static_cast<double>(*command.percent));
         };
     }
     return changeAndPrint(machine, change, limitText);
 }
 
 Result<void> runCalibration(Machine& machine, const CalibrationCommand& command) {
-    Change change;
+    Change change = leaveAsItIs;
     if (command.enable) {
         change = [&](PowerMonitor& monitor) {
-            monitor.updateCalibrationSettings(*command.enable, monitor.calibrationIntervalDays);
+            return monitor.updateCalibrationSettings(*command.enable, monitor.calibrationIntervalDays);
         };
     } else if (command.days) {
-        change = [&](PowerMonitor& monitor) { monitor.updateCalibrationSettings(true, *command.days); };
+        change = [&](PowerMonitor& monitor) {
+            return monitor.updateCalibrationSettings(true, *command.days);
+        };
     }
     return changeAndPrint(machine, change, calibrationText);
 }

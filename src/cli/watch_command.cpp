@@ -34,7 +34,7 @@ public:
 private:
     [[nodiscard]] Result<void> draw() {
         view_.size = screen_.size();
-        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock.now()), view_);
+        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock->now()), view_);
         view_.scrolledBy = std::clamp(view_.scrolledBy, 0, frame.furthestScroll);
         page_ = frame.page;
         std::vector<std::string> lines;
@@ -120,7 +120,7 @@ Result<void> watchLineByLine(Machine& machine, CycleRun run, OutputForm form) {
     const auto platform = machine.platform();
     run.afterCycle = [&](const PowerMonitor& monitor) {
         return writeToStandardOutput(form == OutputForm::json ? fieldsAsJson(monitor) + '\n'
-                                                              : cycleLine(monitor, platform.clock.now()));
+                                                              : cycleLine(monitor, platform.clock->now()));
     };
     return runCycles(machine, platform, run);
 }

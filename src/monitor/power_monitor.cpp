@@ -14,7 +14,7 @@ std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, con
 PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptions& options)
     : platform_(platform)
     , options_(options)
-    , storeDisplay_(menuBarDisplay.observe([preferences = &platform_.preferences](MenuBarDisplay coming) {
+    , storeDisplay_(menuBarDisplay.observe([preferences = platform_.preferences](MenuBarDisplay coming) {
         preferences->setText("menuBarDisplay", rawValue(coming));
     })) {}
 
@@ -35,17 +35,17 @@ void PowerMonitor::stopMonitoring() {
 }
 
 void PowerMonitor::restorePreferences() {
-    const auto stored = platform_.preferences.text("menuBarDisplay");
+    const auto stored = platform_.preferences->text("menuBarDisplay");
     if (const auto display = stored ? quelby::menuBarDisplay(*stored) : std::nullopt) {
         menuBarDisplay = *display;
     }
-    launchAtLogin = platform_.preferences.flag("launchAtLogin");
+    launchAtLogin = platform_.preferences->flag("launchAtLogin");
 }
 
 void PowerMonitor::openHistory() {
     historyStore_.reset(); // before its successor opens the same file
     if (options_.history) {
-        historyStore_.emplace(platform_.folders.applicationSupport(), platform_.clock, *options_.history);
+        historyStore_.emplace(platform_.folders->applicationSupport(), *platform_.clock, *options_.history);
     }
 }
 
@@ -67,7 +67,7 @@ void PowerMonitor::selectHistoryRange(TimeRange range) {
 }
 
 void PowerMonitor::scheduleCycles() {
-    dataTimer_ = platform_.runLoop.repeat(options_.interval, [weak = weak_from_this()] {
+    dataTimer_ = platform_.runLoop->repeat(options_.interval, [weak = weak_from_this()] {
         if (const auto monitor = weak.lock()) {
             monitor->collectAllData();
         }
@@ -90,25 +90,25 @@ void PowerMonitor::collectAllData() {
 }
 
 void PowerMonitor::readBatteryIOKit() {
-    publishBatteryReading(platform_.battery.readBattery(), *this);
+    publishBatteryReading(platform_.battery->readBattery(), *this);
 }
 
 void PowerMonitor::readCPUUsage() {
-    const auto listing = platform_.processes.cpuListing();
+    const auto listing = platform_.processes->cpuListing();
     if (!listing) {
         return;
     }
-    if (const auto usage = quelby::cpuUsage(*listing, platform_.processes.logicalProcessors())) {
+    if (const auto usage = quelby::cpuUsage(*listing, platform_.processes->logicalProcessors())) {
         cpuUsage = *usage;
     }
 }
 
 void PowerMonitor::calculatePower() {
-    quelby::calculatePower(*this, platform_.storageDraw);
+    quelby::calculatePower(*this, *platform_.storageDraw);
 }
 
 void PowerMonitor::readTopProcesses() {
-    const auto listing = platform_.processes.topListing();
+    const auto listing = platform_.processes->topListing();
     if (!listing) {
         return;
     }
@@ -118,7 +118,7 @@ void PowerMonitor::readTopProcesses() {
 }
 
 void PowerMonitor::sampleBattery() {
-    quelby::sampleBattery(batteryRecord_, platform_.clock.now(), batteryPercent);
+    quelby::sampleBattery(batteryRecord_, platform_.clock->now(), batteryPercent);
 }
 
 void PowerMonitor::predictBattery() {

@@ -17,12 +17,16 @@ namespace quelby {
 //   AppleRawMaxCapacity     mAh, full at present
 //   AppleRawCurrentCapacity mAh, remaining; 0 where only the percentage is known
 //   MaxCapacity             mAh or %, where the raw value is missing
-//   CurrentCapacity         mAh or %, likewise
+//   CurrentCapacity         mAh or %, where the raw value is missing
 //   CycleCount              charge cycles
-//   IsCharging, ExternalConnected, FullyCharged
-//   InstantAmperage         mA, negative while discharging; above 30000 it is taken for a negative number in
-//   16 bits Voltage                 mV Temperature             hundredths of a degree Celsius TimeRemaining
-//   minutes to empty or to full, by the system's own estimate
+//   IsCharging              Boolean, as are the next two
+//   ExternalConnected
+//   FullyCharged
+//   InstantAmperage         mA, negative while discharging; above 30000: a negative number in 16 bits
+//   Voltage                 mV
+//   Temperature             hundredths of a degree Celsius
+//   TimeRemaining           minutes to empty or to full, by the system's own estimate
+//
 using PropertyValue = std::variant<bool, std::int64_t>;
 using PropertyTable = std::map<std::string, PropertyValue, std::less<>>;
 

@@ -62,17 +62,10 @@ struct LoggedLoop final : RunLoop {
 class AppDelegateTest : public testing::Test {
 protected:
     [[nodiscard]] Platform platform() {
-        return {.battery = battery,
-                .processes = computer.processes,
-                .clock = computer.clock,
-                .folders = computer.folders,
-                .helperFolder = computer.helper,
-                .loginItem = computer.login,
-                .runLoop = runLoop,
-                .preferences = computer.preferences,
-                .privilegedShell = computer.administrator,
-                .serviceManager = computer.services,
-                .storageDraw = computer.storageDraw};
+        auto platform = computer.platform();
+        platform.battery = battery;
+        platform.runLoop = runLoop;
+        return platform;
     }
 
     void launch() {
@@ -236,10 +229,10 @@ TEST_F(AppDelegateTest, ScrollsThroughTheDisplaysAroundBothEnds) {
     EXPECT_EQ(after(15), MenuBarDisplay::percentage);
 }
 
-// Everything that may still call after the delegate is gone. The item is kept here, as a desktop may keep it.
+// Everything that may still call after the delegate is gone, among it the item, which is the desktop's.
 TEST_F(AppDelegateTest, DoesNothingAnyMoreOnceItIsGone) {
     launch();
-    const auto actions = desktop.item->actions;
+    const auto& actions = desktop.item->actions;
     const auto monitor = desktop.monitor;
     monitor->onUpdate();
     delegate.reset();

@@ -4,7 +4,6 @@
 #include "file_size_limit.h"
 #include "history/history_file.h"
 #include "monitor/power_monitor.h"
-#include "support/abandoned_handle.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 #include "tables.h"
@@ -100,7 +99,7 @@ TEST_F(MonitoredHistory, RenewsItsFieldsInOrder) {
 TEST_F(MonitoredHistory, IsEmptyWithoutAConnection) {
     startMonitoring();
     computer.folders.support = "/proc/nowhere";
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
+    monitor->startMonitoring();
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
     EXPECT_EQ(monitor->historyAvg, 0.0);
     EXPECT_EQ(monitor->historyMin, 0.0);
@@ -163,7 +162,7 @@ TEST_F(MonitoredHistory, LeavesAFileInItsFoldersPlaceAsItIs) {
     fs::remove_all(folder.path() / "Quelby");
     folder.write("Quelby", "mine");
     expectLivingFields();
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
+    monitor->startMonitoring();
     expectLivingFields();
     EXPECT_EQ(folder.read("Quelby"), "mine");
 }

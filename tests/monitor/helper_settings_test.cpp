@@ -1,3 +1,5 @@
+#include <limits>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -68,49 +70,64 @@ TEST_F(HelperSettings, KeepTheirDefaultsWithoutAWholeFile) {
 
 TEST_F(HelperSettings, AreWrittenWholeAtEveryChange) {
     monitor->lastCalibrationDate = 1700000000.0;
-    monitor->setChargeLimit(79.9);
+    EXPECT_TRUE(monitor->setChargeLimit(79.9));
     EXPECT_EQ(written(), (DaemonConfig{.chargeLimitPercent = 79, .lastCalibrationTimestamp = 1700000000.0}));
     for (const double percent : {85.0, 90.0, 95.0}) {
-        monitor->setChargeLimit(percent);
+        EXPECT_TRUE(monitor->setChargeLimit(percent));
         EXPECT_EQ(written().chargeLimitPercent, static_cast<std::int64_t>(percent));
     }
     EXPECT_EQ(computer.helper.writes, 4);
 }
 
 TEST_F(HelperSettings, RaiseTheChargingTipTheFirstTimeThatTheLimitIsSwitchedOn) {
-    monitor->toggleChargeLimit(false);
+    EXPECT_TRUE(monitor->toggleChargeLimit(false));
     EXPECT_FALSE(monitor->shouldShowChargingTip);
     EXPECT_THAT(computer.preferences.flags, IsEmpty());
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     EXPECT_TRUE(written().chargeLimitEnabled);
     EXPECT_TRUE(monitor->shouldShowChargingTip);
     EXPECT_TRUE(computer.preferences.flags.at("hasShownChargingTip"));
     monitor->shouldShowChargingTip = false;
-    monitor->toggleChargeLimit(false);
+    EXPECT_TRUE(monitor->toggleChargeLimit(false));
     EXPECT_FALSE(written().chargeLimitEnabled);
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     EXPECT_FALSE(monitor->shouldShowChargingTip);
 }
 
+TEST_F(HelperSettings, HoldAndSaySoWhereTheHelperCannotBeTold) {
+    computer.helper.writable = false;
+    EXPECT_EQ(monitor->toggleChargeLimit(true).error().sentence, "the helper's folder cannot be written to");
+    EXPECT_FALSE(monitor->setChargeLimit(85));
+    EXPECT_FALSE(monitor->updateCalibrationSettings(true, 60));
+    EXPECT_TRUE(monitor->chargeLimitEnabled);
+    EXPECT_TRUE(monitor->shouldShowChargingTip);
+    EXPECT_EQ(monitor->chargeLimitPercent, 85.0);
+    EXPECT_EQ(monitor->calibrationIntervalDays, 60);
+    computer.helper.writable = true;
+    monitor->lastCalibrationDate = std::numeric_limits<Date>::infinity();
+    EXPECT_FALSE(monitor->setChargeLimit(90));
+    EXPECT_EQ(computer.helper.writes, 3);
+}
+
 TEST_F(HelperSettings, OfTheCalibrationAreWrittenAsTheyAreGiven) {
-    monitor->updateCalibrationSettings(true, 60);
+    EXPECT_TRUE(monitor->updateCalibrationSettings(true, 60));
     EXPECT_TRUE(written().calibrationEnabled);
     EXPECT_EQ(written().calibrationIntervalDays, 60);
-    monitor->updateCalibrationSettings(false, monitor->calibrationIntervalDays);
+    EXPECT_TRUE(monitor->updateCalibrationSettings(false, monitor->calibrationIntervalDays));
     EXPECT_FALSE(written().calibrationEnabled);
     EXPECT_EQ(written().calibrationIntervalDays, 60);
 }
 
 TEST_F(HelperSettings, AskOnceWhetherTheHelperIsLoaded) {
-    computer.services.helperLoaded = true;
+    computer.installer.loaded = true;
     monitor->startMonitoring();
     cycle();
     EXPECT_TRUE(monitor->daemonInstalled);
-    EXPECT_EQ(computer.services.questions, 1);
+    EXPECT_EQ(computer.installer.questions, 1);
 }
 
 TEST_F(HelperSettings, LetTheHelpersOwnWordDecideWhetherItIsThere) {
-    computer.services.helperLoaded = false;
+    computer.installer.loaded = false;
     computer.helper.statusText = helperHolds;
     monitor->startMonitoring();
     EXPECT_TRUE(monitor->daemonInstalled);
@@ -153,7 +170,7 @@ TEST_F(HelperSettings, ComposeTheStatusFromTheFieldsOfTheCycle) {
     computer.battery.reading = PropertyTable{{"ExternalConnected", true}, {"CurrentCapacity", 60}};
     computer.helper.statusText =
         R"({"daemonRunning":true,"chargingInhibited":false,"calibrationActive":false,"batteryPercent":99,"lastUpdate":0})";
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     monitor->startMonitoring();
     EXPECT_EQ(monitor->chargeLimitStatus.get(), "Charging to 80%");
     computer.battery.reading = PropertyTable{{"ExternalConnected", true}, {"CurrentCapacity", 85}};

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/abandoned_handle.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
 
@@ -232,7 +231,7 @@ TEST_F(RecordingMonitorTest, WithAHistoryThatCannotBeOpenedAnswersAreEmptyAndAll
     const auto monitor = withHistory(HistoryAccess::recording);
     int updates = 0;
     monitor->onUpdate = [&] { ++updates; };
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
+    monitor->startMonitoring();
     monitor->todayWh = 5;
     monitor->selectHistoryRange(TimeRange::oneHour);
     EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);

@@ -15,8 +15,10 @@ class QuickDashboard final : public DashboardLibrary {
 public:
     QuickDashboard() { drawWithoutGpu(); }
 
-    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow(DashboardWindowParts parts) override {
-        return std::make_unique<PopoverWindow>(std::move(parts));
+    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow(const DashboardWindowParts& parts,
+                                                              PopoverForm form,
+                                                              DashboardWindow::Listener listener) override {
+        return std::make_unique<PopoverWindow>(parts, form, std::move(listener));
     }
 
     [[nodiscard]] QImage picture(std::shared_ptr<PowerMonitor> monitor, Clock& clock,

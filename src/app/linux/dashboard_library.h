@@ -21,33 +21,44 @@ enum class PopoverForm {
 };
 
 // The dashboard in a window of its own.
-class DashboardWindow : public Popover {
+class DashboardWindow {
 public:
-    // Where the item was pressed, in pixels of the screen; nothing where that is not known.
-    virtual void setItemPlace(std::optional<QPoint> place) = 0;
+    // What happens to the window. It decides nothing by itself: whoever hears of it hides the window.
+    struct Listener {
+        std::function<void()> left;                       // by Escape, or with the focus
+        std::function<void(QPoint where)> pressedOutside; // in pixels of the screen
+        std::function<void()> closedByFrame;
+    };
 
-    virtual void setForm(PopoverForm form) = 0;
+    virtual ~DashboardWindow() = default;
 
-    // Whether the press that closed the popover is the one that now asks to open it again.
-    [[nodiscard]] virtual bool closedByThisPress(std::optional<QPoint> place) const = 0;
+    [[nodiscard]] virtual bool isShown() const = 0;
 
-    // The desktop likes its programs otherwise now.
-    virtual void appearanceChanged() = 0;
+    // The cards, in front of everything else and with the keyboard. The place is where the item was pressed,
+    // in pixels of the screen; nothing where that is not known.
+    virtual void show(std::optional<QPoint> itemPlace) = 0;
+
+    // The settings in place of the cards.
+    virtual void showSettings() = 0;
+
+    virtual void hide() = 0;
+
+    virtual void setAppearance(Appearance appearance) = 0;
 };
 
-// What the window is about, and what it asks of the program. The clock outlives it.
+// What the window is about, and what it asks of the program.
 struct DashboardWindowParts {
     std::shared_ptr<PowerMonitor> monitor;
-    Clock* clock = nullptr;
+    Ref<Clock> clock; // outlives the window
     std::function<void()> quit;
     std::function<void()> openBatterySettings;
     std::function<Appearance()> appearance;
-    std::function<void()> ordinaryClosed; // the window of the ordinary form was closed by its frame
 };
 
 class DashboardLibrary : public DashboardPainter {
 public:
-    [[nodiscard]] virtual std::unique_ptr<DashboardWindow> makeWindow(DashboardWindowParts parts) = 0;
+    [[nodiscard]] virtual std::unique_ptr<DashboardWindow>
+    makeWindow(const DashboardWindowParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
 };
 
 // From the file beside the program, which stays loaded then. Null where it is missing, as it is in a damaged

@@ -21,16 +21,8 @@ void LinuxStatusItem::setBus(const std::optional<QDBusConnection>& bus) {
         dockInOlderTray();
         return;
     }
-    item_.emplace(*bus, listener_.pressed);
-    item_->setActions(actions_);
+    item_.emplace(*bus, actions_, listener_.pressed);
     watcher_.emplace(*bus, [this](const std::optional<TrayHost>& host) { hostChanged(host); });
-}
-
-void LinuxStatusItem::setActions(StatusItemActions actions) {
-    actions_ = std::move(actions);
-    if (item_) {
-        item_->setActions(actions_);
-    }
 }
 
 void LinuxStatusItem::hostChanged(const std::optional<TrayHost>& host) {

@@ -29,7 +29,8 @@ public:
 
     [[nodiscard]] bool hasButton() const override { return true; }
 
-    void setActions(StatusItemActions actions) override;
+    void setActions(StatusItemActions actions) override { actions_ = std::move(actions); }
+
     void setImage(std::string_view symbolName, std::string_view accessibilityDescription) override;
     void setTitle(std::string_view title) override;
     void setToolTip(std::string_view text) override;

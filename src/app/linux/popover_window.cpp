@@ -1,25 +1,14 @@
 #include "app/linux/popover_window.h"
 
-#include <chrono>
-
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
-#include <malloc.h>
 
 #include "app/linux/popover_place.h"
 
 namespace quelby::app {
 
 namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto keptAfterClosing = 60s;
-
-// A press that closes the popover from outside reaches the item afterwards; hosts take their time.
-constexpr qint64 samePressMilliseconds = 500;
-constexpr int samePressPixels = 32;
 
 // A program of Wayland is told of nothing outside its own windows.
 bool seesWholeScreen() {
@@ -56,7 +45,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         QQuickWindow::keyPressEvent(event);
         if (!event->isAccepted() && event->key() == Qt::Key_Escape) {
-            popover_.close();
+            popover_.listener_.left();
         }
     }
 
@@ -64,84 +53,44 @@ protected:
     void focusOutEvent(QFocusEvent* event) override {
         QQuickWindow::focusOutEvent(event);
         if (!popover_.presses_ && popover_.form_ == PopoverForm::atTheItem) {
-            popover_.close();
+            popover_.listener_.left();
         }
     }
 
     void closeEvent(QCloseEvent* event) override {
         QQuickWindow::closeEvent(event);
-        popover_.close();
-        if (popover_.form_ == PopoverForm::ordinary) {
-            popover_.parts_.ordinaryClosed();
-        }
+        popover_.listener_.closedByFrame();
     }
 
 private:
     PopoverWindow& popover_;
 };
 
-PopoverWindow::PopoverWindow(DashboardWindowParts parts) : parts_(std::move(parts)) {
-    givingBack_.setSingleShot(true);
-    givingBack_.setInterval(keptAfterClosing);
-    QObject::connect(&givingBack_, &QTimer::timeout, &givingBack_, [this] { giveBack(); });
+PopoverWindow::PopoverWindow(const DashboardWindowParts& parts, PopoverForm form, Listener listener)
+    : form_(form)
+    , listener_(std::move(listener))
+    , model_(parts.monitor, *parts.clock,
+             DashboardActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
+    , view_(model_, parts.appearance())
+    , window_(std::make_unique<Window>(*this)) {
+    window_->setTitle(QStringLiteral("Quelby"));
+    const QSize size = view_.item().size().toSize();
+    window_->setMinimumSize(size);
+    window_->setMaximumSize(size);
+    view_.item().setParentItem(window_->contentItem());
 }
 
 PopoverWindow::~PopoverWindow() {
-    giveBack();
-}
-
-QQuickWindow* PopoverWindow::window() const {
-    return window_.get();
-}
-
-bool PopoverWindow::isShown() const {
-    return window_ && window_->isVisible();
-}
-
-void PopoverWindow::make() {
-    model_ = std::make_unique<DashboardModel>(
-        parts_.monitor, *parts_.clock,
-        DashboardActions{.quit = parts_.quit, .openBatterySettings = parts_.openBatterySettings});
-    view_ = std::make_unique<DashboardView>(*model_, parts_.appearance());
-    window_ = std::make_unique<Window>(*this);
-    window_->setTitle(QStringLiteral("Quelby"));
-    const QSize size = view_->item().size().toSize();
-    window_->setMinimumSize(size);
-    window_->setMaximumSize(size);
-    view_->item().setParentItem(window_->contentItem());
-}
-
-void PopoverWindow::giveBack() {
-    givingBack_.stop();
     presses_.reset();
-    if (!view_) {
-        return;
-    }
-    view_->item().setParentItem(nullptr);
-    window_.reset();
-    view_.reset();
-    model_.reset();
-    malloc_trim(0); // what the allocator would keep for the next opening
+    view_.item().setParentItem(nullptr);
 }
 
-void PopoverWindow::setForm(PopoverForm form) {
-    if (form != form_) {
-        close();
-        giveBack();
-        form_ = form;
-    }
-}
-
-void PopoverWindow::show() {
-    givingBack_.stop();
-    if (!window_) {
-        make();
-    }
-    view_->showSettings(false);
-    view_->setWatched(true);
+void PopoverWindow::show(std::optional<QPoint> itemPlace) {
+    view_.showSettings(false);
+    view_.setWatched(true);
     if (form_ == PopoverForm::atTheItem) {
         window_->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-        place();
+        placeAt(itemPlace);
         presses_ = seesWholeScreen()
                        ? OutsidePresses::watch([this](QPoint where) { pressedSomewhere(where); })
                        : nullptr;
@@ -151,52 +100,27 @@ void PopoverWindow::show() {
     window_->show();
     window_->raise();
     window_->requestActivate();
-    view_->item().forceActiveFocus();
+    view_.item().forceActiveFocus();
 }
 
-void PopoverWindow::showSettings() {
-    show();
-    view_->showSettings(true);
-}
-
-void PopoverWindow::place() {
-    const auto& screen = screenOf(itemPlace_);
-    const auto item = itemPlace_ ? std::optional(inPoints(*itemPlace_, screen)) : std::nullopt;
+void PopoverWindow::placeAt(std::optional<QPoint> itemPlace) {
+    const auto& screen = screenOf(itemPlace);
+    const auto item = itemPlace ? std::optional(inPoints(*itemPlace, screen)) : std::nullopt;
     window_->setScreen(const_cast<QScreen*>(&screen));
     window_->setPosition(
         popoverPlace(item, {screen.geometry(), screen.availableGeometry()}, window_->minimumSize()));
 }
 
-void PopoverWindow::close() {
-    if (!isShown()) {
-        return;
-    }
+void PopoverWindow::hide() {
     presses_.reset();
     window_->hide();
-    view_->setWatched(false);
-    givingBack_.start();
+    view_.setWatched(false);
 }
 
-void PopoverWindow::pressedSomewhere(QPoint where) {
+void PopoverWindow::pressedSomewhere(QPoint where) const {
     const QRect inside(window_->position(), window_->size());
-    if (inside.contains(inPoints(where, screenOf(where)))) {
-        return;
-    }
-    closingPress_ = where;
-    sinceClosingPress_.start();
-    close();
-}
-
-bool PopoverWindow::closedByThisPress(std::optional<QPoint> place) const {
-    if (!closingPress_ || sinceClosingPress_.elapsed() > samePressMilliseconds) {
-        return false;
-    }
-    return !place || (*place - *closingPress_).manhattanLength() <= samePressPixels;
-}
-
-void PopoverWindow::appearanceChanged() {
-    if (view_) {
-        view_->setAppearance(parts_.appearance());
+    if (!inside.contains(inPoints(where, screenOf(where)))) {
+        listener_.pressedOutside(where);
     }
 }
 

@@ -3,10 +3,7 @@
 #include <memory>
 #include <optional>
 
-#include <QElapsedTimer>
-#include <QPoint>
 #include <QQuickWindow>
-#include <QTimer>
 
 #include "app/linux/dashboard_library.h"
 #include "app/linux/outside_presses.h"
@@ -14,47 +11,36 @@
 
 namespace quelby::app {
 
-// The dashboard in a window of its own. It is made when it is first shown, and given back some time after it
-// was last closed.
+// The dashboard in a window of its own.
 class PopoverWindow final : public DashboardWindow {
 public:
-    explicit PopoverWindow(DashboardWindowParts parts);
+    PopoverWindow(const DashboardWindowParts& parts, PopoverForm form, Listener listener);
     PopoverWindow(const PopoverWindow&) = delete;
     PopoverWindow& operator=(const PopoverWindow&) = delete;
     ~PopoverWindow() override;
 
-    [[nodiscard]] bool isShown() const override;
-    void show() override;
-    void showSettings() override;
-    void close() override;
+    [[nodiscard]] bool isShown() const override { return window_->isVisible(); }
 
-    void setItemPlace(std::optional<QPoint> place) override { itemPlace_ = place; }
+    void show(std::optional<QPoint> itemPlace) override;
 
-    void setForm(PopoverForm form) override;
-    [[nodiscard]] bool closedByThisPress(std::optional<QPoint> place) const override;
-    void appearanceChanged() override;
+    void showSettings() override { view_.showSettings(true); }
 
-    // The window, while there is one. For tests.
-    [[nodiscard]] QQuickWindow* window() const;
+    void hide() override;
+
+    void setAppearance(Appearance appearance) override { view_.setAppearance(appearance); }
 
 private:
     class Window;
 
-    void make();
-    void giveBack();
-    void place();
-    void pressedSomewhere(QPoint where);
+    void placeAt(std::optional<QPoint> itemPlace);
+    void pressedSomewhere(QPoint where) const;
 
-    DashboardWindowParts parts_;
-    PopoverForm form_ = PopoverForm::atTheItem;
-    std::optional<QPoint> itemPlace_;
-    std::optional<QPoint> closingPress_;
-    QElapsedTimer sinceClosingPress_;
-    std::unique_ptr<DashboardModel> model_; // none before the first opening, likewise below
-    std::unique_ptr<DashboardView> view_;
-    std::unique_ptr<Window> window_;
+    PopoverForm form_;
+    Listener listener_;
+    DashboardModel model_;
+    DashboardView view_;
+    std::unique_ptr<QQuickWindow> window_;
     std::unique_ptr<OutsidePresses> presses_; // while it is shown
-    QTimer givingBack_;
 };
 
 } // namespace quelby::app

@@ -19,15 +19,12 @@ const auto labelGuide = QStringLiteral("-888W");
 
 } // namespace
 
-StatusNotifierItem::StatusNotifierItem(const QDBusConnection& bus, PressListener pressed)
+StatusNotifierItem::StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions,
+                                       PressListener pressed)
     : DBusObject(bus, QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"))
+    , actions_(actions)
     , pressed_(std::move(pressed))
-    , menu_(bus, menuPath) {}
-
-void StatusNotifierItem::setActions(const StatusItemActions& actions) {
-    actions_ = actions;
-    menu_.setActions(actions);
-}
+    , menu_(bus, menuPath, actions) {}
 
 void StatusNotifierItem::setHost(const TrayHost& host) {
     host_ = host;

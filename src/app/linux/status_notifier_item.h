@@ -20,9 +20,8 @@ public:
     // is to be acted on.
     using PressListener = std::function<bool(std::optional<QPoint> where)>;
 
-    StatusNotifierItem(const QDBusConnection& bus, PressListener pressed);
-
-    void setActions(const StatusItemActions& actions);
+    // The actions outlive the item, and may change.
+    StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions, PressListener pressed);
 
     // Whoever shows the item from now on.
     void setHost(const TrayHost& host);
@@ -44,8 +43,8 @@ private:
     void announceToolTip();
     void writeIconFile();
 
+    const StatusItemActions& actions_;
     PressListener pressed_;
-    StatusItemActions actions_;
     TrayMenu menu_;
     TrayHost host_;
     ItemLook look_;

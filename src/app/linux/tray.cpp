@@ -53,7 +53,7 @@ public:
             return;
         }
         bus.follow([&](const std::optional<QDBusConnection>& now) { static_cast<void>(claim(now)); });
-        const auto lock = takeRecorderLock(platform_.folders.applicationSupport());
+        const auto lock = takeRecorderLock(platform_.folders->applicationSupport());
         LinuxDesktop desktop(bus, platform_, withoutTray_);
         delegate =
             AppDelegate::create(platform_, {.interval = interval_, .history = historyAccess(lock)}, desktop);

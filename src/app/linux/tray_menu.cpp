@@ -30,8 +30,8 @@ QVariantMap label(const QString& text) {
 
 } // namespace
 
-TrayMenu::TrayMenu(const QDBusConnection& bus, const QString& path)
-    : DBusObject(bus, path, QStringLiteral("com.canonical.dbusmenu")) {}
+TrayMenu::TrayMenu(const QDBusConnection& bus, const QString& path, const StatusItemActions& actions)
+    : DBusObject(bus, path, QStringLiteral("com.canonical.dbusmenu")), actions_(actions) {}
 
 void TrayMenu::setDisplay(MenuBarDisplay display) {
     if (display == display_) {

@@ -10,9 +10,8 @@ namespace quelby::app {
 // second button: the dashboard, what the title shows, the settings, quitting.
 class TrayMenu final : public DBusObject {
 public:
-    TrayMenu(const QDBusConnection& bus, const QString& path);
-
-    void setActions(const StatusItemActions& actions) { actions_ = actions; }
+    // The actions outlive the menu, and may change.
+    TrayMenu(const QDBusConnection& bus, const QString& path, const StatusItemActions& actions);
 
     // Marks the display that is chosen.
     void setDisplay(MenuBarDisplay display);
@@ -28,7 +27,7 @@ private:
     void answerGroupProperties(const QDBusMessage& message) const;
     void choose(int id) const;
 
-    StatusItemActions actions_;
+    const StatusItemActions& actions_;
     MenuBarDisplay display_ = MenuBarDisplay::watts;
     uint revision_ = 1;
 };

@@ -24,7 +24,7 @@ MonitorOptions monitorOptions(Pace pace, const Result<std::optional<FileLock>>& 
 
 void runApplication(const Platform& platform, const MonitorOptions& options) {
     becomeAccessory();
-    MacosDesktop desktop(platform.clock);
+    MacosDesktop desktop(*platform.clock);
     auto delegate = AppDelegate::create(platform, options, desktop);
     const ApplicationEvents events({.didFinishLaunching = [&] { delegate->applicationDidFinishLaunching(); },
                                     .willTerminate = [&] { delegate->applicationWillTerminate(); }});
@@ -40,7 +40,7 @@ Result<void> run(const MachineArguments& arguments) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
-    const auto lock = takeRecorderLock(platform.folders.applicationSupport());
+    const auto lock = takeRecorderLock(platform.folders->applicationSupport());
     runApplication(platform, monitorOptions(arguments.pace, lock));
     return {};
 }

@@ -84,17 +84,13 @@ public:
         return machine_.helperStatus() ? machine_.helperStatus() : files_.status();
     }
 
-    void replaceConfig(std::string_view text) override { files_.replaceConfig(text); }
+    [[nodiscard]] Result<void> replaceConfig(std::string_view text) override {
+        return files_.replaceConfig(text);
+    }
 
 private:
     const ReplayedMachine& machine_;
     HelperFiles files_;
-};
-
-// A demonstration installs nothing, and nobody is asked for a password.
-class NoPrivileges final : public PrivilegedShell {
-public:
-    [[nodiscard]] bool run(const std::string&) override { return false; }
 };
 
 class NoLoginItem final : public LoginItem {
@@ -117,11 +113,10 @@ public:
                 .clock = clock_,
                 .folders = folders_,
                 .helperFolder = helper_,
+                .helperInstaller = *services_.helperInstaller,
                 .loginItem = *services_.loginItem,
                 .runLoop = runLoop_,
                 .preferences = *preferences_,
-                .privilegedShell = *services_.privilegedShell,
-                .serviceManager = *services_.serviceManager,
                 .storageDraw = storageDraw_};
     }
 
@@ -153,11 +148,10 @@ public:
                 .clock = machine_,
                 .folders = folders_,
                 .helperFolder = helper_,
+                .helperInstaller = machine_,
                 .loginItem = loginItem_,
                 .runLoop = runLoop_,
                 .preferences = *preferences_,
-                .privilegedShell = privilegedShell_,
-                .serviceManager = machine_,
                 .storageDraw = machine_};
     }
 
@@ -170,7 +164,6 @@ private:
     DemonstrationFolders folders_;
     RecordedHelper helper_{machine_, folders_.helper()};
     NoLoginItem loginItem_;
-    NoPrivileges privilegedShell_;
     QtRunLoop runLoop_;
     std::unique_ptr<Preferences> preferences_;
 };

@@ -6,12 +6,12 @@
 
 namespace quelby {
 
-double SystemClock::now() {
+Date SystemClock::now() {
     const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
     return std::chrono::duration<double>(sinceEpoch).count();
 }
 
-double SystemClock::startOfDay() {
+Date SystemClock::startOfDay() {
     return startOfLocalDay(now());
 }
 

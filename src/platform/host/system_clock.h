@@ -6,8 +6,8 @@ namespace quelby {
 
 class SystemClock final : public Clock {
 public:
-    [[nodiscard]] double now() override;
-    [[nodiscard]] double startOfDay() override;
+    [[nodiscard]] Date now() override;
+    [[nodiscard]] Date startOfDay() override;
 };
 
 } // namespace quelby

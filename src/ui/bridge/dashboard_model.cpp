@@ -130,19 +130,19 @@ void DashboardModel::setShouldShowChargingTip(bool shown) {
 }
 
 void DashboardModel::toggleChargeLimit(bool enabled) {
-    monitor_->toggleChargeLimit(enabled);
+    static_cast<void>(monitor_->toggleChargeLimit(enabled));
 }
 
 void DashboardModel::setChargeLimit(double percent) {
-    monitor_->setChargeLimit(percent);
+    static_cast<void>(monitor_->setChargeLimit(percent));
 }
 
 void DashboardModel::installDaemon() {
-    monitor_->installDaemon();
+    static_cast<void>(monitor_->installDaemon());
 }
 
 void DashboardModel::uninstallDaemon() {
-    monitor_->uninstallDaemon();
+    static_cast<void>(monitor_->uninstallDaemon());
 }
 
 void DashboardModel::selectHistoryRange(int index) {
@@ -162,12 +162,12 @@ void DashboardModel::selectMenuBarDisplay(int index) {
 }
 
 void DashboardModel::setAutoCalibrate(bool enabled) {
-    monitor_->updateCalibrationSettings(enabled, monitor_->calibrationIntervalDays);
+    static_cast<void>(monitor_->updateCalibrationSettings(enabled, monitor_->calibrationIntervalDays));
 }
 
 void DashboardModel::selectCalibrationInterval(int index) {
     if (const auto days = elementAt(calibrationIntervals, index)) {
-        monitor_->updateCalibrationSettings(true, *days);
+        static_cast<void>(monitor_->updateCalibrationSettings(true, *days));
     }
 }
 

@@ -35,7 +35,8 @@ protected:
     PrivateBus bus;
     BusConnection connection;
     BusPeer peer;
-    StatusNotifierItem item{*connection, [](std::optional<QPoint>) { return true; }};
+    StatusItemActions actions;
+    StatusNotifierItem item{*connection, actions, [](std::optional<QPoint>) { return true; }};
     BusObject object{connection->baseService(), "/StatusNotifierItem", "org.kde.StatusNotifierItem"};
 };
 

@@ -27,8 +27,6 @@ protected:
     StatusNotifierItemTest() {
         registerDBusTypes();
         peer.listen(connection->baseService());
-        item.setActions({.toggle = [this] { done.emplace_back("toggle"); },
-                         .scroll = [this](int steps) { done.push_back("scroll " + std::to_string(steps)); }});
     }
 
     void showAt(std::string_view host) {
@@ -66,7 +64,10 @@ protected:
     std::vector<std::string> done;
     std::optional<QPoint> pressedAt;
     bool acts = true;
-    StatusNotifierItem item{*connection, [this](std::optional<QPoint> where) {
+    StatusItemActions actions{
+        .toggle = [this] { done.emplace_back("toggle"); },
+        .scroll = [this](int steps) { done.push_back("scroll " + std::to_string(steps)); }};
+    StatusNotifierItem item{*connection, actions, [this](std::optional<QPoint> where) {
                                 pressedAt = where;
                                 done.emplace_back("press");
                                 return acts;

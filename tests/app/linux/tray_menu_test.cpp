@@ -46,13 +46,6 @@ protected:
     TrayMenuTest() {
         registerDBusTypes();
         peer.listen(connection->baseService());
-        menu.setActions(
-            {.toggle = [this] { done.emplace_back("toggle"); },
-             .showDashboard = [this] { done.emplace_back("dashboard"); },
-             .showSettings = [this] { done.emplace_back("settings"); },
-             .chooseDisplay = [this](MenuBarDisplay display) { done.emplace_back(rawValue(display)); },
-             .scroll = [this](int) { done.emplace_back("scroll"); },
-             .quit = [this] { done.emplace_back("quit"); }});
     }
 
     [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {}) {
@@ -87,7 +80,14 @@ protected:
     BusPeer peer;
     std::vector<std::string> done;
     uint revision = 0;
-    TrayMenu menu{*connection, "/MenuBar"};
+    StatusItemActions actions{
+        .toggle = [this] { done.emplace_back("toggle"); },
+        .showDashboard = [this] { done.emplace_back("dashboard"); },
+        .showSettings = [this] { done.emplace_back("settings"); },
+        .chooseDisplay = [this](MenuBarDisplay display) { done.emplace_back(rawValue(display)); },
+        .scroll = [this](int) { done.emplace_back("scroll"); },
+        .quit = [this] { done.emplace_back("quit"); }};
+    TrayMenu menu{*connection, "/MenuBar", actions};
     BusObject object{connection->baseService(), "/MenuBar", "com.canonical.dbusmenu"};
 };
 

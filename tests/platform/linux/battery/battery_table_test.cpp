@@ -26,7 +26,7 @@ BatteryPack packAt(PackStatus status, int percent) {
 }
 
 bool isFull(const std::vector<BatteryPack>& packs, const std::vector<Adapter>& adapters) {
-    return publishedFrom(propertyTable(packs, adapters)).fullyCharged;
+    return PublishedBattery(propertyTable(packs, adapters)).fullyCharged;
 }
 
 TEST(BatteryTable, HoldsEveryKnownFigureInItsUnit) {
@@ -62,8 +62,8 @@ TEST(BatteryTable, WithoutACapacityThePercentageIsCurrentCapacity) {
     BatteryPack pack;
     pack.content.percent = 57;
     const auto table = propertyTable({pack}, {});
-    EXPECT_EQ(publishedFrom(table).percent, 57);
-    EXPECT_EQ(publishedFrom(table).rawCurrentCapacity, 0) << "not 57 mAh";
+    EXPECT_EQ(PublishedBattery(table).batteryPercent, 57);
+    EXPECT_EQ(PublishedBattery(table).rawCurrentCapacity, 0) << "not 57 mAh";
     EXPECT_THAT(table, Not(Contains(Key("MaxCapacity"))));
     EXPECT_THAT(table, Not(Contains(Key("AppleRawMaxCapacity"))));
 }
@@ -72,25 +72,25 @@ TEST(BatteryTable, AKnownChargeStandsBesideThePercentageOfAnUnknownCapacity) {
     BatteryPack pack;
     pack.content.remaining = 756;
     pack.content.percent = 12;
-    const auto battery = publishedFrom(propertyTable({pack}, {}));
+    const PublishedBattery battery(propertyTable({pack}, {}));
     EXPECT_EQ(battery.rawCurrentCapacity, 756);
-    EXPECT_EQ(battery.percent, 12);
-    EXPECT_EQ(battery.rawMaxCapacity, std::nullopt);
+    EXPECT_EQ(battery.batteryPercent, 12);
+    EXPECT_EQ(battery.rawMaxCapacity, 0);
 }
 
 TEST(BatteryTable, ACurrentTooGreatForReadersKeepsItsDirection) {
     auto pack = packAt(PackStatus::Charging, 50);
     pack.flow = {38'000, 280};
-    EXPECT_EQ(publishedFrom(propertyTable({pack}, {})).milliamperes, 30'000);
+    EXPECT_EQ(PublishedBattery(propertyTable({pack}, {})).amperage, 30'000);
     pack.flow = {-38'000, -280};
-    EXPECT_EQ(publishedFrom(propertyTable({pack}, {})).milliamperes, -38'000);
+    EXPECT_EQ(PublishedBattery(propertyTable({pack}, {})).amperage, -38'000);
 }
 
 TEST(BatteryTable, OneChargingPackIsEnough) {
     const auto charging = packAt(PackStatus::Charging, 50);
     const auto idle = packAt(PackStatus::NotCharging, 80);
-    EXPECT_TRUE(publishedFrom(propertyTable({idle, charging}, {})).isCharging);
-    EXPECT_FALSE(publishedFrom(propertyTable({idle, idle}, {})).isCharging);
+    EXPECT_TRUE(PublishedBattery(propertyTable({idle, charging}, {})).isCharging);
+    EXPECT_FALSE(PublishedBattery(propertyTable({idle, idle}, {})).isCharging);
 }
 
 TEST(BatteryTable, FullIsWhatTheFirmwareCallsFull) {

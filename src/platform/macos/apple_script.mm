@@ -1,4 +1,4 @@
-#include "platform/macos/apple_script_shell.h"
+#include "platform/macos/apple_script.h"
 
 #import <Foundation/Foundation.h>
 
@@ -6,13 +6,13 @@
 
 namespace quelby {
 
-bool AppleScriptShell::run(const std::string& script) {
+bool runAppleScript(const std::string& source) {
     @autoreleasepool {
-        const auto source = foundationText(script);
-        if (source.get() == nil) {
+        const auto text = foundationText(source);
+        if (text.get() == nil) {
             return false;
         }
-        const Own<NSAppleScript> compiled([[NSAppleScript alloc] initWithSource:source.get()]);
+        const Own<NSAppleScript> compiled([[NSAppleScript alloc] initWithSource:text.get()]);
         NSDictionary<NSString*, id>* failure = nil;
         NSAppleEventDescriptor* const answer = [compiled.get() executeAndReturnError:&failure];
         return answer != nil && failure == nil;

@@ -1,10 +1,10 @@
-#include "helper/linux_helper_scripts.h"
+#include "platform/installer/linux_helper_scripts.h"
 
 #include <fmt/format.h>
 
-#include "helper/shell_quoting.h"
-#include "helper/systemd_unit.h"
 #include "platform/helper_names.h"
+#include "platform/installer/shell_quoting.h"
+#include "platform/installer/systemd_unit.h"
 
 namespace quelby {
 

@@ -1,4 +1,4 @@
-#include "helper/launchd_property_list.h"
+#include "platform/installer/launchd_property_list.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

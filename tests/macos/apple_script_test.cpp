@@ -1,4 +1,4 @@
-#include "platform/macos/apple_script_shell.h"
+#include "platform/macos/apple_script.h"
 
 #include <gmock/gmock.h>
 
@@ -11,37 +11,35 @@ using fake::frameworks;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class AppleScriptShellTest : public testing::Test {
+class AppleScriptTest : public testing::Test {
 protected:
-    AppleScriptShellTest() { frameworks() = {}; }
-
-    AppleScriptShell shell;
+    AppleScriptTest() { frameworks() = {}; }
 };
 
-TEST_F(AppleScriptShellTest, RunsTheScriptAsItStands) {
+TEST_F(AppleScriptTest, RunsTheScriptAsItStands) {
     const std::string script = "do shell script \"echo \\\"Grüße\\\"\necho 2\" with administrator privileges";
-    EXPECT_TRUE(shell.run(script));
+    EXPECT_TRUE(runAppleScript(script));
     EXPECT_THAT(frameworks().scripts, ElementsAre(script));
 }
 
-TEST_F(AppleScriptShellTest, SaysWhereTheScriptOrTheUserFails) {
+TEST_F(AppleScriptTest, SaysWhereTheScriptOrTheUserFails) {
     frameworks().scriptsSucceed = false;
-    EXPECT_FALSE(shell.run("error number -128"));
+    EXPECT_FALSE(runAppleScript("error number -128"));
 }
 
-TEST_F(AppleScriptShellTest, SaysWhereTheTextIsNoScript) {
+TEST_F(AppleScriptTest, SaysWhereTheTextIsNoScript) {
     frameworks().scriptsCompile = false;
-    EXPECT_FALSE(shell.run("do what?"));
+    EXPECT_FALSE(runAppleScript("do what?"));
     EXPECT_THAT(frameworks().scripts, IsEmpty());
 }
 
-TEST_F(AppleScriptShellTest, RunsNothingThatIsNotUtf8) {
-    EXPECT_FALSE(shell.run("do shell script \"echo \xFF\""));
+TEST_F(AppleScriptTest, RunsNothingThatIsNotUtf8) {
+    EXPECT_FALSE(runAppleScript("do shell script \"echo \xFF\""));
     EXPECT_THAT(frameworks().scripts, IsEmpty());
 }
 
-TEST_F(AppleScriptShellTest, LeavesNoObjectBehind) {
-    const auto run = [this] { static_cast<void>(shell.run("beep")); };
+TEST_F(AppleScriptTest, LeavesNoObjectBehind) {
+    const auto run = [] { static_cast<void>(runAppleScript("beep")); };
     EXPECT_EQ(fake::objectsLeftBy(run), 0);
     frameworks().scriptsSucceed = false;
     EXPECT_EQ(fake::objectsLeftBy(run), 0);

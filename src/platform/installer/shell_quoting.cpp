@@ -1,4 +1,4 @@
-#include "helper/shell_quoting.h"
+#include "platform/installer/shell_quoting.h"
 
 namespace quelby {
 

@@ -1,4 +1,5 @@
-// What the system that this program was built for brings with it.
+// What the system that this program was built for answers the platform's questions with. The build picks the
+// system's own definitions; nothing that these functions give is null.
 #pragma once
 
 #include <filesystem>
@@ -6,11 +7,10 @@
 
 #include "platform/battery_source.h"
 #include "platform/folders.h"
+#include "platform/helper_installer.h"
 #include "platform/login_item.h"
 #include "platform/preferences.h"
-#include "platform/privileged_shell.h"
 #include "platform/process_lister.h"
-#include "platform/service_manager.h"
 
 namespace quelby {
 
@@ -26,15 +26,15 @@ struct SystemReaders {
 };
 
 struct SystemServices {
+    std::unique_ptr<HelperInstaller> helperInstaller;
     std::unique_ptr<LoginItem> loginItem;
-    std::unique_ptr<PrivilegedShell> privilegedShell;
-    std::unique_ptr<ServiceManager> serviceManager;
 };
 
-// Never null. The build picks the system's own definitions.
 [[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
 [[nodiscard]] std::unique_ptr<Folders> makeSystemFolders();
 [[nodiscard]] std::unique_ptr<Preferences> makeSystemPreferences();
+
+// The folders outlive the services.
 [[nodiscard]] SystemServices makeSystemServices(Folders& folders);
 
 } // namespace quelby

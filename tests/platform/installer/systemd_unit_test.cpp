@@ -1,4 +1,4 @@
-#include "helper/systemd_unit.h"
+#include "platform/installer/systemd_unit.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

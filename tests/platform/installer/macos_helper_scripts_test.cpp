@@ -1,10 +1,10 @@
-#include "helper/macos_helper_scripts.h"
+#include "platform/installer/macos_helper_scripts.h"
 
 #include <algorithm>
 
 #include <gtest/gtest.h>
 
-#include "helper/launchd_property_list.h"
+#include "platform/installer/launchd_property_list.h"
 #include "shell_check.h"
 
 namespace quelby {

@@ -1,9 +1,9 @@
-#include "helper/macos_helper_scripts.h"
+#include "platform/installer/macos_helper_scripts.h"
 
 #include <fmt/format.h>
 
-#include "helper/launchd_property_list.h"
 #include "platform/helper_names.h"
+#include "platform/installer/launchd_property_list.h"
 
 namespace quelby {
 

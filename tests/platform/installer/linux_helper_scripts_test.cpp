@@ -1,10 +1,10 @@
-#include "helper/linux_helper_scripts.h"
+#include "platform/installer/linux_helper_scripts.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "helper/systemd_unit.h"
+#include "platform/installer/systemd_unit.h"
 #include "shell_check.h"
 
 namespace quelby {

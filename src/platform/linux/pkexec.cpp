@@ -1,4 +1,4 @@
-#include "platform/linux/pkexec_shell.h"
+#include "platform/linux/pkexec.h"
 
 #include <unistd.h>
 
@@ -6,7 +6,7 @@
 
 namespace quelby {
 
-bool PkexecShell::run(const std::string& script) {
+bool runWithPkexec(const std::string& script) {
     std::vector<std::string> words{"/bin/sh", "-c", script};
     if (::geteuid() != 0) {
         words.insert(words.begin(), "pkexec");
