@@ -59,7 +59,7 @@ TEST_F(TrayProgram, OnlyShowsAHistoryThatAnotherOneRecords) {
     RunningProgram recorder(words({"--headless"}), environment());
     static_cast<void>(recorder.line());
     startInTray();
-    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history\n"));
+    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history until that one ends\n"));
     expectCleanEnd();
 }
 
