@@ -6,8 +6,9 @@ namespace quelby {
 
 double startOfLocalDay(double moment) {
     @autoreleasepool {
+        NSCalendar* const calendar = [NSCalendar currentCalendar];
         NSDate* const date = [NSDate dateWithTimeIntervalSince1970:moment];
-        return [[[NSCalendar currentCalendar] startOfDayForDate:date] timeIntervalSince1970];
+        return [[calendar startOfDayForDate:date] timeIntervalSince1970];
     }
 }
 

@@ -63,6 +63,19 @@ TEST_F(TrayProgram, OnlyShowsAHistoryThatAnotherOneRecords) {
     expectCleanEnd();
 }
 
+TEST_F(TrayProgram, RecordsOnWhereTheOtherOneEnds) {
+    RunningProgram recorder(words({"--headless"}), environment());
+    static_cast<void>(recorder.line());
+    watcher.emplace("lxqt-panel");
+    start({"--fast"});
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    recorder.signal(SIGTERM);
+    EXPECT_EQ(recorder.end().exitStatus, 0);
+    const auto rows = recordedRows();
+    EXPECT_TRUE(becomes([&] { return recordedRows() > rows; }));
+    expectCleanEnd();
+}
+
 TEST_F(TrayProgram, IsAnOrdinaryWindowWithoutATray) {
     start();
     const auto window = opened();
