@@ -23,8 +23,8 @@
 
 #include "briefly.h"
 #include "monitor/power_monitor.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/system_clock.h"
 #include "platform/system.h"
 #include "support/fake_platform.h"
 

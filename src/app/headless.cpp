@@ -15,9 +15,9 @@ Result<void> runHeadless(const MachineArguments& arguments) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
-    const auto lock = takeRecorderLock(platform.folders->applicationSupport());
-    if (!lock) {
-        return tl::make_unexpected(lock.error());
+    const RecorderLock lock(platform.folders->applicationSupport());
+    if (!lock.outcome()) {
+        return lock.outcome();
     }
     std::signal(SIGPIPE, SIG_IGN); // whoever read the lines may leave; the recorder stays
     CycleRun run{.history = HistoryAccess::recording};

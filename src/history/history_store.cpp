@@ -90,16 +90,14 @@ double sum(Statement& statement) {
     return statement.step() ? statement.number(0) : 0.0;
 }
 
-Result<Connection> open(const std::filesystem::path& applicationSupport, HistoryAccess access) {
-    const auto file = historyFile(applicationSupport);
-    return access == HistoryAccess::recording ? openForRecording(file) : openForReading(file);
-}
-
 } // namespace
 
 HistoryStore::HistoryStore(const std::filesystem::path& applicationSupport, Clock& clock,
                            HistoryAccess access)
-    : clock_(clock), access_(access), db_(open(applicationSupport, access)) {
+    : clock_(clock)
+    , access_(access)
+    , file_(historyFile(applicationSupport))
+    , db_(access == HistoryAccess::recording ? openForRecording(file_) : Connection{}) {
     if (access_ == HistoryAccess::recording && db_) {
         execute(db_->get(), "PRAGMA journal_mode=WAL;");
         execute(db_->get(), "PRAGMA synchronous=NORMAL;");
@@ -108,7 +106,17 @@ HistoryStore::HistoryStore(const std::filesystem::path& applicationSupport, Cloc
 }
 
 Result<void> HistoryStore::opened() const {
-    return db_.map([](const Connection& /*connection*/) {});
+    const auto forget = [](const Connection& /*connection*/) {};
+    return access_ == HistoryAccess::recording ? db_.map(forget) : openForReading(file_).map(forget);
+}
+
+HistoryStore::Asked HistoryStore::ask() const {
+    if (access_ == HistoryAccess::recording) {
+        return {{}, db_ ? db_->get() : nullptr};
+    }
+    auto opened = openForReading(file_).value_or(Connection{});
+    auto* const connection = opened.get();
+    return {std::move(opened), connection};
 }
 
 void HistoryStore::createTables() {
@@ -157,11 +165,12 @@ void HistoryStore::aggregateIfNeeded() {
 }
 
 HistoryResult HistoryStore::loadData(TimeRange range) {
-    if (!db_) {
+    const auto history = ask();
+    if (history.connection == nullptr) {
         return {};
     }
     const auto cutoff = truncated(clock_.now() - seconds(range));
-    Statement query(db_->get(),
+    Statement query(history.connection,
                     fmt::format("SELECT timestamp, watts FROM {} WHERE timestamp > ? ORDER BY timestamp",
                                 tableOf(range)));
     query.bind(1, cutoff);
@@ -173,11 +182,12 @@ HistoryResult HistoryStore::loadData(TimeRange range) {
 }
 
 double HistoryStore::todayWh() {
-    if (!db_) {
+    const auto history = ask();
+    if (history.connection == nullptr) {
         return 0.0;
     }
     const auto dayStart = truncated(clock_.startOfDay());
-    Statement raw(db_->get(),
+    Statement raw(history.connection,
                   fmt::format("SELECT SUM(watts * {:.1f} / 3600.0) FROM readings WHERE timestamp > ?",
                               std::chrono::duration<double>(cycleInterval).count()));
     raw.bind(1, dayStart);
@@ -185,7 +195,7 @@ double HistoryStore::todayWh() {
     const auto rawStart = truncated(clock_.now() - rawRetention);
     if (dayStart < rawStart) {
         Statement minutes(
-            db_->get(),
+            history.connection,
             "SELECT SUM(watts * 60.0 / 3600.0) FROM minute_avg WHERE timestamp >= ? AND timestamp < ?");
         minutes.bind(1, dayStart);
         minutes.bind(2, rawStart);

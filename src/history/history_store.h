@@ -17,6 +17,9 @@
 // reading. A recorder that is killed loses at most the reading in flight. A machine that loses its power may
 // lose the readings since the last copy, some minutes, but never the database.
 //
+// Who only reads opens the history anew for each answer. So a history that a recorder begins later is found,
+// and SQLite is never told that a file is at rest which somebody has begun to write to.
+//
 // A store that cannot be opened is there nevertheless: it says why, records nothing, and gives empty answers.
 // Nothing after the opening reports an error. One thread only.
 #pragma once
@@ -42,7 +45,7 @@ public:
     // store.
     HistoryStore(const std::filesystem::path& applicationSupport, Clock& clock, HistoryAccess access);
 
-    // The problem names the file and says why it cannot be opened.
+    // The problem names the file and says why it cannot be opened; a reader's may pass with time.
     [[nodiscard]] Result<void> opened() const;
 
     // What the whole system draws, in W; the battery's state of charge, in % of full; the load of the whole
@@ -58,12 +61,20 @@ public:
     [[nodiscard]] double todayWh();
 
 private:
+    // A connection to ask: the recorder's own, or a reader's for one answer. None where there is no history.
+    struct Asked {
+        Connection ofTheAnswer;
+        sqlite3* connection = nullptr;
+    };
+
+    [[nodiscard]] Asked ask() const;
     void createTables();
     void aggregateIfNeeded();
 
     Clock& clock_;
     HistoryAccess access_;
-    Result<Connection> db_; // or why there is none
+    std::filesystem::path file_;
+    Result<Connection> db_; // the recorder's, or why there is none; empty for a reader
     Date lastAggregation_ = 0;
 };
 

@@ -50,6 +50,14 @@ void PowerMonitor::openHistory() {
     }
 }
 
+void PowerMonitor::takeOverHistory() {
+    const bool reads = options_.history == HistoryAccess::readOnly;
+    if (reads && options_.mayRecordNow && options_.mayRecordNow()) {
+        options_.history = HistoryAccess::recording;
+        openHistory();
+    }
+}
+
 void PowerMonitor::loadHistory() {
     if (!historyStore_) {
         return;
@@ -127,6 +135,7 @@ void PowerMonitor::predictBattery() {
 }
 
 void PowerMonitor::recordReading() {
+    takeOverHistory();
     if (historyStore_) {
         historyStore_->addReading(totalPower, batteryPercent, isCharging, cpuUsage);
     }

@@ -21,6 +21,9 @@ namespace quelby {
 struct MonitorOptions {
     std::chrono::duration<double> interval = cycleInterval; // from one cycle to the next
     std::optional<HistoryAccess> history; // none: no history. Two recorders would count energy twice.
+
+    // Asked once a cycle while the history is only read: whether to record from now on. None: never.
+    std::function<bool()> mayRecordNow;
 };
 
 class PowerMonitor : public PublishedFields, public std::enable_shared_from_this<PowerMonitor> {
@@ -85,6 +88,7 @@ private:
     [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();
     void openHistory();
+    void takeOverHistory();
     void loadHistory();
     void scheduleCycles();
     void collectAllData();

@@ -9,12 +9,13 @@
 
 namespace quelby {
 
-// Text keys to integers and Booleans. A key that the battery cannot answer is absent, never 0. The keys that
-// the monitor reads, after the property table that macOS publishes for a battery:
+// Text keys to integers and Booleans. A key that the battery cannot answer is absent, and 0 only where
+// absence would let another key speak in its place. The keys that the monitor reads, after the property table
+// that macOS publishes for a battery:
 //
 //   DesignCapacity          mAh, when new
 //   AppleRawMaxCapacity     mAh, full at present
-//   AppleRawCurrentCapacity mAh, remaining
+//   AppleRawCurrentCapacity mAh, remaining; 0 where only the percentage is known
 //   MaxCapacity             mAh or %, where the raw value is missing
 //   CurrentCapacity         mAh or %, where the raw value is missing
 //   CycleCount              charge cycles

@@ -60,6 +60,16 @@ TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
     EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\n");
 }
 
+TEST_F(QuelbyctlLimit, TakesTheSettingsOfARecordingWhereTheFolderHasNone) {
+    recording = QUELBY_SOURCE_DIR "/resources/recordings/laptop-held-at-limit.jsonl";
+    EXPECT_EQ(quelbyctl({"limit", "--replay", recording}).output, "charge limit on, 80%: Holding at 80%\n");
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 80%: Holding at 80%\n");
+    EXPECT_EQ(ctl({"limit", "90"}).exitStatus, 0);
+    EXPECT_EQ(config()["chargeLimitEnabled"], true) << "as it was recorded";
+    EXPECT_EQ(config()["chargeLimitPercent"], 90);
+    EXPECT_EQ(ctl({"limit", "off"}).output, "charge limit off, 90%\n") << "the folder goes before";
+}
+
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {
     for (const auto* value : {"15", "101", "83", "80.0", "-80", "yes", ""}) {
         EXPECT_EQ(ctl({"limit", value}).exitStatus, 2) << value;

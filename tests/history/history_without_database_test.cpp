@@ -59,6 +59,37 @@ TEST(HistoryWithoutDatabase, IsEmptyForAReaderAndStaysAway) {
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
+using HistoryAtRest = HistoryTest;
+
+// At rest it is read as a file that nobody writes to.
+TEST_F(HistoryAtRest, IsLeftByAReaderWhereARecorderBeginsAndTakenUpAgain) {
+    recordAt(noon);
+    store.reset();
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), 1U);
+    for (int readings = 2; readings < 6; ++readings) {
+        openAgain();
+        recordAt(noon + 3 * readings);
+        EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), static_cast<std::size_t>(readings));
+        EXPECT_DOUBLE_EQ(reader.todayWh(), store->todayWh());
+        store.reset();
+        EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), static_cast<std::size_t>(readings));
+    }
+    EXPECT_FALSE(fs::exists(file.string() + "-wal")) << "the recorder was the last to leave";
+}
+
+TEST_F(HistoryAtRest, IsReadAnewWhereAnotherHasTakenItsPlace) {
+    recordEvery(3, noon, noon + 30);
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_GT(reader.loadData(TimeRange::oneHour).points.size(), 9U);
+    store.reset();
+    fs::remove_all(file.parent_path());
+    EXPECT_THAT(reader.loadData(TimeRange::oneHour).points, testing::IsEmpty());
+    openAgain();
+    recordAt(noon + 60);
+    EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), 1U);
+}
+
 using HistoryWithABadDatabase = HistoryTest;
 
 TEST_F(HistoryWithABadDatabase, LeavesAFileOfAnotherKindAsItIs) {

@@ -121,6 +121,43 @@ TEST_F(MonitoredHistory, HasNothingButItsRangeWithoutAStore) {
     EXPECT_TRUE(fs::is_empty(folder.path()));
 }
 
+TEST_F(MonitoredHistory, IsRecordedFromTheFirstCycleThatMayRecord) {
+    bool free = false;
+    int questions = 0;
+    monitor =
+        PowerMonitor::create(computer.platform(), {.history = HistoryAccess::readOnly, .mayRecordNow = [&] {
+                                                       ++questions;
+                                                       return free;
+                                                   }});
+    monitor->startMonitoring();
+    cycle(2);
+    EXPECT_EQ(questions, 3);
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a reader makes nothing";
+    free = true;
+    cycle(2);
+    EXPECT_EQ(questions, 4) << "no more once it records";
+    EXPECT_EQ(readings().size(), 2U);
+    monitor->selectHistoryRange(TimeRange::thirtyMinutes);
+    EXPECT_EQ(monitor->historyData.get().size(), 2U);
+}
+
+TEST_F(MonitoredHistory, IsOnlyReadForEverWhereNobodySaysOtherwise) {
+    startMonitoring(HistoryAccess::readOnly);
+    cycle(2);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(MonitoredHistory, OfAReaderIsWhatARecorderHasBegunSince) {
+    startMonitoring(HistoryAccess::readOnly);
+    const auto reader = monitor;
+    EXPECT_THAT(reader->historyData.get(), IsEmpty());
+    startMonitoring(HistoryAccess::recording);
+    monitor->stopMonitoring();
+    reader->selectHistoryRange(TimeRange::thirtyMinutes);
+    EXPECT_THAT(reader->historyData.get(), ElementsAre(HistoryDataPoint{1'700'000'000, 12}));
+    EXPECT_GT(reader->todayWh, 0.0);
+}
+
 TEST_F(MonitoredHistory, GoesOnAfterAFullDiskHasRoomAgain) {
     startMonitoring();
     cycle(30);

@@ -19,6 +19,8 @@ protected:
         EXPECT_TRUE(opened) << opened.error().sentence;
         auto& machine = *opened;
         fake::Computer rest;
+        rest.helper.configText = machine.helperConfig();
+        rest.helper.statusText = machine.helperStatus();
         const auto monitor = PowerMonitor::create(playing(machine, rest));
         int cycles = 0;
         monitor->onUpdate = [&] {
@@ -71,6 +73,10 @@ TEST_F(Recordings, AHeldLaptopStaysAtItsLimit) {
         EXPECT_TRUE(monitor.isPluggedIn);
         EXPECT_FALSE(monitor.isCharging);
         EXPECT_EQ(monitor.batteryPercent, 80);
+        EXPECT_TRUE(monitor.chargeLimitEnabled);
+        EXPECT_EQ(monitor.chargeLimitPercent, 80);
+        EXPECT_TRUE(monitor.chargingInhibited);
+        EXPECT_TRUE(monitor.daemonInstalled);
     });
     EXPECT_GE(cycles, fourMinutes);
 }

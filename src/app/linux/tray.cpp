@@ -53,10 +53,13 @@ public:
             return;
         }
         bus.follow([&](const std::optional<QDBusConnection>& now) { static_cast<void>(claim(now)); });
-        const auto lock = takeRecorderLock(platform_.folders->applicationSupport());
+        RecorderLock lock(platform_.folders->applicationSupport());
         LinuxDesktop desktop(bus, platform_, withoutTray_);
-        delegate =
-            AppDelegate::create(platform_, {.interval = interval_, .history = historyAccess(lock)}, desktop);
+        delegate = AppDelegate::create(platform_,
+                                       {.interval = interval_,
+                                        .history = historyAccess(lock),
+                                        .mayRecordNow = [&lock] { return lock.tryAgain(); }},
+                                       desktop);
         delegate->applicationDidFinishLaunching();
         desktop.start();
         const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });

@@ -5,7 +5,7 @@
 #include "cli/terminal/device/terminal_screen.h"
 #include "cli/terminal/layout/dashboard_text.h"
 #include "console/standard_output.h"
-#include "ui/presentation/text/relative_date.h"
+#include "platform/relative_date.h"
 
 namespace quelby::cli {
 
@@ -27,7 +27,7 @@ std::string dashboardOutput(const PublishedFields& fields, Date now, OutputForm 
 }
 
 std::string settingsOutput(const PublishedFields& fields, Date now, OutputForm form) {
-    const auto content = settingsPanel(fields, now, userLanguage());
+    const auto content = settingsPanel(fields, now, relativeDate);
     return form == OutputForm::json ? settingsAsJson(content) : lines(settingsText(content, outputColumns()));
 }
 

@@ -4,8 +4,8 @@
 #include <random>
 
 #include "platform/host/chosen_folders.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/helper_files.h"
-#include "platform/posix/system_clock.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_run_loop.h"
 #include "platform/random_storage_draw.h"
@@ -68,13 +68,17 @@ ChosenFolders::Named namedFolders(const MachineOptions& options) {
         .applicationSupport = options.dataDir, .configuration = std::nullopt, .helper = options.configDir};
 }
 
-// What the recorded helper said; where it said nothing, what lies in the folder.
+// What the recorded helper said; where it said nothing, what lies in the folder. Its settings are the other
+// way round: those in the folder were named by the user, or chosen while the recording plays.
 class RecordedHelper final : public HelperFolder {
 public:
     RecordedHelper(const ReplayedMachine& machine, std::filesystem::path folder)
         : machine_(machine), files_(std::move(folder)) {}
 
-    [[nodiscard]] std::optional<std::string> config() override { return files_.config(); }
+    [[nodiscard]] std::optional<std::string> config() override {
+        const auto present = files_.config();
+        return present ? present : machine_.helperConfig();
+    }
 
     [[nodiscard]] std::optional<std::string> status() override {
         return machine_.helperStatus() ? machine_.helperStatus() : files_.status();

@@ -8,6 +8,7 @@ RecordedCycle MachineRecorder::takeCycle() {
     // Asked for here, because a cycle whose lister fails does not ask.
     cycle_.processors = real_.processes->logicalProcessors();
     cycle_.helperLoaded = helperLoaded_;
+    cycle_.config = config_;
     return std::exchange(cycle_, {});
 }
 
@@ -42,7 +43,7 @@ int MachineRecorder::draw() {
 }
 
 std::optional<std::string> MachineRecorder::config() {
-    return real_.helperFolder->config();
+    return config_ = real_.helperFolder->config();
 }
 
 std::optional<std::string> MachineRecorder::status() {

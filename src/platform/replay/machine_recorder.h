@@ -57,7 +57,9 @@ private:
 
     Platform real_;
     RecordedCycle cycle_;
-    bool helperLoaded_ = false; // asked once, at the start
+    // As they were told last, mostly at the start, which holds for every cycle from then on.
+    bool helperLoaded_ = false;
+    std::optional<std::string> config_;
 };
 
 } // namespace quelby

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/posix/local_day.h"
+#include "platform/local_day.h"
 
 namespace quelby {
 

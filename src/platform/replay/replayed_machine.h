@@ -45,6 +45,9 @@ public:
     // The text of the helper's status.json, where there was one.
     [[nodiscard]] const std::optional<std::string>& helperStatus() const { return present_.status; }
 
+    // Likewise of its config.json.
+    [[nodiscard]] const std::optional<std::string>& helperConfig() const { return present_.config; }
+
     [[nodiscard]] bool isLoaded() override { return present_.helperLoaded; }
 
     // Nobody is asked for a password, and nothing is changed.

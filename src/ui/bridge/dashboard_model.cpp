@@ -1,7 +1,7 @@
 #include "ui/bridge/dashboard_model.h"
 
+#include "platform/relative_date.h"
 #include "ui/presentation/cards/dialogs.h"
-#include "ui/presentation/text/relative_date.h"
 
 namespace quelby {
 
@@ -97,7 +97,7 @@ void DashboardModel::refreshDashboard() {
 }
 
 void DashboardModel::refreshSettings() {
-    auto content = settingsPanel(*monitor_, clock_.now(), userLanguage());
+    auto content = settingsPanel(*monitor_, clock_.now(), relativeDate);
     renew(header_, content.header, &DashboardModel::headerChanged);
     renew(settings_, std::move(content), &DashboardModel::settingsChanged);
 }

@@ -59,7 +59,20 @@ TEST_F(TrayProgram, OnlyShowsAHistoryThatAnotherOneRecords) {
     RunningProgram recorder(words({"--headless"}), environment());
     static_cast<void>(recorder.line());
     startInTray();
-    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history\n"));
+    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history until that one ends\n"));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, RecordsOnWhereTheOtherOneEnds) {
+    RunningProgram recorder(words({"--headless"}), environment());
+    static_cast<void>(recorder.line());
+    watcher.emplace("lxqt-panel");
+    start({"--fast"});
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    recorder.signal(SIGTERM);
+    EXPECT_EQ(recorder.end().exitStatus, 0);
+    const auto rows = recordedRows();
+    EXPECT_TRUE(becomes([&] { return recordedRows() > rows; }));
     expectCleanEnd();
 }
 

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
+#include "support/days_from_now.h"
+
 namespace quelby::cli {
 namespace {
 
@@ -16,7 +18,7 @@ protected:
     }
 
     [[nodiscard]] ordered_json settings() const {
-        return ordered_json::parse(settingsAsJson(settingsPanel(fields, 1'700'000'000, "en")));
+        return ordered_json::parse(settingsAsJson(settingsPanel(fields, 1'700'000'000, daysFromNow)));
     }
 
     static std::vector<std::string> keys(const ordered_json& object) {

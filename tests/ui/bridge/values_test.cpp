@@ -3,7 +3,7 @@
 #include <QMetaProperty>
 #include <gtest/gtest.h>
 
-#include "ui/presentation/text/relative_date.h"
+#include "platform/relative_date.h"
 #include "ui/support/made_up_dashboard.h"
 #include "ui/support/printing.h"
 
@@ -91,7 +91,7 @@ protected:
         });
         model.setSettingsShown(true);
         expectSeen(model.property("settings"),
-                   settingsPanel(monitor, dashboard.computer.clock.now(), userLanguage()));
+                   settingsPanel(monitor, dashboard.computer.clock.now(), relativeDate));
     }
 
     MadeUpDashboard dashboard;

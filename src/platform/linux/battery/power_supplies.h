@@ -40,8 +40,9 @@ struct RawPack {
     RawNumber powerAvg;         // µW
     RawNumber temp;             // tenths of a degree Celsius
     RawNumber cycleCount;
-    RawNumber timeToEmptyNow; // seconds; needed while discharging only
-    RawNumber timeToFullNow;  // seconds; needed while charging only
+    RawNumber timeToEmptyNow;            // seconds; needed while discharging only
+    RawNumber timeToFullNow;             // seconds; needed while charging only
+    RawNumber chargeControlEndThreshold; // %; needed only of a pack that may be held
 
     // The charge says how much of how much, with the help of the percentage or of the design.
     [[nodiscard]] bool isChargeEnough() const;

@@ -3,7 +3,6 @@
 #include <fmt/format.h>
 
 #include "base/version.h"
-#include "ui/presentation/text/relative_date.h"
 #include "ui/presentation/text/words.h"
 
 namespace quelby {
@@ -34,17 +33,17 @@ Choice calibrationButton(const char* label, Int days, Int chosenDays) {
     return {label, days == chosenDays};
 }
 
-std::vector<Label> calibrationDates(const PublishedFields& fields, Date now, const std::string& language) {
+std::vector<Label> calibrationDates(const PublishedFields& fields, Date now,
+                                    const RelativeDate& relativeDate) {
     const auto& last = fields.lastCalibrationDate.get();
     if (!last) {
         return {{{"info.circle", ColorName::secondary},
                  secondary("First calibration will start when charge limit is active")}};
     }
     const auto next = *last + static_cast<double>(fields.calibrationIntervalDays.get()) * secondsPerDay;
-    return {
-        {{"checkmark.circle", ColorName::green},
-         secondary(fmt::format("Last: {}", relativeDate(*last, now, language)))},
-        {{"clock", ColorName::blue}, secondary(fmt::format("Next: {}", relativeDate(next, now, language)))}};
+    return {{{"checkmark.circle", ColorName::green},
+             secondary(fmt::format("Last: {}", relativeDate(*last, now)))},
+            {{"clock", ColorName::blue}, secondary(fmt::format("Next: {}", relativeDate(next, now)))}};
 }
 
 } // namespace
@@ -63,7 +62,8 @@ GeneralSection generalSection(const PublishedFields& fields) {
     return section;
 }
 
-CalibrationSection calibrationSection(const PublishedFields& fields, Date now, const std::string& language) {
+CalibrationSection calibrationSection(const PublishedFields& fields, Date now,
+                                      const RelativeDate& relativeDate) {
     const auto days = fields.calibrationIntervalDays.get();
     return {.symbol = {"arrow.triangle.2.circlepath", ColorName::primary},
             .title = primary("Battery Calibration"),
@@ -75,7 +75,7 @@ CalibrationSection calibrationSection(const PublishedFields& fields, Date now, c
                            calibrationButton("2 Weeks", calibrationIntervals[1], days),
                            calibrationButton("1 Month", calibrationIntervals[2], days),
                            calibrationButton("2 Months", calibrationIntervals[3], days)}},
-            .dates = calibrationDates(fields, now, language)};
+            .dates = calibrationDates(fields, now, relativeDate)};
 }
 
 HelperSection helperSection(const PublishedFields& fields) {
@@ -97,10 +97,10 @@ UninstallSection uninstallSection() {
             .button = {{"trash.fill", ColorName::primary}, primary("Uninstall Quelby")}};
 }
 
-SettingsPanel settingsPanel(const PublishedFields& fields, Date now, const std::string& language) {
+SettingsPanel settingsPanel(const PublishedFields& fields, Date now, const RelativeDate& relativeDate) {
     return {.header = settingsHeader(),
             .general = generalSection(fields),
-            .calibration = calibrationSection(fields, now, language),
+            .calibration = calibrationSection(fields, now, relativeDate),
             .helper = helperSection(fields),
             .uninstall = uninstallSection(),
             .version = secondary(fmt::format("{} v{}", words::program, version())),

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 
 #include "monitor/published_fields.h"
@@ -87,13 +88,15 @@ struct SettingsPanel {
     QUELBY_RECORD(SettingsPanel)
 };
 
-// The language of the dates is that of relativeDate().
+// How the system speaks of a date now, in the user's language: "3 days ago".
+using RelativeDate = std::function<std::string(Date date, Date now)>;
+
 [[nodiscard]] SettingsPanel settingsPanel(const PublishedFields& fields, Date now,
-                                          const std::string& language);
+                                          const RelativeDate& relativeDate);
 
 [[nodiscard]] GeneralSection generalSection(const PublishedFields& fields);
 [[nodiscard]] CalibrationSection calibrationSection(const PublishedFields& fields, Date now,
-                                                    const std::string& language);
+                                                    const RelativeDate& relativeDate);
 [[nodiscard]] HelperSection helperSection(const PublishedFields& fields);
 [[nodiscard]] UninstallSection uninstallSection();
 

@@ -1,4 +1,4 @@
-#include "ui/presentation/text/relative_date.h"
+#include "platform/relative_date.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +9,8 @@
 #include <unicode/ureldatefmt.h>
 #include <unicode/ustring.h>
 
+#include "platform/linux/relative_date_phrase.h"
+
 namespace quelby {
 
 namespace {
@@ -16,7 +18,7 @@ namespace {
 struct Unit {
     URelativeDateTimeUnit unit;
     double seconds;
-    double upTo; // of these; from here on the next unit is used
+    double most; // of these; what is left over before the next unit begins is not counted
 };
 
 constexpr double minute = 60;
@@ -24,28 +26,27 @@ constexpr double hour = 60 * minute;
 constexpr double day = 24 * hour;
 constexpr double furthest = 1e15; // seconds; 30 million years, beyond which a date is nonsense
 
-constexpr std::array units{Unit{UDAT_REL_UNIT_SECOND, 1, 60},
-                           Unit{UDAT_REL_UNIT_MINUTE, minute, 60},
-                           Unit{UDAT_REL_UNIT_HOUR, hour, 24},
-                           Unit{UDAT_REL_UNIT_DAY, day, 7},
+constexpr std::array units{Unit{UDAT_REL_UNIT_YEAR, 365 * day, HUGE_VAL},
+                           Unit{UDAT_REL_UNIT_MONTH, 30 * day, 11},
                            Unit{UDAT_REL_UNIT_WEEK, 7 * day, 4},
-                           Unit{UDAT_REL_UNIT_MONTH, 30 * day, 12},
-                           Unit{UDAT_REL_UNIT_YEAR, 365 * day, HUGE_VAL}};
+                           Unit{UDAT_REL_UNIT_DAY, day, 6},
+                           Unit{UDAT_REL_UNIT_HOUR, hour, 23},
+                           Unit{UDAT_REL_UNIT_MINUTE, minute, 59},
+                           Unit{UDAT_REL_UNIT_SECOND, 1, 59}};
 
 struct Offset {
     double count; // negative in the past
     URelativeDateTimeUnit unit;
 };
 
-// The smallest unit whose rounded count stays below what the next begins with.
 Offset largestUnit(double seconds) {
     for (const auto& unit : units) {
-        const double count = std::round(seconds / unit.seconds);
-        if (std::fabs(count) < unit.upTo) {
-            return {count, unit.unit};
+        const double count = std::trunc(seconds / unit.seconds);
+        if (std::fabs(count) >= 1) {
+            return {std::clamp(count, -unit.most, unit.most), unit.unit};
         }
     }
-    return {0, UDAT_REL_UNIT_SECOND}; // a date that is no number
+    return {0, UDAT_REL_UNIT_SECOND}; // also for a date that is no number
 }
 
 std::string languageCode(const char* locale) {
@@ -80,7 +81,7 @@ std::string utf8(const UChar* text, std::int32_t length) {
 
 } // namespace
 
-std::string relativeDate(Date date, Date now, const std::string& language) {
+std::string relativeDatePhrase(double date, double now, const std::string& language) {
     const auto offset = largestUnit(std::clamp(date - now, -furthest, furthest));
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<URelativeDateTimeFormatter, CloseFormatter> formatter(ureldatefmt_open(
@@ -98,6 +99,10 @@ std::string relativeDate(Date date, Date now, const std::string& language) {
 
 std::string userLanguage() {
     return uloc_getDefault();
+}
+
+std::string relativeDate(double date, double now) {
+    return relativeDatePhrase(date, now, userLanguage());
 }
 
 } // namespace quelby

@@ -1,8 +1,8 @@
-#include "platform/posix/system_clock.h"
+#include "platform/host/system_clock.h"
 
 #include <chrono>
 
-#include "platform/posix/local_day.h"
+#include "platform/local_day.h"
 
 namespace quelby {
 

@@ -1,10 +1,10 @@
-#include "platform/posix/local_day.h"
+#include "platform/local_day.h"
 
 #include <ctime>
 
 #include <gtest/gtest.h>
 
-#include "platform/posix/system_clock.h"
+#include "platform/host/system_clock.h"
 #include "support/time_zone.h"
 
 namespace quelby {
@@ -45,6 +45,16 @@ TEST(StartOfLocalDay, IsTheFirstMomentWhereMidnightIsSkipped) {
     const TimeZone zone("<-03>3<-02>,M10.3.0/0,M2.3.0/0"); // clocks go from 00:00 to 01:00
     const double firstMoment = 1729393200;                 // 2024-10-20 01:00 there, 03:00 UTC
     EXPECT_EQ(startOfLocalDay(firstMoment + 5 * hour), firstMoment);
+}
+
+TEST(StartOfLocalDay, IsTheFirstOfTwoMidnights) {
+    const TimeZone zone("<-05>5<-04>,M3.2.0/0,M11.1.0/1"); // clocks go from 01:00 back to 00:00
+    const double first = 1730606400;                       // 2024-11-03 00:00 there, 04:00 UTC
+    for (const double hoursLater : {0.0, 0.5, 1.0, 1.5, 24.9}) {
+        EXPECT_EQ(startOfLocalDay(first + hoursLater * hour), first) << hoursLater;
+    }
+    EXPECT_EQ(startOfLocalDay(first - 1), first - day);
+    EXPECT_EQ(startOfLocalDay(first + 25 * hour), first + 25 * hour);
 }
 
 TEST(SystemClock, TellsThePresentAndItsDay) {
