@@ -207,7 +207,7 @@ TEST_F(Accessibility, ChoosesFromEveryRow) {
     view->showSettings();
     choose(generalSection(monitor).displays[4].text);
     EXPECT_EQ(monitor.menuBarDisplay.get(), MenuBarDisplay::temperature);
-    choose(calibrationSection(monitor, 0, "en").intervals[1].text);
+    choose(calibrationSection(monitor, 0, "en").frequency.choices[1].text);
     EXPECT_EQ(monitor.calibrationIntervalDays, 14);
 }
 
