@@ -99,7 +99,7 @@ TEST_F(DashboardJsonTest, OfTheSettingsHoldsItsSectionsInTheirOrder) {
                 ElementsAre("header", "general", "calibration", "helper", "uninstall", "version", "quit"));
     EXPECT_EQ(settings()["header"]["symbol"]["symbol"], "chevron.left");
     EXPECT_EQ(settings()["general"]["launchAtLogin"]["enabled"], false);
-    const auto panel = settingsPanel(fields, 1'700'000'000, "en");
+    const auto panel = settingsPanel(fields, 1'700'000'000, daysFromNow);
     const auto choices = settings()["general"]["menuBarDisplay"]["choices"];
     ASSERT_EQ(choices.size(), panel.general.displays.size());
     for (std::size_t i = 0; i < choices.size(); ++i) {

@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <gtest/gtest.h>
 
+#include "support/days_from_now.h"
 #include "ui/bridge/symbol_item.h"
 #include "ui/bridge/values.h"
 #include "ui/presentation/text/menu_bar_title.h"
@@ -121,7 +122,7 @@ class EverySymbol : public testing::Test {
 protected:
     void look() {
         symbols.collect(dashboard(fields, now));
-        symbols.collect(settingsPanel(fields, now, "en"));
+        symbols.collect(settingsPanel(fields, now, daysFromNow));
         symbols.add(qString(menuBarSymbol(fields)));
     }
 

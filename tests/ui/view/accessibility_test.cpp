@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "helper/daemon_config.h"
+#include "support/days_from_now.h"
 #include "support/golden.h"
 #include "ui/presentation/cards/dialogs.h"
 #include "ui/presentation/cards/settings_panel.h"
@@ -185,7 +186,7 @@ TEST_F(Accessibility, TurnsEverySwitch) {
     turn(generalSection(monitor).launchAtLogin.title);
     turn(generalSection(monitor).launchAtLogin.title);
     EXPECT_THAT(dashboard.computer.login.wishes, ElementsAre("register", "unregister"));
-    turn(calibrationSection(monitor, 0, "en").autoCalibrate.title);
+    turn(calibrationSection(monitor, 0, daysFromNow).autoCalibrate.title);
     EXPECT_FALSE(monitor.calibrationEnabled);
 }
 
@@ -207,7 +208,7 @@ TEST_F(Accessibility, ChoosesFromEveryRow) {
     view->showSettings();
     choose(generalSection(monitor).displays[4].text);
     EXPECT_EQ(monitor.menuBarDisplay.get(), MenuBarDisplay::temperature);
-    choose(calibrationSection(monitor, 0, "en").frequency.choices[1].text);
+    choose(calibrationSection(monitor, 0, daysFromNow).frequency.choices[1].text);
     EXPECT_EQ(monitor.calibrationIntervalDays, 14);
 }
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/version.h"
+#include "support/days_from_now.h"
 #include "ui/presentation/cards/header.h"
 #include "ui/presentation/cards/settings_panel.h"
 
@@ -31,7 +32,8 @@ TEST(Words, NameTheCardOfTheLargeFigure) {
 }
 
 TEST(Words, OfTheSettingsEndWithTheProgramsVersion) {
-    EXPECT_EQ(settingsPanel(PublishedFields(), 0, "en").version.text, "Quelby v" + std::string(version()));
+    EXPECT_EQ(settingsPanel(PublishedFields(), 0, daysFromNow).version.text,
+              "Quelby v" + std::string(version()));
 }
 
 } // namespace
