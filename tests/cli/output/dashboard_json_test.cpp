@@ -101,13 +101,13 @@ TEST_F(DashboardJsonTest, OfTheSettingsHoldsItsSectionsInTheirOrder) {
     EXPECT_EQ(settings()["general"]["launchAtLogin"]["enabled"], false);
     const auto panel = settingsPanel(fields, 1'700'000'000, daysFromNow);
     const auto choices = settings()["general"]["menuBarDisplay"]["choices"];
-    ASSERT_EQ(choices.size(), panel.general.displays.size());
+    ASSERT_EQ(choices.size(), panel.general.menuBarDisplay.choices.size());
     for (std::size_t i = 0; i < choices.size(); ++i) {
-        EXPECT_EQ(choices[i],
-                  (ordered_json{{"text", panel.general.displays.at(i).text}, {"selected", i == 0}}));
+        EXPECT_EQ(choices[i], (ordered_json{{"text", panel.general.menuBarDisplay.choices.at(i).text},
+                                            {"selected", i == 0}}));
     }
     EXPECT_EQ(settings()["calibration"]["frequency"]["choices"][2],
-              (ordered_json{{"text", panel.calibration.intervals[2].text}, {"selected", true}}));
+              (ordered_json{{"text", panel.calibration.frequency.choices[2].text}, {"selected", true}}));
     EXPECT_EQ(settings()["helper"]["status"]["dot"], "red");
     EXPECT_EQ(settings()["uninstall"]["button"]["text"]["text"], panel.uninstall.button.text.text);
     EXPECT_EQ(settings()["version"]["text"], panel.version.text);
