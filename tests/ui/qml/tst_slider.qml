@@ -55,6 +55,19 @@ DashboardTestCase {
         verify(has("100%"))
     }
 
+    function test_isWhereItWasWhenTheCardComesBack() {
+        set("chargeLimitPercent", 65)
+        set("hasBattery", false)
+        compare(all(StepSlider).length, 0)
+        set("hasBattery", true)
+        find()
+        compare([slider.from, slider.to, slider.value], [20, 100, 65])
+        set("chargeLimitEnabled", false)
+        set("chargeLimitEnabled", true)
+        compare([slider.from, slider.to, slider.value], [20, 100, 65])
+        compare(madeUp.configWrites, 0)
+    }
+
     function test_jumpsToWhereItIsClicked() {
         find()
         mouseClick(slider, xOf(60) + 1, slider.height / 2)
