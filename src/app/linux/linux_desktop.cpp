@@ -56,10 +56,10 @@ StatusItem& LinuxDesktop::makeStatusItem() {
 
 Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
     return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
-                                                 .clock = platform_.clock,
-                                                 .quit = std::move(quit),
-                                                 .openBatterySettings = openBatterySettings,
-                                                 .appearance = [this] { return appearance_.current(); }});
+                                         .clock = platform_.clock,
+                                         .quit = std::move(quit),
+                                         .openBatterySettings = openBatterySettings,
+                                         .appearance = [this] { return appearance_.current(); }});
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {

@@ -206,7 +206,7 @@ TEST_F(Accessibility, ChoosesFromEveryRow) {
     EXPECT_EQ(monitor.historyRange.get(), TimeRange::twentyFourHours);
     EXPECT_FALSE(isOn(QAccessible::RadioButton, "30m"));
     view->showSettings();
-    choose(generalSection(monitor).displays[4].text);
+    choose(generalSection(monitor).menuBarDisplay.choices[4].text);
     EXPECT_EQ(monitor.menuBarDisplay.get(), MenuBarDisplay::temperature);
     choose(calibrationSection(monitor, 0, daysFromNow).frequency.choices[1].text);
     EXPECT_EQ(monitor.calibrationIntervalDays, 14);
