@@ -22,6 +22,8 @@ add_library(quelby_rules INTERFACE)
 target_compile_options(quelby_rules INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast -Wcast-qual
     -Wnon-virtual-dtor -Woverloaded-virtual -Wformat=2 -Wundef -Werror -Wno-missing-field-initializers)
+# The same for libraries and programs, so that they can share precompiled headers.
+target_compile_options(quelby_rules INTERFACE -fPIC)
 target_compile_options(quelby_rules INTERFACE
     $<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc -Wnullable-to-nonnull-conversion -Wobjc-messaging-id
     -Wundeclared-selector -Wunguarded-availability>)
@@ -36,10 +38,12 @@ if(QUELBY_SANITIZERS)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
 endif()
 
-# quelby_floor(NAME SOURCES ... [USES ...]) makes one floor of the program: a static library whose folder
-# is its name, which may use only what stands below it.
+# quelby_floor(NAME SOURCES ... [USES ...] [PRECOMPILED ...]) makes one floor of the program: a static library whose
+# folder is its name, which may use only what stands below it. PRECOMPILED are large headers of other libraries that
+# most of its files include all the same.
 function(quelby_floor name)
-    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES" ${ARGN})
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES;PRECOMPILED" ${ARGN})
     add_library(quelby_${name} STATIC ${FLOOR_SOURCES})
     target_link_libraries(quelby_${name} PUBLIC quelby_rules ${FLOOR_USES})
+    target_precompile_headers(quelby_${name} PRIVATE ${FLOOR_PRECOMPILED})
 endfunction()

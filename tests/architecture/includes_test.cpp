@@ -66,7 +66,7 @@ const std::vector<Folder> folders{
     {"app/macos", {"app", "platform/macos"}, Qt::with},
 };
 
-const Folder* find(const std::string& name) {
+const Folder* folderNamed(const std::string& name) {
     const auto found = std::find_if(folders.begin(), folders.end(),
                                     [&](const Folder& folder) { return folder.name == name; });
     return found == folders.end() ? nullptr : &*found;
@@ -74,7 +74,7 @@ const Folder* find(const std::string& name) {
 
 bool standsUpon(const Folder& folder, const std::string& other) {
     return std::any_of(folder.standsUpon.begin(), folder.standsUpon.end(), [&](const std::string& name) {
-        const auto* const below = find(name);
+        const auto* const below = folderNamed(name);
         return name == other || (below != nullptr && standsUpon(*below, other));
     });
 }
@@ -90,7 +90,7 @@ std::vector<fs::path> sourceFiles() {
     return files;
 }
 
-std::string sourceName(const fs::path& path) {
+std::string placeOf(const fs::path& path) {
     return path.lexically_relative(sources).generic_string();
 }
 
@@ -121,12 +121,12 @@ TEST(Includes, PointDownwardsOnly) {
     const auto files = sourceFiles();
     ASSERT_GT(files.size(), 50U);
     for (const auto& file : files) {
-        const auto* const folder = find(sourceName(file.parent_path()));
-        ASSERT_NE(folder, nullptr) << sourceName(file) << " stands in no known folder";
+        const auto* const folder = folderNamed(placeOf(file.parent_path()));
+        ASSERT_NE(folder, nullptr) << placeOf(file) << " stands in no known folder";
         for (const auto& include : includesOf(file)) {
             const auto target = fs::path(include).parent_path().generic_string();
-            if (find(target) != nullptr && target != folder->name) {
-                EXPECT_TRUE(standsUpon(*folder, target)) << sourceName(file) << " includes " << include;
+            if (folderNamed(target) != nullptr && target != folder->name) {
+                EXPECT_TRUE(standsUpon(*folder, target)) << placeOf(file) << " includes " << include;
             }
         }
     }
@@ -134,10 +134,10 @@ TEST(Includes, PointDownwardsOnly) {
 
 TEST(Includes, KeepQtOutOfTheLowerFloors) {
     for (const auto& file : sourceFiles()) {
-        const auto* const folder = find(sourceName(file.parent_path()));
+        const auto* const folder = folderNamed(placeOf(file.parent_path()));
         for (const auto& include : includesOf(file)) {
             if (folder == nullptr || folder->qt == Qt::without) {
-                EXPECT_NE(include.front(), 'Q') << sourceName(file) << " includes " << include;
+                EXPECT_NE(include.front(), 'Q') << placeOf(file) << " includes " << include;
             }
         }
     }

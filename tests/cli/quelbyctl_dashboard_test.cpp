@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <nlohmann/json.hpp>
 
 #include "support/golden.h"
 #include "support/laptop_recording.h"
@@ -16,7 +15,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using nlohmann::json;
 using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -36,75 +34,6 @@ TEST(QuelbyctlDashboard, SaysOfARecordedLaptopWhatIsWrittenDown) {
     EXPECT_THAT(result.errors, IsEmpty());
     EXPECT_EQ(result.exitStatus, 0);
     EXPECT_EQ(result.output, content(folder / "dashboard.json") + '\n');
-}
-
-class DashboardStates : public testing::Test {
-protected:
-    static json object(const json& all, const json& state) {
-        json line = all["base"];
-        if (state.contains("battery")) {
-            if (state["battery"].is_null()) {
-                line["battery"] = nullptr;
-            } else {
-                line["battery"].update(state["battery"]);
-            }
-        }
-        line.update(state.value("line", json::object()));
-        return line;
-    }
-
-    [[nodiscard]] std::vector<std::string> words(const json& all, const json& state) {
-        auto line = object(all, state);
-        std::string recording;
-        for (int cycle = 0; cycle < state.value("cycles", 1); ++cycle) {
-            recording += line.dump() + '\n';
-            line["time"] = line["time"].get<double>() + 3;
-        }
-        folder.write("config.json", state.value("config", json::object()).dump());
-        return {"--replay", folder.write("state.jsonl", recording), "--config-dir", folder.path().string()};
-    }
-
-    [[nodiscard]] static json said(std::vector<std::string> words, const std::string& view) {
-        words.insert(words.begin(), {"dashboard", "--json", "--view", view});
-        const auto result = quelbyctl(words);
-        EXPECT_THAT(result.errors, IsEmpty());
-        return json::parse(result.output);
-    }
-
-    static void expectSaid(const json& object, const std::string& pointer, const json& expected) {
-        const json::json_pointer place(pointer);
-        if (expected == "absent") {
-            EXPECT_FALSE(object.contains(place)) << pointer;
-        } else {
-            ASSERT_TRUE(object.contains(place)) << pointer;
-            EXPECT_EQ(object[place], expected) << pointer;
-        }
-    }
-
-    void expectWhatIsWrittenDown(const json& all, const json& state) {
-        SCOPED_TRACE(state["state"]);
-        const auto arguments = words(all, state);
-        const auto dashboard = said(arguments, "dashboard");
-        const auto settings = said(arguments, "settings");
-        const std::string inSettings = "/settings";
-        for (const auto& [pointer, expected] : state["says"].items()) {
-            if (pointer.rfind(inSettings + '/', 0) == 0) {
-                expectSaid(settings, pointer.substr(inSettings.size()), expected);
-            } else {
-                expectSaid(dashboard, pointer, expected);
-            }
-        }
-    }
-
-    TemporaryFolder folder;
-};
-
-TEST_F(DashboardStates, SayWhatIsWrittenDownOfThem) {
-    const auto all = json::parse(content(data / "dashboard-states.json"));
-    ASSERT_GT(all["states"].size(), 80U);
-    for (const auto& state : all["states"]) {
-        expectWhatIsWrittenDown(all, state);
-    }
 }
 
 class QuelbyctlDashboardText : public testing::Test {
