@@ -30,7 +30,7 @@ std::vector<Line> linesOf(const fs::path& file) {
 
 std::vector<Line> everyLine() {
     std::vector<Line> lines;
-    for (const auto& entry : fs::directory_iterator(fs::path(QUELBY_SOURCE_DIR) / "src/ui/qml")) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(QUELBY_SOURCE_DIR) / "src/ui/qml")) {
         if (entry.path().extension() == ".qml") {
             const auto more = linesOf(entry.path());
             lines.insert(lines.end(), more.begin(), more.end());
