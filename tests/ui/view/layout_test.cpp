@@ -123,6 +123,12 @@ protected:
         return false;
     }
 
+    // No program has such a name; what matters is that it keeps to its column.
+    [[nodiscard]] static bool isOfTheWidestLetters(const QQuickItem& text) {
+        const auto letters = text.property("text").toString();
+        return letters.startsWith("MMMM") || letters.startsWith("WWWW");
+    }
+
     [[nodiscard]] static std::string nameOf(const QQuickItem& item) {
         const auto text = item.property("text").toString() + item.property("name").toString();
         return std::string(item.metaObject()->className()) + " \"" + text.toStdString() + '"';
@@ -174,9 +180,7 @@ class LayoutOfTheTextsAsTheyAre : public Layout {};
 
 TEST_P(LayoutOfTheTextsAsTheyAre, CutsNoText) {
     for (const auto* const text : visibleItems(foreground(), "QQuickText")) {
-        const bool name =
-            text->property("text").toString().endsWith('~'); // its letters are the widest there are
-        EXPECT_FALSE(text->property("truncated").toBool() && !name) << nameOf(*text);
+        EXPECT_FALSE(text->property("truncated").toBool() && !isOfTheWidestLetters(*text)) << nameOf(*text);
         EXPECT_LE(text->property("contentWidth").toDouble(), text->width() + tolerance) << nameOf(*text);
     }
 }
