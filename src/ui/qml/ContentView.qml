@@ -141,7 +141,6 @@ FocusScope {
             QuitButton {
                 content: view.dashboard.quitButton
                 Layout.alignment: Qt.AlignHCenter
-                Layout.topMargin: 2 * Theme.unit
                 onClicked: view.dashboard.quit()
             }
         }
