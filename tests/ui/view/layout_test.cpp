@@ -82,7 +82,7 @@ protected:
     // Figures are as long in every language.
     void lengthenTexts() {
         for (auto* const text : visibleItems(foreground(), "QQuickText")) {
-            if (isA(*text, "FigureText")) {
+            if (isA(*text, "FigureText") || enclosing(*text, "SliderScale") != nullptr) {
                 continue;
             }
             const auto shown = text->property("text").toString();

@@ -23,6 +23,7 @@ QtObject {
     readonly property real controlRadius: 3 * unit
     readonly property real barHeight: 4 * unit
     readonly property real levelBarHeight: 5 * unit
+    readonly property real sliderInset: 2 * unit // so that the texts under its ends keep to the card
     readonly property real focusWidth: unit
     readonly property real hairline: unit / 2
 
