@@ -31,6 +31,7 @@ CardChrome {
         textFormat: Text.PlainText
         Accessible.role: Accessible.StaticText
         Accessible.name: text
+        Accessible.ignored: !enabled
     }
 
     InkText {

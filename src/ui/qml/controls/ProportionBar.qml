@@ -18,6 +18,7 @@ Item {
     implicitHeight: Theme.barHeight
     Accessible.role: Accessible.ProgressBar
     Accessible.name: name
+    Accessible.ignored: !enabled
     Accessible.description: content.percent
     LayoutMirroring.childrenInherit: true
 
