@@ -138,6 +138,8 @@ DashboardTestCase {
         for (const percent of [10, 120, 77]) {
             set("chargeLimitPercent", percent)
             verify(has(percent + "%"))
+            view.destroy()
+            makeView()
             compare(madeUp.configWrites, 0)
             compare(level(), percent)
         }

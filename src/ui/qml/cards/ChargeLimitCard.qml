@@ -71,7 +71,7 @@ CardChrome {
         }
 
         StepSlider {
-            id: slider
+            id: stopSlider
 
             content: card.content.stopLevel.slider
             name: card.content.stopLevel.stopAt.at(0).text
@@ -83,7 +83,7 @@ CardChrome {
 
         SliderScale {
             content: card.content.stopLevel
-            slider: slider
+            slider: stopSlider
             Layout.fillWidth: true
             Layout.leftMargin: Theme.sliderInset
             Layout.rightMargin: Theme.sliderInset

@@ -23,7 +23,7 @@ T.Slider {
         from = content.from
         to = content.to
         stepSize = content.step
-        value = content.value
+        value = Math.max(from, Math.min(content.value, to)) // others may have gone beyond the ends
         following = false
     }
 
