@@ -74,7 +74,17 @@ QUELBY_SERIES(HistoryDataPoint, historySeries)
 
 QUELBY_VALUE(Header, headerContent)
 QUELBY_VALUE(HelperOffer, helperOfferContent)
-QUELBY_VALUE(StopLevel, stopLevelContent)
+
+struct StopLevelValue {
+    QUELBY_VALUE_BODY(StopLevel, stopLevelContent)
+
+    // Where a text of the scale belongs: 0 at the slider's beginning to 1 at its end.
+    Q_INVOKABLE double scalePosition(int index) const {
+        const bool exists = index >= 0 && static_cast<std::size_t>(index) < scaleLevels.size();
+        return exists ? positionOnSlider(scaleLevels[static_cast<std::size_t>(index)]) : 0;
+    }
+};
+
 QUELBY_VALUE(ChargeLimitCard, chargeLimitContent)
 QUELBY_VALUE(PowerBadge, powerBadgeContent)
 QUELBY_VALUE(BatteryCard, batteryContent)

@@ -18,10 +18,11 @@ FocusScope {
 
     property bool showSettings: false
     property bool showUninstallConfirm: false
+    property bool uninstalling: false // as soon as the question is gone from the screen
     property alias scrollTop: scroll.contentY
 
     readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
-    readonly property bool asking: tip.shown || uninstall.shown
+    readonly property bool asking: tip.shown || uninstallQuestion.shown
 
     function scrollBy(distance: real) {
         scrollTo(scroll.contentY + distance)
@@ -51,6 +52,13 @@ FocusScope {
         return false
     }
 
+    function uninstall() {
+        if (uninstalling) {
+            uninstalling = false
+            dashboard.fullUninstall()
+        }
+    }
+
     width: Theme.viewWidth
     height: Theme.viewHeight
     focus: true
@@ -74,11 +82,36 @@ FocusScope {
         }
     }
 
-    onShowSettingsChanged: scrollTo(0)
+    onShowSettingsChanged: {
+        scrollTo(0)
+        showUninstallConfirm = showUninstallConfirm && showSettings
+    }
 
     Binding { target: view.dashboard; property: "settingsShown"; value: view.showSettings }
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
+
+    // A question that was left open does not come back by itself.
+    Connections {
+        target: view.dashboard
+
+        function onWatchedChanged() {
+            view.showUninstallConfirm = view.showUninstallConfirm && view.dashboard.watched
+        }
+    }
+
+    // The administrator's password is waited for, and meanwhile nothing is drawn.
+    Connections {
+        target: view.uninstalling ? view.Window.window : null
+
+        function onAfterRendering() {
+            Qt.callLater(view.uninstall)
+        }
+
+        function onVisibleChanged() {
+            Qt.callLater(view.uninstall)
+        }
+    }
 
     Connections {
         target: view.Window.window
@@ -103,7 +136,7 @@ FocusScope {
         contentWidth: width
         contentHeight: column.implicitHeight + 2 * Theme.viewPadding
         boundsBehavior: Flickable.StopAtBounds
-        enabled: !view.asking
+        enabled: !view.asking // neither for hands nor for assistive technology
         T.ScrollBar.vertical: ScrollIndicator {}
 
         ColumnLayout {
@@ -141,7 +174,6 @@ FocusScope {
             QuitButton {
                 content: view.dashboard.quitButton
                 Layout.alignment: Qt.AlignHCenter
-                Layout.topMargin: 2 * Theme.unit
                 onClicked: view.dashboard.quit()
             }
         }
@@ -158,12 +190,12 @@ FocusScope {
     }
 
     ConfirmDialog {
-        id: uninstall
+        id: uninstallQuestion
 
         anchors.fill: parent
         content: view.dashboard.uninstallConfirmation
         shown: view.showUninstallConfirm
-        onAccepted: view.dashboard.fullUninstall()
+        onAccepted: view.uninstalling = true
         onDismissed: view.showUninstallConfirm = false
     }
 }

@@ -56,6 +56,39 @@ DashboardTestCase {
         }
     }
 
+    function colorOfFill(bar) {
+        return bar.children[1].gradient.stops[1].color
+    }
+
+    function test_onlyTheTotalIsInItsFullColour() {
+        const full = ["#e5544c", "#a868dd", "#3f8cf0", "#e3b01a", "#34b25f", "#ee8a2d"]
+        for (const [index, row] of all(ComponentRow).entries()) {
+            const shade = colorOfFill(one(ProportionBar, row))
+            compare(Qt.colorEqual(shade, full[index]), index === 5)
+            compare(shade.a < 1, index < 5)
+            verify(Qt.colorEqual(Qt.rgba(shade.r, shade.g, shade.b, 1), full[index]))
+        }
+    }
+
+    function test_tracksAreOfATranslucentGrey_data() {
+        return [{ tag: "light", dark: false }, { tag: "dark", dark: true }]
+    }
+
+    function test_tracksAreOfATranslucentGrey(row) {
+        view.dark = row.dark
+        for (const bar of all(ProportionBar)) {
+            const track = bar.children[0].color
+            verify(track.a > 0 && track.a < 0.5)
+            verify(track.hsvSaturation < 0.1 && track.hsvValue > 0.4 && track.hsvValue < 0.6)
+        }
+    }
+
+    function test_theLevelGradesToItsFullColour() {
+        const bar = one(ProportionBar, one(BatteryCard))
+        verify(Qt.colorEqual(colorOfFill(bar), "#34b25f"))
+        verify(bar.children[1].gradient.stops[0].color.a < 1)
+    }
+
     function test_aComponentBeyondItsMostFillsItsBarAndKeepsItsFigure() {
         set("cpuPower", 60)
         const row = all(ComponentRow)[0]
@@ -65,12 +98,29 @@ DashboardTestCase {
 
     function test_processesStandInColumns() {
         for (const row of all(ProcessRow)) {
-            const [position, name, cpu, watts] = Array.from(row.children)
-            compare(position.width, 18)
-            verify(name.width >= 128)
-            compare(watts.width, 30)
+            const [position, name, cpu, watts] = all(Text, row)
+            compare([position.width, name.width, watts.width], [18, 128, 30])
+            compare(cpu.x, name.x + name.width + row.spacing)
+            compare(watts.x + watts.width, row.width)
+            compare(row.width, 344)
             verify(watts.horizontalAlignment === Text.AlignRight && cpu.horizontalAlignment === Text.AlignRight)
         }
+    }
+
+    function test_efficiencyIsAStackFromTheLeadingEdge() {
+        const card = one(EfficiencyCard)
+        const said = card.content
+        const stack = [textItem(said.score.text, card), textItem(said.stars, card), textItem(said.rating.text, card),
+                       one(SymbolLabel, card)]
+        let bottom = 0
+        for (const item of stack) {
+            const place = item.mapToItem(card, 0, 0)
+            compare(place.x, 12)
+            verify(place.y >= bottom)
+            bottom = place.y + item.height
+        }
+        compare(texts(card), [said.title.text, said.score.text, said.outOf.text, said.stars, said.rating.text,
+                              said.advice.text.text])
     }
 
     function test_everyRowOfAListIsShownAndNoOther() {
@@ -124,6 +174,21 @@ DashboardTestCase {
         })
         fuzzyCompare(baselines[1], baselines[0], 1)
         fuzzyCompare(baselines[2], baselines[0], 1)
+    }
+
+    function symbolSize(name, root) {
+        const found = all(Symbol, root).filter(symbol => symbol.content.name === name)
+        compare(found.length, 1, name)
+        return found[0].size
+    }
+
+    function test_symbolsGoWithTheLettersBesideThem() {
+        compare(symbolSize("bolt.fill", one(PowerBadge)), Theme.title3Size)
+        compare(symbolSize("desktopcomputer", one(PowerBadge)), Theme.caption2Size)
+        compare(symbolSize("heart.fill", one(BatteryCard)), Theme.caption2Size)
+        compare(symbolSize("clock", one(BatteryCard)), Theme.captionSize)
+        compare(textItem(said.battery.health.text.text).font.pixelSize, Theme.captionSize)
+        compare(symbolSize("flame.fill", one(ProcessCard)), Theme.headlineSize)
     }
 
     function test_dotsAreOfTheirSizeAndColour() {

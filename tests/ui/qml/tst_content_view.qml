@@ -90,6 +90,22 @@ DashboardTestCase {
         compare(all(Symbol, one(DashboardHeader)).map(symbol => symbol.content.name), ["chevron.left", "xmark.circle"])
     }
 
+    function test_isHeadedInTheSizeOfAHeadline() {
+        const header = one(DashboardHeader)
+        const sizes = () => all(Symbol, header).map(symbol => symbol.size)
+        compare(all(Text, header)[0].font.pixelSize, Theme.headlineSize)
+        compare(sizes(), [Theme.title2Size, Theme.title3Size])
+        showSettings()
+        compare(all(Text, header)[0].font.pixelSize, Theme.headlineSize)
+        compare(sizes(), [Theme.title3Size, Theme.title3Size])
+    }
+
+    function test_leavesALittleMoreSpaceAboveTheQuitButton() {
+        const last = one(BatteryDetailsCard)
+        const label = one(SymbolLabel, one(QuitButton))
+        compare(placeOf(label).y, placeOf(last).y + last.height + 14 + 4)
+    }
+
     function test_goesToTheSettingsAndBackAgainInBothWays_data() {
         return [{ tag: "chevron", back: Words.back }, { tag: "cross", back: Words.closeSettings }]
     }

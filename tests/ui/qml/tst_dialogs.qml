@@ -93,10 +93,48 @@ DashboardTestCase {
             showUninstall()
             act(named(ActionButton, said.uninstallConfirmation.action))
             verify(closed())
+            wait(0)
         }
         compare(madeUp.scripts.length, 2)
         compare(madeUp.loginWishes, ["unregister", "unregister"])
         compare(madeUp.quits, 2)
+    }
+
+    function test_theQuestionIsGoneFromTheScreenBeforeThePasswordIsAskedFor() {
+        showUninstall()
+        const behind = grabImage(view).pixel(200, 640)
+        const button = named(ActionButton, said.uninstallConfirmation.action)
+        mouseClick(button)
+        verify(closed())
+        compare(madeUp.scripts.length, 0)
+        compare(madeUp.quits, 0)
+        settle() // draws
+        verify(!Qt.colorEqual(grabImage(view).pixel(200, 640), behind))
+        wait(0)
+        compare(madeUp.scripts.length, 1)
+        compare(madeUp.quits, 1)
+    }
+
+    function test_aQuestionLeftOpenDoesNotComeBack_data() {
+        const dashboard = () => { view.showSettings = false; settle() }
+        const close = () => { view.dashboard.watched = false; view.dashboard.watched = true; settle() }
+        return [
+            { tag: "cards instead", leave: dashboard, settings: false },
+            { tag: "closed", leave: close, settings: true },
+            { tag: "closed and cards", leave: () => { close(); dashboard() }, settings: false }
+        ]
+    }
+
+    function test_aQuestionLeftOpenDoesNotComeBack(row) {
+        showUninstall()
+        row.leave()
+        verify(closed())
+        compare(view.showSettings, row.settings)
+        showSettings()
+        verify(closed())
+        compare(madeUp.scripts.length, 0)
+        click(one(ActionButton, one(UninstallSection)))
+        verify(!closed())
     }
 
     function test_theHarmlessAnswerHasTheFocusFirst() {

@@ -22,6 +22,14 @@ Text statusText(const PublishedFields& fields) {
     return secondary("Will activate when charger is connected");
 }
 
+std::vector<Text> scale() {
+    std::vector<Text> texts;
+    for (const auto level : scaleLevels) {
+        texts.push_back(secondary(fmt::format("{}%", level)));
+    }
+    return texts;
+}
+
 StopLevel stopLevel(const PublishedFields& fields) {
     const auto status = statusText(fields);
     const auto limit = truncated(fields.chargeLimitPercent);
@@ -30,8 +38,7 @@ StopLevel stopLevel(const PublishedFields& fields) {
                        .from = stopRange.lowest,
                        .to = stopRange.highest,
                        .step = stopRange.step},
-            // No label for 40 %: the scale names where people stop.
-            .scale = {secondary("20%"), secondary("60%"), secondary("80%"), secondary("100%")},
+            .scale = scale(),
             .status = {status.color, status}};
 }
 

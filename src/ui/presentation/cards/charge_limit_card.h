@@ -2,6 +2,8 @@
 // doing.
 #pragma once
 
+#include <array>
+
 #include "monitor/published_fields.h"
 #include "ui/presentation/elements/elements.h"
 
@@ -37,7 +39,7 @@ struct HelperOffer {
 #define QUELBY_MEMBERS_OF_StopLevel(MEMBER)                                                                  \
     MEMBER(list, Text, stopAt)        /* what is meant, and the level itself */                              \
     MEMBER(part, SliderRange, slider) /* % of full charge */                                                 \
-    MEMBER(list, Text, scale)                                                                                \
+    MEMBER(list, Text, scale)         /* the texts of scaleLevels, in their order */                         \
     MEMBER(part, StatusLine, status)
 
 struct StopLevel {
@@ -65,6 +67,15 @@ struct StopRange {
 };
 
 inline constexpr StopRange stopRange;
+
+// The levels that are named below the slider; not 40 %: the scale names where people stop.
+inline constexpr std::array<Int, 4> scaleLevels{20, 60, 80, 100};
+
+// Where a level lies on the slider: 0 at its beginning to 1 at its end.
+[[nodiscard]] constexpr double positionOnSlider(Int level) {
+    return static_cast<double>(level - stopRange.lowest) /
+           static_cast<double>(stopRange.highest - stopRange.lowest);
+}
 
 [[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields);
 

@@ -49,6 +49,9 @@ CardChrome {
 
         Item { Layout.fillWidth: true }
 
-        SymbolLabel { content: card.content.health }
+        SymbolLabel {
+            content: card.content.health
+            symbolSize: Theme.caption2Size
+        }
     }
 }

@@ -71,29 +71,22 @@ CardChrome {
         }
 
         StepSlider {
+            id: stopSlider
+
             content: card.content.stopLevel.slider
             name: card.content.stopLevel.stopAt.at(0).text
             Layout.fillWidth: true
+            Layout.leftMargin: Theme.sliderInset
+            Layout.rightMargin: Theme.sliderInset
             onStepped: value => card.limitChosen(value)
         }
 
-        RowLayout {
-            Repeater {
-                model: card.content.stopLevel.scale.length
-
-                InkText {
-                    required property int index
-
-                    readonly property int last: card.content.stopLevel.scale.length - 1
-
-                    content: card.content.stopLevel.scale.at(index)
-                    font.pixelSize: Theme.smallSize
-                    horizontalAlignment: index === 0 ? Text.AlignLeft
-                                                     : index === last ? Text.AlignRight : Text.AlignHCenter
-                    Layout.fillWidth: true
-                    Layout.preferredWidth: index === 0 || index === last ? 1 : 2
-                }
-            }
+        SliderScale {
+            content: card.content.stopLevel
+            slider: stopSlider
+            Layout.fillWidth: true
+            Layout.leftMargin: Theme.sliderInset
+            Layout.rightMargin: Theme.sliderInset
         }
 
         StatusRow { content: card.content.stopLevel.status }

@@ -21,6 +21,7 @@ RowLayout {
     ProportionBar {
         content: row.content.bar
         name: row.content.label.text
+        muted: !row.total
         Layout.fillWidth: true
     }
 

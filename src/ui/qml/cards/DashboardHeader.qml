@@ -15,7 +15,7 @@ RowLayout {
 
     Symbol {
         content: header.content.symbol
-        size: Theme.title2Size + Theme.unit
+        size: Theme.title2Size
         visible: !header.inSettings
     }
 
@@ -29,14 +29,14 @@ RowLayout {
 
         contentItem: Symbol {
             content: header.content.symbol
-            size: Theme.title3Size + Theme.unit
+            size: Theme.title3Size
             rotation: back.mirrored ? 180 : 0
         }
     }
 
     InkText {
         content: header.content.title
-        font.pixelSize: Theme.title3Size
+        font.pixelSize: Theme.headlineSize
         font.weight: Font.DemiBold
         Layout.fillWidth: true
         Accessible.role: Accessible.Heading
@@ -55,7 +55,7 @@ RowLayout {
 
         contentItem: Symbol {
             content: header.content.toggle
-            size: Theme.title3Size + Theme.unit
+            size: Theme.title3Size
         }
     }
 }

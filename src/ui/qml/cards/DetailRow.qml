@@ -19,7 +19,6 @@ RowLayout {
 
             anchors.centerIn: parent
             content: row.content.symbol
-            size: Theme.captionSize + Theme.unit
         }
     }
 

@@ -15,43 +15,28 @@ CardChrome {
         title: card.content.title
     }
 
-    RowLayout {
+    FigureWithUnit {
+        figure: card.content.score
+        unit: card.content.outOf
+        size: Theme.scoreSize
+        unitSize: Theme.captionSize
         spacing: Theme.unit
+    }
 
-        FigureText {
-            content: card.content.score
-            font.pixelSize: Theme.scoreSize
-            font.weight: Font.Bold
-            Layout.alignment: Qt.AlignBaseline
-        }
+    Text {
+        text: card.content.stars
+        color: Theme.ink(card.content.score.color)
+        font.family: Theme.starFamily
+        font.pixelSize: Theme.title3Size
+        textFormat: Text.PlainText
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+        Accessible.ignored: !enabled
+    }
 
-        InkText {
-            content: card.content.outOf
-            Layout.alignment: Qt.AlignBaseline
-        }
-
-        Item { Layout.fillWidth: true }
-
-        ColumnLayout {
-            spacing: 0
-
-            Text {
-                text: card.content.stars
-                color: Theme.ink(card.content.score.color)
-                font.family: Theme.starFamily
-                font.pixelSize: Theme.title3Size
-                textFormat: Text.PlainText
-                Layout.alignment: Qt.AlignRight
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-
-            InkText {
-                content: card.content.rating
-                font.weight: Font.DemiBold
-                Layout.alignment: Qt.AlignRight
-            }
-        }
+    InkText {
+        content: card.content.rating
+        font.weight: Font.DemiBold
     }
 
     SymbolLabel {

@@ -39,7 +39,7 @@ CardChrome {
 
         Symbol {
             content: card.content.placeholder.symbol
-            size: Theme.title2Size + 2 * Theme.unit
+            size: Theme.title2Size + Theme.unit
             Layout.alignment: Qt.AlignHCenter
         }
 

@@ -18,30 +18,18 @@ CardChrome {
 
         Symbol {
             content: card.content.symbol
-            size: Theme.title3Size + 2 * Theme.unit
+            size: Theme.title3Size
             Layout.alignment: Qt.AlignBaseline
             baselineOffset: height - Theme.unit
         }
 
-        InkText {
-            content: card.content.sign
-            visible: content.present
-            font.pixelSize: Theme.hugeSize
-            font.weight: Font.Bold
-            Layout.alignment: Qt.AlignBaseline
-            Layout.rightMargin: -Theme.unit
-        }
-
-        FigureText {
-            content: card.content.figure
-            font.pixelSize: Theme.hugeSize
-            font.weight: Font.Bold
-            Layout.alignment: Qt.AlignBaseline
-        }
-
-        InkText {
-            content: card.content.unit
-            font.pixelSize: Theme.title2Size
+        FigureWithUnit {
+            sign: card.content.sign
+            figure: card.content.figure
+            unit: card.content.unit
+            size: Theme.hugeSize
+            unitSize: Theme.title2Size
+            spacing: 2 * Theme.unit
             Layout.alignment: Qt.AlignBaseline
         }
     }

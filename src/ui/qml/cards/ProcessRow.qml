@@ -19,15 +19,16 @@ RowLayout {
         content: row.content.name
         font.pixelSize: Theme.captionSize
         Layout.preferredWidth: 64 * Theme.unit
-        Layout.fillWidth: true
     }
 
     InkText {
         content: row.content.cpu
         font.weight: Font.Medium
         horizontalAlignment: Text.AlignRight
-        Layout.preferredWidth: 24 * Theme.unit
+        Layout.preferredWidth: 48 * Theme.unit
     }
+
+    Item { Layout.fillWidth: true }
 
     InkText {
         content: row.content.watts

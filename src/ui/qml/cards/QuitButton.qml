@@ -8,7 +8,7 @@ PlainButton {
     required property inkedLabel content
 
     name: content.text.text
-    padding: 2 * Theme.unit
+    padding: 2 * Theme.unit // which is the extra space above it as well
 
     contentItem: SymbolLabel {
         content: button.content

@@ -16,6 +16,7 @@ Rectangle {
     color: Theme.card
     Accessible.role: Accessible.Grouping
     Accessible.name: name
+    Accessible.ignored: !enabled
 
     ColumnLayout {
         id: column

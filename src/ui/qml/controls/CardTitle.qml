@@ -16,7 +16,7 @@ RowLayout {
 
     Symbol {
         content: row.symbol
-        size: Theme.headlineSize + Theme.unit
+        size: Theme.headlineSize
         visible: row.symbol.name !== ""
     }
 

@@ -15,6 +15,7 @@ Item {
     Layout.fillWidth: true
     Accessible.role: Accessible.Chart
     Accessible.name: name
+    Accessible.ignored: !enabled
     Accessible.description: chart.readOut
     Keys.onLeftPressed: chart.hover(chart.hoverIndex < 0 ? count - 1 : Math.max(chart.hoverIndex - 1, 0))
     Keys.onRightPressed: chart.hover(chart.hoverIndex < 0 ? 0 : Math.min(chart.hoverIndex + 1, count - 1))

@@ -14,6 +14,7 @@ T.RadioButton {
     implicitWidth: implicitContentWidth + leftPadding + rightPadding
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     Accessible.name: choice.text
+    Accessible.ignored: !enabled
     Accessible.checkable: true
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()

@@ -16,5 +16,5 @@ Text {
     horizontalAlignment: Text.AlignLeft // said, so that it is mirrored
     Accessible.role: Accessible.StaticText
     Accessible.name: text
-    Accessible.ignored: silent
+    Accessible.ignored: silent || !enabled
 }

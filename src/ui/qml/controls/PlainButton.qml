@@ -13,6 +13,7 @@ T.AbstractButton {
     implicitHeight: implicitContentHeight + topPadding + bottomPadding
     opacity: pressed ? Theme.pressedOpacity : 1
     Accessible.name: name
+    Accessible.ignored: !enabled
     Accessible.onPressAction: clicked()
     Keys.onReturnPressed: clicked()
     Keys.onEnterPressed: clicked()

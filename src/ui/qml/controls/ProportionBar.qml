@@ -9,14 +9,16 @@ Item {
     required property inkedBar content
     required property string name // for those who cannot see it
     property bool graded: false // from a pale beginning
+    property bool muted: false // in a paler shade of its colour
 
-    readonly property color full: Theme.fill(content.color)
+    readonly property color full: Theme.translucent(Theme.fill(content.color), muted ? Theme.mutedOpacity : 1)
     readonly property color pale: graded ? Theme.translucent(full, Theme.paleOpacity) : full
     property real fraction: content.fraction // on its way to the content's
 
     implicitHeight: Theme.barHeight
     Accessible.role: Accessible.ProgressBar
     Accessible.name: name
+    Accessible.ignored: !enabled
     Accessible.description: content.percent
     LayoutMirroring.childrenInherit: true
 

@@ -14,31 +14,51 @@ T.Slider {
     readonly property real minimumValue: from
     readonly property real maximumValue: to
 
+    property bool following: false // the content, which need not be told of what it says
+
     signal stepped(real value)
 
-    function tell() {
-        if (value !== content.value) {
-            stepped(value)
-        }
+    function follow() {
+        following = true
+        from = content.from
+        to = content.to
+        stepSize = content.step
+        value = Math.max(from, Math.min(content.value, to)) // others may have gone beyond the ends
+        following = false
     }
 
-    from: content.from
-    to: content.to
-    stepSize: content.step
-    value: content.value
+    function nearestStep(): real {
+        return from + Math.round((value - from) / stepSize) * stepSize
+    }
+
+    // Where the middle of the handle is at a position of 0 to 1, from the left.
+    function handleCentre(position: real): real {
+        const way = availableWidth - handle.width
+        return leftPadding + handle.width / 2 + (mirrored ? 1 - position : position) * way
+    }
+
     snapMode: T.Slider.SnapAlways
     live: true
     implicitHeight: 9 * Theme.unit
     Accessible.name: name
-    Accessible.onIncreaseAction: {
-        increase()
-        tell()
+    Accessible.ignored: !enabled
+    Accessible.onIncreaseAction: increase()
+    Accessible.onDecreaseAction: decrease()
+    Component.onCompleted: follow()
+    onContentChanged: follow()
+
+    // Pointer and keyboard go by steps; assistive technology sets what it likes.
+    onValueChanged: {
+        if (following) {
+            return
+        }
+        const step = nearestStep()
+        if (value === step) {
+            stepped(value)
+        } else {
+            value = step
+        }
     }
-    Accessible.onDecreaseAction: {
-        decrease()
-        tell()
-    }
-    onMoved: tell()
 
     background: Item {
         Rectangle {
@@ -60,7 +80,7 @@ T.Slider {
     }
 
     handle: Rectangle {
-        x: slider.visualPosition * (slider.availableWidth - width)
+        x: slider.handleCentre(slider.position) - width / 2
         y: (slider.height - height) / 2
         width: 8 * Theme.unit
         height: width

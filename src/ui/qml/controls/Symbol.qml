@@ -5,10 +5,10 @@ import Quelby.Bridge
 
 SymbolItem {
     required property inkedSymbol content
-    property real size: Theme.captionSize
+    property real size: Theme.captionSize // of the letters that it goes with: it is a little larger itself
 
     name: content.name
     color: Theme.symbolInk(content.color)
-    implicitWidth: size
-    implicitHeight: size
+    implicitWidth: size + Theme.unit
+    implicitHeight: implicitWidth
 }

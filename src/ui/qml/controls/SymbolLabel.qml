@@ -9,6 +9,7 @@ RowLayout {
 
     required property inkedLabel content
     property real size: Theme.captionSize
+    property real symbolSize: size
     property bool wraps: false
     property bool silent: false // because somebody else says the same
 
@@ -16,7 +17,7 @@ RowLayout {
 
     Symbol {
         content: label.content.symbol
-        size: label.size + Theme.unit
+        size: label.symbolSize
         Layout.alignment: label.wraps ? Qt.AlignTop : Qt.AlignVCenter
     }
 

@@ -23,6 +23,7 @@ QtObject {
     readonly property real controlRadius: 3 * unit
     readonly property real barHeight: 4 * unit
     readonly property real levelBarHeight: 5 * unit
+    readonly property real sliderInset: 2 * unit // so that the texts under its ends keep to the card
     readonly property real focusWidth: unit
     readonly property real hairline: unit / 2
 
@@ -45,7 +46,7 @@ QtObject {
 
     readonly property color window: dark ? "#1b1b1f" : "#e9e9ee"
     readonly property color card: dark ? "#12ffffff" : "#b8ffffff"
-    readonly property color track: dark ? "#26ffffff" : "#17000000"
+    readonly property color track: dark ? "#598e8e93" : "#408e8e93"
     readonly property color divider: dark ? "#1fffffff" : "#1a000000"
     readonly property color control: dark ? "#17ffffff" : "#17000000"
     readonly property color controlPressed: dark ? "#3dffffff" : "#2b000000"
@@ -62,6 +63,7 @@ QtObject {
     readonly property real pressedOpacity: 0.6
     readonly property real restingOpacity: 0.7 // of what comes out fully under the pointer
     readonly property real paleOpacity: 0.55 // where a graded bar begins
+    readonly property real mutedOpacity: 0.75 // of the bars that only make up another
 
     // In the order of Ink.Name. Text has to be read, so it is darker than the surfaces of the same name in the
     // light, and lighter in the dark.

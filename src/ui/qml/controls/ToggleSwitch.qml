@@ -17,6 +17,7 @@ T.CheckBox {
     implicitWidth: 17 * Theme.unit
     implicitHeight: 10 * Theme.unit
     Accessible.name: name
+    Accessible.ignored: !enabled
     Accessible.checkable: true
     Accessible.onPressAction: clicked()
     Accessible.onToggleAction: clicked()

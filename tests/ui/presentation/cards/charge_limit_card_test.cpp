@@ -65,6 +65,14 @@ TEST_F(ChargeLimitCardTest, IsOnlyAHeaderWhileTheLimitIsOff) {
     EXPECT_EQ(chargeLimitCard(fields), header(false, true));
 }
 
+TEST(ChargeLimitScale, StandsWhereItsLevelsAreOnTheSlider) {
+    std::vector<double> positions;
+    for (const auto level : scaleLevels) {
+        positions.push_back(positionOnSlider(level));
+    }
+    EXPECT_EQ(positions, (std::vector{0.0, 0.5, 0.75, 1.0}));
+}
+
 TEST_F(ChargeLimitCardTest, TellsWhatTheHelperIsDoing) {
     expectStatus(ColorName::secondary, "Will activate when charger is connected");
     fields.isPluggedIn = true;
