@@ -58,11 +58,7 @@ TEST_F(HistoryRecording, GoesOnWhereTheStoreBeforeEnded) {
 TEST_F(HistoryRecording, IsOverWithTheStoreAndLeavesOneFile) {
     recordAt(noon);
     store.reset();
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(file.parent_path())) {
-        names.push_back(entry.path().filename());
-    }
-    EXPECT_THAT(names, ElementsAre("history.db"));
+    EXPECT_THAT(folder.names("Quelby"), ElementsAre("history.db"));
 }
 
 TEST_F(HistoryRecording, GoesThroughAWriteAheadLog) {

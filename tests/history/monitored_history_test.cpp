@@ -2,11 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "history/history_file.h"
-#include "history/support/file_size_limit.h"
 #include "history/support/tables.h"
 #include "monitor/power_monitor.h"
 #include "support/assignments.h"
 #include "support/fake_platform.h"
+#include "support/file_size_limit.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
