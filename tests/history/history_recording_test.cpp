@@ -11,8 +11,6 @@ using testing::Pair;
 
 using HistoryRecording = HistoryTest;
 
-constexpr std::int64_t noonSecond = 1'699'963'200;
-
 TEST_F(HistoryRecording, KeepsEveryColumnOfAReading) {
     store->addReading(12.5, 79, true, 33.25);
     EXPECT_THAT(tables().readings, ElementsAre(Pair(noonSecond, ReadingRow{12.5, 79, true, 33.25})));
