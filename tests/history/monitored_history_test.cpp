@@ -101,7 +101,10 @@ TEST_F(MonitoredHistory, RenewsItsFieldsInOrder) {
 TEST_F(MonitoredHistory, IsEmptyWithoutAConnection) {
     startMonitoring();
     computer.folders.support = "/proc/nowhere";
+    int updates = 0;
+    monitor->onUpdate = [&] { ++updates; };
     monitor->startMonitoring();
+    EXPECT_EQ(updates, 1);
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
     EXPECT_EQ(monitor->historyAvg, 0.0);
     EXPECT_EQ(monitor->historyMin, 0.0);
