@@ -1,5 +1,6 @@
 #include "platform/linux/processes/stat_reader.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include "fake_proc.h"
