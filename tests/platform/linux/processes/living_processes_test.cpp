@@ -109,9 +109,9 @@ TEST_F(LivingProcesses, ChangeTheirNames) {
 // Runs a copy of `cat`, which waits for input that never comes.
 class LongNamed {
 public:
-    [[nodiscard]] std::filesystem::path program() const { return folder_.path() / name(); }
+    [[nodiscard]] const std::filesystem::path& program() const { return program_; }
 
-    [[nodiscard]] static std::string name() { return uniqueName("a-program-with-a-name-of-length"); }
+    [[nodiscard]] std::string name() const { return program_.filename(); }
 
     void run(const char* argument) {
         child_.emplace([&](const FileDescriptor&) {
@@ -123,6 +123,7 @@ public:
 
 private:
     TemporaryFolder folder_;
+    std::filesystem::path program_ = folder_.path() / uniqueName("a-program-with-a-name-of-length");
     Pipe input_ = makePipe(); // nothing is ever written
     std::optional<ChildProcess> child_;
 };
