@@ -103,7 +103,7 @@ SettingsPanel settingsPanel(const PublishedFields& fields, Date now, const std::
             .calibration = calibrationSection(fields, now, language),
             .helper = helperSection(fields),
             .uninstall = uninstallSection(),
-            .version = secondary(fmt::format("{} v{}", words::program, version())),
+            .version = secondary(fmt::format("{} v{}", words::program, shortVersion())),
             .quit = quitButton()};
 }
 

@@ -31,7 +31,8 @@ TEST(Words, NameTheCardOfTheLargeFigure) {
 }
 
 TEST(Words, OfTheSettingsEndWithTheProgramsVersion) {
-    EXPECT_EQ(settingsPanel(PublishedFields(), 0, "en").version.text, "Quelby v" + std::string(version()));
+    EXPECT_EQ(settingsPanel(PublishedFields(), 0, "en").version.text,
+              "Quelby v" + std::string(shortVersion()));
 }
 
 } // namespace
