@@ -4,7 +4,8 @@
 
 namespace quelby {
 
-// Of the program, as in "1.0".
+// Of the program, whole ("1.0.0") and as people are shown it ("1.0").
 [[nodiscard]] std::string_view version();
+[[nodiscard]] std::string_view shortVersion();
 
 } // namespace quelby

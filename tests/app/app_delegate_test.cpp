@@ -186,7 +186,7 @@ TEST_F(AppDelegateTest, StopsTheMonitorBeforeItEndsTheProgram) {
     EXPECT_THAT(runLoop.loop.intervals(), IsEmpty());
 }
 
-TEST_F(AppDelegateTest, QuitsFromTheMenuOfTheItemLikewise) {
+TEST_F(AppDelegateTest, QuitsFromTheMenuOfTheItem) {
     launch();
     desktop.item->actions.quit();
     EXPECT_THAT(calls(), ElementsAre("stop the timer of 3 s", "terminate"));

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "history/history_file.h"
-#include "history/sqlite/statement.h"
+#include "history/support/tables.h"
 #include "support/laptop_recording.h"
 #include "support/program.h"
 #include "support/quelbyctl.h"
@@ -30,13 +30,7 @@ protected:
     }
 
     [[nodiscard]] std::int64_t recordedRows() const {
-        const auto history = openForReading(historyFile(folder.path()));
-        if (!history) {
-            ADD_FAILURE() << history.error().sentence;
-            return 0;
-        }
-        Statement count(history->get(), "SELECT COUNT(*) FROM readings");
-        return count.step() ? count.integer(0) : 0;
+        return Database(historyFile(folder.path())).number("SELECT COUNT(*) FROM readings");
     }
 
     TemporaryFolder folder;

@@ -11,8 +11,6 @@ using testing::Pair;
 
 using HistoryAggregation = HistoryTest;
 
-constexpr std::int64_t noonSecond = 1'699'963'200;
-
 TEST_F(HistoryAggregation, RunsWithTheFirstReading) {
     recordAt(noon + 61, 10, 50);
     EXPECT_THAT(tables().minutes, ElementsAre(Pair(noonSecond + 60, MeanRow{10, 50})));

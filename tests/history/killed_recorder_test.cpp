@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <random>
 
@@ -22,12 +24,12 @@ class KilledRecorder : public RecorderTest {
 protected:
     // Starts the recorder, kills it after so many lines, and gives the number of lines that it had printed.
     [[nodiscard]] std::ptrdiff_t linesUntilKilled(double start, std::ptrdiff_t lines) const {
-        RecorderProcess program(recorder(recording(start, step, linesOfARound), {"--fast"}), environment());
-        program.readLines(lines);
-        const auto killed = program.kill();
+        RunningProgram program(recorder(recording(start, step, linesOfARound), {"--fast"}), environment());
+        readLines(program, lines);
+        program.signal(SIGKILL);
+        const auto killed = program.end();
         EXPECT_EQ(killed.exitStatus, 128 + SIGKILL);
-        EXPECT_GE(program.lines(), lines);
-        return program.lines();
+        return lines + std::count(killed.output.begin(), killed.output.end(), '\n');
     }
 
     // As the recorder left it: reading does not tidy up after it.

@@ -2,10 +2,11 @@
 #include <gtest/gtest.h>
 
 #include "history/history_file.h"
-#include "history/support/file_size_limit.h"
 #include "history/support/tables.h"
 #include "monitor/power_monitor.h"
+#include "support/assignments.h"
 #include "support/fake_platform.h"
+#include "support/file_size_limit.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -61,6 +62,11 @@ protected:
     std::shared_ptr<PowerMonitor> monitor;
 };
 
+TEST_F(MonitoredHistory, IsNotTouchedBeforeTheStart) {
+    const auto unstarted = PowerMonitor::create(computer.platform(), {.history = HistoryAccess::recording});
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
 TEST_F(MonitoredHistory, GetsAReadingFromEachCycle) {
     startMonitoring();
     cycle(2);
@@ -71,6 +77,9 @@ TEST_F(MonitoredHistory, GetsAReadingFromEachCycle) {
 TEST_F(MonitoredHistory, IsShownAfterTheFirstCycleAndWhenARangeIsSelected) {
     startMonitoring();
     EXPECT_THAT(monitor->historyData.get(), ElementsAre(HistoryDataPoint{1'700'000'000, 12}));
+    EXPECT_EQ(monitor->historyAvg, 12.0);
+    EXPECT_EQ(monitor->historyMin, 12.0);
+    EXPECT_EQ(monitor->historyMax, 12.0);
     EXPECT_EQ(monitor->todayWh, 12 * 3.0 / 3600);
     cycle(5);
     EXPECT_EQ(monitor->historyData.get().size(), 1U);
@@ -85,29 +94,46 @@ TEST_F(MonitoredHistory, IsShownAfterTheFirstCycleAndWhenARangeIsSelected) {
 
 TEST_F(MonitoredHistory, RenewsItsFieldsInOrder) {
     startMonitoring();
-    std::vector<std::string> order;
-    std::vector<Subscription> subscriptions;
-    forEachField(*monitor, [&](FieldName field, auto& published) {
-        subscriptions.push_back(published.observe(
-            [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
-    });
-    monitor->selectHistoryRange(TimeRange::oneHour);
-    EXPECT_THAT(order, ElementsAre("historyRange", "historyData", "historyAvg", "historyMin", "historyMax",
-                                   "todayWh"));
+    EXPECT_THAT(
+        assignedDuring(*monitor, [this] { monitor->selectHistoryRange(TimeRange::oneHour); }),
+        ElementsAre("historyRange", "historyData", "historyAvg", "historyMin", "historyMax", "todayWh"));
 }
 
 TEST_F(MonitoredHistory, IsEmptyWithoutAConnection) {
     startMonitoring();
     computer.folders.support = "/proc/nowhere";
+    int updates = 0;
+    monitor->onUpdate = [&] { ++updates; };
     monitor->startMonitoring();
+    EXPECT_EQ(updates, 1);
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
     EXPECT_EQ(monitor->historyAvg, 0.0);
     EXPECT_EQ(monitor->historyMin, 0.0);
     EXPECT_EQ(monitor->historyMax, 0.0);
     EXPECT_EQ(monitor->todayWh, 0.0);
+    monitor->todayWh = 5;
     monitor->selectHistoryRange(TimeRange::oneHour);
     EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
+    EXPECT_EQ(monitor->todayWh, 0.0);
+    expectLivingFields();
+}
+
+TEST_F(MonitoredHistory, IsReadBesideARecorderByAMonitorThatRecordsNothing) {
+    startMonitoring();
+    computer.clock.time += 3;
+    const auto reader = PowerMonitor::create(computer.platform(), {.history = HistoryAccess::readOnly});
+    reader->startMonitoring();
+    EXPECT_EQ(reader->historyData.get().size(), 1U);
+    EXPECT_EQ(readings().size(), 1U);
+}
+
+TEST_F(MonitoredHistory, GoesOnWhenTheMonitorStartsAgain) {
+    startMonitoring();
+    monitor->stopMonitoring();
+    computer.clock.time += 3;
+    monitor->startMonitoring();
+    EXPECT_EQ(monitor->historyData.get().size(), 2U);
 }
 
 TEST_F(MonitoredHistory, HasNothingButItsRangeWithoutAStore) {

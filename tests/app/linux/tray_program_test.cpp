@@ -4,7 +4,7 @@
 
 #include "app/linux/support/tray_program.h"
 #include "history/history_file.h"
-#include "history/sqlite/statement.h"
+#include "history/support/tables.h"
 
 namespace quelby {
 namespace {
@@ -18,13 +18,7 @@ const std::string noTray = "quelby: this desktop has no tray, so the dashboard i
 class TrayProgram : public TrayProgramTest {
 protected:
     [[nodiscard]] std::int64_t recordedRows() const {
-        const auto history = openForReading(historyFile(folder.path()));
-        if (!history) {
-            ADD_FAILURE() << history.error().sentence;
-            return 0;
-        }
-        Statement count(history->get(), "SELECT COUNT(*) FROM readings");
-        return count.step() ? count.integer(0) : 0;
+        return Database(historyFile(folder.path())).number("SELECT COUNT(*) FROM readings");
     }
 };
 

@@ -3,9 +3,9 @@
 #include <gtest/gtest.h>
 
 #include "history/history_file.h"
-#include "recorder_process.h"
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
+#include "support/running_program.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -36,6 +36,12 @@ protected:
 
     // A recorder that is killed leaves its temporary files behind, here.
     [[nodiscard]] Environment environment() const { return {{"TMPDIR", folder.path()}}; }
+
+    static void readLines(RunningProgram& recorder, std::ptrdiff_t count) {
+        for (; count > 0; --count) {
+            static_cast<void>(recorder.line());
+        }
+    }
 
     TemporaryFolder folder;
     std::filesystem::path file = historyFile(folder.path());

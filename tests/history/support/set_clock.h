@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/clock.h"
 
 namespace quelby {
@@ -7,7 +9,8 @@ namespace quelby {
 constexpr double minute = 60;
 constexpr double hour = 3600;
 constexpr double day = 24 * hour;
-constexpr double noon = 1'699'963'200; // 2023-11-14 12:00 UTC
+constexpr std::int64_t noonSecond = 1'699'963'200; // 2023-11-14 12:00 UTC
+constexpr double noon = noonSecond;
 
 // Shows what a test sets.
 struct SetClock final : Clock {

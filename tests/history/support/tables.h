@@ -26,8 +26,9 @@ struct MeanRow {
     bool operator==(const MeanRow&) const = default;
 };
 
-using Readings = std::map<std::int64_t, ReadingRow>; // by seconds since 1970
-using Means = std::map<std::int64_t, MeanRow>;       // likewise
+// By seconds since 1970.
+using Readings = std::map<std::int64_t, ReadingRow>;
+using Means = std::map<std::int64_t, MeanRow>;
 
 struct Tables {
     Readings readings;

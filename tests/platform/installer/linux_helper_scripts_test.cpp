@@ -2,10 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "platform/installer/systemd_unit.h"
 #include "shell_check.h"
+#include "support/file_mode.h"
 
 namespace quelby {
 namespace {
@@ -36,10 +36,6 @@ protected:
 
     [[nodiscard]] std::string content(const fs::path& file) const {
         return folder.read(file.lexically_relative(folder.path()));
-    }
-
-    [[nodiscard]] static unsigned modeOf(const fs::path& path) {
-        return static_cast<unsigned>(fs::status(path).permissions());
     }
 
     TemporaryFolder folder;
@@ -97,10 +93,8 @@ TEST_F(LinuxHelperScriptsTest, LeaveNothingOpenThatRootIsToRunWhateverTheUmask) 
     for (const mode_t mask : {0000U, 0077U}) {
         fs::remove_all(root / "usr");
         fs::remove(unit);
-        const auto former = ::umask(mask);
-        const auto installed = install();
-        ::umask(former);
-        EXPECT_EQ(installed.exitStatus, 0);
+        const Umask narrower(mask);
+        EXPECT_EQ(install().exitStatus, 0);
         EXPECT_EQ(modeOf(executable), 0755U);
         EXPECT_EQ(modeOf(executable.parent_path()), 0755U);
         EXPECT_EQ(modeOf(unit), 0644U);

@@ -4,7 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "platform/posix/ordinary_user.h"
+#include "support/file_mode.h"
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -13,29 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 constexpr std::size_t longestText = 64 << 10;
-
-mode_t modeOf(const fs::path& path) {
-    struct stat status {};
-
-    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
-}
-
-// The mask of this process for files that it makes, until the end of the block.
-class Umask {
-public:
-    explicit Umask(mode_t mask) : former_(::umask(mask)) {}
-
-    Umask(const Umask&) = delete;
-    Umask& operator=(const Umask&) = delete;
-
-    ~Umask() { ::umask(former_); }
-
-private:
-    mode_t former_;
-};
 
 class HelperFilesTest : public testing::Test {
 protected:
@@ -48,19 +28,7 @@ protected:
 
     // An ordinary user tries to replace the config, and is told whether that was done.
     void expectReplacingByAnOrdinaryUser(std::string_view text, bool isDone) {
-        EXPECT_TRUE(doneByAnOrdinaryUser([&] {
-            if (files.replaceConfig(text).has_value() != isDone) {
-                ::_exit(2);
-            }
-        }));
-    }
-
-    [[nodiscard]] std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder.path())) {
-            names.push_back(entry.path().filename());
-        }
-        return names;
+        EXPECT_TRUE(doneByAnOrdinaryUser([&] { return files.replaceConfig(text).has_value() == isDone; }));
     }
 
     TemporaryFolder folder;
@@ -108,11 +76,7 @@ TEST_F(HelperFilesTest, GiveNothingLongerThanARecord) {
 TEST_F(HelperFilesTest, GiveNothingThatMayNotBeRead) {
     folder.write("status.json", "secret");
     fs::permissions(folder.path() / "status.json", fs::perms(0));
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] {
-        if (files.status()) {
-            ::_exit(2);
-        }
-    }));
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { return !files.status(); }));
 }
 
 TEST_F(HelperFilesTest, OpenFolderAndFileToEverybodyWhateverTheUmask) {
@@ -145,7 +109,7 @@ TEST_F(HelperFilesTest, ReplaceTheConfigAndLeaveNothingBesideIt) {
     EXPECT_EQ(modeOf(config), 0666U);
     EXPECT_EQ(folder.read("the old one"), "an older and longer text");
     fs::remove(folder.path() / "the old one");
-    EXPECT_THAT(names(), ElementsAre("config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("config.json"));
 }
 
 TEST_F(HelperFilesTest, ReplaceWhateverElseLiesThere) {
@@ -172,7 +136,7 @@ TEST_F(HelperFilesTest, AreRewrittenInPlaceWhereTheFolderIsClosed) {
     EXPECT_EQ(folder.read("config.json"), "new");
     expectReplacingByAnOrdinaryUser("and longer again", true);
     EXPECT_EQ(folder.read("config.json"), "and longer again");
-    EXPECT_THAT(names(), ElementsAre("config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("config.json"));
 }
 
 TEST_F(HelperFilesTest, FollowNoLinkInAClosedFolder) {
@@ -209,7 +173,7 @@ TEST_F(HelperFilesTest, PassOverAFolderThatCannotBe) {
     fs::create_directories(config / "not empty");
     EXPECT_FALSE(files.replaceConfig("text"));
     EXPECT_TRUE(fs::is_directory(config));
-    EXPECT_THAT(names(), UnorderedElementsAre("a file", "config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("a file", "config.json"));
 }
 
 } // namespace

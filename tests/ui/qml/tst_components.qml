@@ -1,5 +1,6 @@
 import QtQuick
 import Quelby
+import Quelby.Bridge
 
 DashboardTestCase {
     name: "Components"
@@ -238,6 +239,32 @@ DashboardTestCase {
         compare(all(StatusRow, card).length, row.sliders)
         compare(all(ActionButton, card).length, row.offers)
         verify(has(said.chargeLimit.subtitle.text))
+    }
+
+    function test_aSwitchShowsWhatIsAndNotWhatWasClicked() {
+        const refusing = createTemporaryQmlObject("import Quelby; ToggleSwitch { name: ''; on: false }", view)
+        mouseClick(refusing)
+        keyClick(Qt.Key_Space)
+        verify(!refusing.on)
+        const knob = refusing.contentItem.children[0]
+        verify(knob.x < refusing.width / 2 - knob.width / 2)
+    }
+
+    function test_aSwitchFollowsTheModel() {
+        set("chargeLimitEnabled", false)
+        verify(!named(ToggleSwitch, said.chargeLimit.title.text).on)
+        set("chargeLimitEnabled", true)
+        verify(named(ToggleSwitch, said.chargeLimit.title.text).on)
+    }
+
+    function test_aButtonGivesWayUnderThePointer() {
+        const button = named(PlainButton, Words.settings)
+        mousePress(button)
+        verify(button.opacity < 1)
+        mouseMove(button, -40, 60)
+        mouseRelease(view, 200, 200)
+        compare(button.opacity, 1)
+        verify(!view.showSettings)
     }
 
     function test_datesFollowTheLastCalibration() {

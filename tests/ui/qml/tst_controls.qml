@@ -12,16 +12,13 @@ DashboardTestCase {
         keypad: control => press(control, Qt.Key_Enter)
     })
 
-    function eachWay() {
+    // For every test: what a person does with a control in each of the ways.
+    function init_data() {
         return Object.keys(ways).map(way => ({ tag: way, act: ways[way] }))
     }
 
     function limitSwitch() {
         return named(ToggleSwitch, said.chargeLimit.title.text)
-    }
-
-    function test_chargeLimitIsSwitched_data() {
-        return eachWay()
     }
 
     function test_chargeLimitIsSwitched(way) {
@@ -33,26 +30,6 @@ DashboardTestCase {
         verify(config().chargeLimitEnabled)
         compare(all(StepSlider).length, 1)
         compare(madeUp.configWrites, 2)
-    }
-
-    function test_aSwitchShowsWhatIsAndNotWhatWasClicked() {
-        const refusing = createTemporaryQmlObject("import Quelby; ToggleSwitch { name: ''; on: false }", view)
-        mouseClick(refusing)
-        keyClick(Qt.Key_Space)
-        verify(!refusing.on)
-        const knob = refusing.contentItem.children[0]
-        verify(knob.x < refusing.width / 2 - knob.width / 2)
-    }
-
-    function test_aSwitchFollowsTheModel() {
-        set("chargeLimitEnabled", false)
-        verify(!limitSwitch().on)
-        set("chargeLimitEnabled", true)
-        verify(limitSwitch().on)
-    }
-
-    function test_helperIsInstalledFromTheCard_data() {
-        return eachWay()
     }
 
     function test_helperIsInstalledFromTheCard(way) {
@@ -69,10 +46,6 @@ DashboardTestCase {
         compare(all(StepSlider).length, 1)
     }
 
-    function test_aRangeIsChosen_data() {
-        return eachWay()
-    }
-
     function test_aRangeIsChosen(way) {
         for (const range of ["7d", "24h", "1h", "30m"]) {
             way.act(named(ChoiceButton, range))
@@ -82,10 +55,6 @@ DashboardTestCase {
         }
     }
 
-    function test_programIsStartedAtLogin_data() {
-        return eachWay()
-    }
-
     function test_programIsStartedAtLogin(way) {
         showSettings()
         const launch = said.settings.general.launchAtLogin.title.text
@@ -93,10 +62,6 @@ DashboardTestCase {
         verify(named(ToggleSwitch, launch).on)
         way.act(named(ToggleSwitch, launch))
         compare(madeUp.loginWishes, ["register", "unregister"])
-    }
-
-    function test_aDisplayIsChosen_data() {
-        return eachWay()
     }
 
     function test_aDisplayIsChosen(way) {
@@ -109,10 +74,6 @@ DashboardTestCase {
         }
     }
 
-    function test_calibrationIsSwitched_data() {
-        return eachWay()
-    }
-
     function test_calibrationIsSwitched(way) {
         showSettings()
         const calibrate = said.settings.calibration.autoCalibrate.title.text
@@ -121,10 +82,6 @@ DashboardTestCase {
         way.act(named(ToggleSwitch, calibrate))
         verify(config().calibrationEnabled)
         compare(config().calibrationIntervalDays, 30)
-    }
-
-    function test_anIntervalIsChosenWhichSwitchesTheCalibrationOn_data() {
-        return eachWay()
     }
 
     function test_anIntervalIsChosenWhichSwitchesTheCalibrationOn(way) {
@@ -136,10 +93,6 @@ DashboardTestCase {
             verify(config().calibrationEnabled)
             verify(one(ToggleSwitch, one(CalibrationSection)).on)
         }
-    }
-
-    function test_helperIsUninstalledAndInstalledAgain_data() {
-        return eachWay()
     }
 
     function test_helperIsUninstalledAndInstalledAgain(way) {
@@ -155,25 +108,11 @@ DashboardTestCase {
         compare(madeUp.scripts.length, 2)
     }
 
-    function test_programQuits_data() {
-        return eachWay()
-    }
-
     function test_programQuits(way) {
         way.act(one(QuitButton))
         compare(madeUp.quits, 1)
         showSettings()
         way.act(one(QuitButton))
         compare(madeUp.quits, 2)
-    }
-
-    function test_aButtonGivesWayUnderThePointer() {
-        const button = named(PlainButton, Words.settings)
-        mousePress(button)
-        verify(button.opacity < 1)
-        mouseMove(button, -40, 60)
-        mouseRelease(view, 200, 200)
-        compare(button.opacity, 1)
-        verify(!view.showSettings)
     }
 }

@@ -103,7 +103,7 @@ SettingsPanel settingsPanel(const PublishedFields& fields, Date now, const Relat
             .calibration = calibrationSection(fields, now, relativeDate),
             .helper = helperSection(fields),
             .uninstall = uninstallSection(),
-            .version = secondary(fmt::format("{} v{}", words::program, version())),
+            .version = secondary(fmt::format("{} v{}", words::program, shortVersion())),
             .quit = quitButton()};
 }
 

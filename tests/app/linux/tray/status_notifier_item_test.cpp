@@ -1,42 +1,23 @@
+// What the item shows, and how it tells of changes.
 #include "app/linux/tray/status_notifier_item.h"
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
 #include <QFileInfo>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
-#include "app/linux/support/bus_peer.h"
-#include "app/linux/support/eventually.h"
 #include "app/linux/tray/status_icon.h"
-#include "support/fake_desktop.h"
-#include "ui/support/printing.h"
+#include "status_notifier_fixture.h"
 
 namespace quelby::app {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Optional;
 using testing::SizeIs;
 
-const ItemContent content{"battery.75percent", "-12W", "80 % discharging", MenuBarDisplay::watts};
-
-class StatusNotifierItemTest : public testing::Test {
+class ShownItem : public StatusNotifierItemTest {
 protected:
-    StatusNotifierItemTest() {
-        registerDBusTypes();
-        peer.listen(connection->baseService());
-    }
-
-    void showAt(std::string_view host) {
-        item.setHost(trayHost(host));
-        item.show(content);
-        static_cast<void>(signalsSoFar());
-    }
-
-    [[nodiscard]] QVariant property(const QString& name) { return peer.property(object, name); }
-
     [[nodiscard]] DBusPictures pictures() { return qdbus_cast<DBusPictures>(property("IconPixmap")); }
 
     // The pictures are those of the drawing, at the two sides that hosts ask for.
@@ -51,31 +32,9 @@ protected:
             EXPECT_EQ(shown[i].bytes, expected.bytes);
         }
     }
-
-    [[nodiscard]] std::vector<std::string> signalsSoFar() { return peer.signalsSoFar(object); }
-
-    [[nodiscard]] QDBusMessage call(const QString& method, const QVariantList& arguments = {}) {
-        return peer.call(object, method, arguments);
-    }
-
-    PrivateBus bus;
-    BusConnection connection;
-    BusPeer peer;
-    std::vector<std::string> done;
-    std::optional<QPoint> pressedAt;
-    bool acts = true;
-    StatusItemActions actions{
-        .toggle = [this] { done.emplace_back("toggle"); },
-        .scroll = [this](int steps) { done.push_back("scroll " + std::to_string(steps)); }};
-    StatusNotifierItem item{*connection, actions, [this](std::optional<QPoint> where) {
-                                pressedAt = where;
-                                done.emplace_back("press");
-                                return acts;
-                            }};
-    BusObject object{connection->baseService(), "/StatusNotifierItem", "org.kde.StatusNotifierItem"};
 };
 
-TEST_F(StatusNotifierItemTest, SaysWhatItIs) {
+TEST_F(ShownItem, SaysWhatItIs) {
     showAt("plasmashell");
     const auto all = peer.properties(object);
     EXPECT_EQ(all["Category"].toString(), "Hardware");
@@ -92,7 +51,7 @@ TEST_F(StatusNotifierItemTest, SaysWhatItIs) {
     EXPECT_THAT(toolTip.icon, IsEmpty());
 }
 
-TEST_F(StatusNotifierItemTest, GivesEachPropertyAloneAsItGivesThemAll) {
+TEST_F(ShownItem, GivesEachPropertyAloneAsItGivesThemAll) {
     showAt("gnome-shell");
     const auto all = peer.properties(object);
     for (auto one = all.begin(); one != all.end(); ++one) {
@@ -104,7 +63,7 @@ TEST_F(StatusNotifierItemTest, GivesEachPropertyAloneAsItGivesThemAll) {
     }
 }
 
-TEST_F(StatusNotifierItemTest, IsALabelBesideANamedIconAndWithoutMenuInGnome) {
+TEST_F(ShownItem, IsALabelBesideANamedIconAndWithoutMenuInGnome) {
     showAt("gnome-shell");
     EXPECT_EQ(property("XAyatanaLabel").toString(), "-12W");
     EXPECT_EQ(property("XAyatanaLabelGuide").toString(), "-888W");
@@ -113,7 +72,7 @@ TEST_F(StatusNotifierItemTest, IsALabelBesideANamedIconAndWithoutMenuInGnome) {
     expectPicturesOf([](int side) { return symbolIcon("battery.75percent", side); });
 }
 
-TEST_F(StatusNotifierItemTest, IsALabelBesideAFileForTheIndicatorService) {
+TEST_F(ShownItem, IsALabelBesideAFileForTheIndicatorService) {
     showAt("ayatana-indicat");
     EXPECT_EQ(property("XAyatanaLabel").toString(), "-12W");
     EXPECT_EQ(property("Menu").value<QDBusObjectPath>().path(), "/MenuBar");
@@ -123,7 +82,7 @@ TEST_F(StatusNotifierItemTest, IsALabelBesideAFileForTheIndicatorService) {
               symbolIcon("battery.75percent", 44));
 }
 
-TEST_F(StatusNotifierItemTest, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
+TEST_F(ShownItem, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
     for (const auto* const host : {"notification-ar", "waybar"}) {
         showAt(host);
         const auto all = peer.properties(object);
@@ -135,7 +94,7 @@ TEST_F(StatusNotifierItemTest, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
     }
 }
 
-TEST_F(StatusNotifierItemTest, IsASquareWithTheTitleInItElsewhere) {
+TEST_F(ShownItem, IsASquareWithTheTitleInItElsewhere) {
     showAt("panel-6-systray");
     const auto all = peer.properties(object);
     EXPECT_FALSE(all.contains("XAyatanaLabel"));
@@ -144,7 +103,7 @@ TEST_F(StatusNotifierItemTest, IsASquareWithTheTitleInItElsewhere) {
     expectPicturesOf([](int side) { return compactIcon("battery.75percent", "-12W", side); });
 }
 
-TEST_F(StatusNotifierItemTest, FollowsAChangeOfHosts) {
+TEST_F(ShownItem, FollowsAChangeOfHosts) {
     showAt("waybar");
     item.setHost(trayHost("gnome-shell"));
     EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon", "XAyatanaNewLabel", "PropertiesChanged"));
@@ -154,7 +113,7 @@ TEST_F(StatusNotifierItemTest, FollowsAChangeOfHosts) {
     EXPECT_FALSE(peer.properties(object).contains("XAyatanaLabel"));
 }
 
-TEST_F(StatusNotifierItemTest, SignalsALabelThatChangesAndNothingElse) {
+TEST_F(ShownItem, SignalsALabelThatChangesAndNothingElse) {
     showAt("gnome-shell");
     auto changed = content;
     changed.title = "-13W";
@@ -168,7 +127,7 @@ TEST_F(StatusNotifierItemTest, SignalsALabelThatChangesAndNothingElse) {
     EXPECT_EQ(property("XAyatanaLabel").toString(), "-13W");
 }
 
-TEST_F(StatusNotifierItemTest, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
+TEST_F(ShownItem, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
     auto otherTitle = content;
     otherTitle.title = "-13W";
     auto otherSymbol = otherTitle;
@@ -187,7 +146,7 @@ TEST_F(StatusNotifierItemTest, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
     EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon"));
 }
 
-TEST_F(StatusNotifierItemTest, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
+TEST_F(ShownItem, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
     showAt("ayatana-indicat");
     const auto first = property("IconName").toString();
     auto changed = content;
@@ -202,7 +161,7 @@ TEST_F(StatusNotifierItemTest, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSy
     EXPECT_TRUE(QFileInfo::exists(second));
 }
 
-TEST_F(StatusNotifierItemTest, SignalsAToolTipThatChanges) {
+TEST_F(ShownItem, SignalsAToolTipThatChanges) {
     showAt("lxqt-panel");
     auto changed = content;
     changed.toolTip = "79 % discharging";
@@ -211,7 +170,7 @@ TEST_F(StatusNotifierItemTest, SignalsAToolTipThatChanges) {
     EXPECT_EQ(qdbus_cast<DBusToolTip>(property("ToolTip")).text, "79 % discharging");
 }
 
-TEST_F(StatusNotifierItemTest, SaysNothingWhileNothingChanges) {
+TEST_F(ShownItem, SaysNothingWhileNothingChanges) {
     for (const auto* const host : {"gnome-shell", "ayatana-indicat", "waybar", "lxqt-panel"}) {
         showAt(host);
         for (int tick = 0; tick < 10; ++tick) {
@@ -219,90 +178,6 @@ TEST_F(StatusNotifierItemTest, SaysNothingWhileNothingChanges) {
         }
         EXPECT_THAT(signalsSoFar(), IsEmpty()) << host;
     }
-}
-
-TEST_F(StatusNotifierItemTest, TellsWhereItWasPressed) {
-    showAt("lxqt-panel");
-    for (const auto* const method : {"Activate", "SecondaryActivate", "ContextMenu"}) {
-        done.clear();
-        EXPECT_EQ(call(method, {619, 1010}).type(), QDBusMessage::ReplyMessage);
-        EXPECT_THAT(pressedAt, Optional(QPoint(619, 1010)));
-        EXPECT_THAT(done, ElementsAre("press", "toggle")) << method;
-    }
-}
-
-TEST_F(StatusNotifierItemTest, TellsNoPlaceThatTheHostMakesUp) {
-    for (const auto* const host : {"notification-ar", "waybar"}) {
-        showAt(host);
-        pressedAt = QPoint();
-        EXPECT_EQ(call("Activate", {86, 26}).type(), QDBusMessage::ReplyMessage);
-        EXPECT_EQ(pressedAt, std::nullopt);
-    }
-    showAt("ayatana-indicat");
-    EXPECT_EQ(call("XAyatanaSecondaryActivate", {123U}).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(pressedAt, std::nullopt);
-    EXPECT_THAT(done, ElementsAre("press", "toggle", "press", "toggle", "press", "toggle"));
-}
-
-TEST_F(StatusNotifierItemTest, LeavesAPressWithoutEffectThatIsNotToBeActedOn) {
-    acts = false;
-    showAt("lxqt-panel");
-    EXPECT_EQ(call("Activate", {1, 2}).type(), QDBusMessage::ReplyMessage);
-    EXPECT_THAT(done, ElementsAre("press"));
-}
-
-// Otherwise that host waits for a second press from then on.
-TEST_F(StatusNotifierItemTest, AnswersAPressInGnomeWithAnErrorAndActsAllTheSame) {
-    showAt("gnome-shell");
-    const auto answer = call("Activate", {1500, 16});
-    EXPECT_EQ(answer.errorName(), "org.freedesktop.DBus.Error.Failed");
-    EXPECT_THAT(pressedAt, Optional(QPoint(1500, 16)));
-    EXPECT_THAT(done, ElementsAre("press", "toggle"));
-}
-
-TEST_F(StatusNotifierItemTest, ScrollsUpToTheFormerAndDownToTheNextFigure) {
-    showAt("lxqt-panel");
-    for (const auto& [delta, orientation] :
-         std::vector<std::pair<int, QString>>{{120, "vertical"}, {-1, "horizontal"}, {0, "vertical"}}) {
-        EXPECT_EQ(call("Scroll", {delta, orientation}).type(), QDBusMessage::ReplyMessage);
-    }
-    EXPECT_THAT(done, ElementsAre("scroll -1", "scroll 1"));
-}
-
-TEST_F(StatusNotifierItemTest, KeepsTheTokenForTheWindowThatComesNext) {
-    showAt("lxqt-panel");
-    EXPECT_EQ(call("ProvideXdgActivationToken", {"a-token"}).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "a-token");
-    qunsetenv("XDG_ACTIVATION_TOKEN");
-}
-
-TEST_F(StatusNotifierItemTest, RefusesWhatItDoesNotKnow) {
-    showAt("lxqt-panel");
-    EXPECT_EQ(call("Dance", {1, 2}).errorName(), "org.freedesktop.DBus.Error.UnknownMethod");
-    EXPECT_EQ(peer.call({object.service, object.path, "org.example.Other"}, "Activate", {1, 2}).type(),
-              QDBusMessage::ErrorMessage);
-    const BusObject properties{object.service, object.path, "org.freedesktop.DBus.Properties"};
-    for (const auto* const name : {"XAyatanaLabel", "Dance"}) {
-        EXPECT_EQ(peer.call(properties, "Get", {object.interface, name}).errorName(),
-                  "org.freedesktop.DBus.Error.UnknownProperty");
-    }
-    EXPECT_EQ(peer.call(properties, "Get", {"org.example.Other", "Id"}).type(), QDBusMessage::ErrorMessage);
-    EXPECT_EQ(
-        peer.call(properties, "Set", {object.interface, "Title", QVariant::fromValue(QDBusVariant("Other"))})
-            .type(),
-        QDBusMessage::ErrorMessage);
-    EXPECT_EQ(property("Title").toString(), "Quelby");
-    EXPECT_THAT(done, IsEmpty());
-}
-
-TEST_F(StatusNotifierItemTest, SurvivesCallsWithOtherArguments) {
-    showAt("lxqt-panel");
-    for (const auto* const method : {"Activate", "Scroll", "ProvideXdgActivationToken", "ContextMenu"}) {
-        static_cast<void>(call(method));
-        static_cast<void>(call(method, {"words", QStringList{"and", "more"}}));
-    }
-    EXPECT_EQ(property("Title").toString(), "Quelby");
-    qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
 } // namespace

@@ -7,9 +7,10 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
-#include "child_process.h"
 #include "listing_lines.h"
 #include "platform/linux/processes/proc_process_lister.h"
+#include "support/child_process.h"
+#include "support/temporary_folder.h"
 
 namespace quelby {
 namespace {
@@ -108,20 +109,7 @@ TEST_F(LivingProcesses, ChangeTheirNames) {
 // Runs a copy of `cat`, which waits for input that never comes.
 class LongNamed {
 public:
-    LongNamed() {
-        auto name = (std::filesystem::temp_directory_path() / "long-named-XXXXXX").string();
-        folder_ = ::mkdtemp(name.data());
-        program_ = folder_ / uniqueName("a-program-with-a-name-of-length");
-    }
-
-    LongNamed(const LongNamed&) = delete;
-    LongNamed& operator=(const LongNamed&) = delete;
-    LongNamed(LongNamed&&) = delete;
-    LongNamed& operator=(LongNamed&&) = delete;
-
-    ~LongNamed() { std::filesystem::remove_all(folder_); }
-
-    [[nodiscard]] std::filesystem::path program() const { return program_; }
+    [[nodiscard]] const std::filesystem::path& program() const { return program_; }
 
     [[nodiscard]] std::string name() const { return program_.filename(); }
 
@@ -134,8 +122,8 @@ public:
     }
 
 private:
-    std::filesystem::path folder_;
-    std::filesystem::path program_;
+    TemporaryFolder folder_;
+    std::filesystem::path program_ = folder_.path() / uniqueName("a-program-with-a-name-of-length");
     Pipe input_ = makePipe(); // nothing is ever written
     std::optional<ChildProcess> child_;
 };

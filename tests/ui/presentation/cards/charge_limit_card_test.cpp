@@ -37,33 +37,10 @@ protected:
     ChargeLimitCardTest() {
         fields.daemonInstalled = true;
         fields.chargeLimitEnabled = true;
-        fields.chargeLimitPercent = 80;
-    }
-
-    void expectStatus(ColorName color, const char* status) const {
-        const auto shown = chargeLimitCard(fields).stopLevel;
-        ASSERT_TRUE(shown);
-        EXPECT_EQ(shown->status.dot, Color(color));
-        EXPECT_EQ(shown->status.text, (Text{status, color}));
     }
 
     PublishedFields fields;
 };
-
-TEST_F(ChargeLimitCardTest, OffersTheHelperWhereThereIsNone) {
-    fields.daemonInstalled = false;
-    for (const bool enabled : {false, true}) {
-        fields.chargeLimitEnabled = enabled;
-        auto expected = header(enabled, false);
-        expected.offer = offer();
-        EXPECT_EQ(chargeLimitCard(fields), expected) << enabled;
-    }
-}
-
-TEST_F(ChargeLimitCardTest, IsOnlyAHeaderWhileTheLimitIsOff) {
-    fields.chargeLimitEnabled = false;
-    EXPECT_EQ(chargeLimitCard(fields), header(false, true));
-}
 
 TEST(ChargeLimitScale, StandsWhereItsLevelsAreOnTheSlider) {
     std::vector<double> positions;
@@ -71,16 +48,6 @@ TEST(ChargeLimitScale, StandsWhereItsLevelsAreOnTheSlider) {
         positions.push_back(positionOnSlider(level));
     }
     EXPECT_EQ(positions, (std::vector{0.0, 0.5, 0.75, 1.0}));
-}
-
-TEST_F(ChargeLimitCardTest, TellsWhatTheHelperIsDoing) {
-    expectStatus(ColorName::secondary, "Will activate when charger is connected");
-    fields.isPluggedIn = true;
-    expectStatus(ColorName::orange, "Charging to 80% — MagSafe orange");
-    fields.chargingInhibited = true;
-    expectStatus(ColorName::green, "Holding at 80% — MagSafe green");
-    fields.calibrationActive = true;
-    expectStatus(ColorName::blue, "Calibrating — charging to 100%");
 }
 
 TEST_F(ChargeLimitCardTest, TruncatesTheLimitAndLeavesTheSliderWhereItIs) {
@@ -95,13 +62,10 @@ TEST_F(ChargeLimitCardTest, TruncatesTheLimitAndLeavesTheSliderWhereItIs) {
         fields.chargeLimitPercent = percent;
         EXPECT_EQ(chargeLimitCard(fields).stopLevel, stopLevel(percent, limit, ColorName::orange, status));
     }
-    fields.chargeLimitPercent = 82.9;
-    fields.chargingInhibited = true;
-    expectStatus(ColorName::green, "Holding at 82% — MagSafe green");
 }
 
-// Every state in which limit and helper can be. What is written later outranks what stands before it.
-TEST_F(ChargeLimitCardTest, IsTheSameForTheWholeGridOfStates) {
+// In every state in which limit and helper can be. What is written later outranks what stands before it.
+TEST_F(ChargeLimitCardTest, OffersTheHelperOrTellsWhatItIsDoingOrIsOnlyAHeader) {
     fields.chargeLimitPercent = 82.9;
     for (int state = 0; state < 32; ++state) {
         fields.daemonInstalled = (state & 1) != 0;

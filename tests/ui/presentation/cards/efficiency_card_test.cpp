@@ -32,18 +32,6 @@ const Label& ruledAdvice(const PublishedFields& fields) {
     return fields.fullyCharged ? fullyCharged : efficient;
 }
 
-class EfficiencyAdviceTest : public testing::Test {
-protected:
-    EfficiencyAdviceTest() {
-        fields.totalPower = 15;
-        fields.batteryPercent = 50;
-    }
-
-    void expectAdvice(const Label& advice) const { EXPECT_EQ(efficiencyCard(fields).advice, advice); }
-
-    PublishedFields fields;
-};
-
 TEST(EfficiencyCard, ShowsScoreStarsRatingAndAdvice) {
     PublishedFields fields;
     fields.efficiency = 73;
@@ -87,52 +75,19 @@ TEST(EfficiencyCard, RatesTheScoreInItsColour) {
     }
 }
 
-TEST_F(EfficiencyAdviceTest, WarnsOfAHighDrawAboveThirtyWatts) {
-    fields.totalPower = 30.1;
-    expectAdvice(highDraw);
-    fields.totalPower = 30.0;
-    expectAdvice(moderate);
-}
-
-TEST_F(EfficiencyAdviceTest, CallsUsageModerateAboveTwentyWatts) {
-    fields.totalPower = 20.1;
-    expectAdvice(moderate);
-    fields.totalPower = 20.0;
-    expectAdvice(efficient);
-}
-
-TEST_F(EfficiencyAdviceTest, AsksForTheChargerBelowTwentyPercent) {
-    fields.batteryPercent = 19;
-    expectAdvice(lowBattery);
-    fields.batteryPercent = 20;
-    expectAdvice(efficient);
-}
-
-TEST_F(EfficiencyAdviceTest, DoesNotAskForAChargerThatIsConnected) {
-    fields.isPluggedIn = true;
-    for (const Int percent : {0, 19, 20}) {
-        fields.batteryPercent = percent;
-        expectAdvice(efficient);
-    }
-}
-
-TEST_F(EfficiencyAdviceTest, SaysThatTheBatteryIsFullWhetherPluggedInOrNot) {
-    fields.fullyCharged = true;
-    expectAdvice(fullyCharged);
-    fields.isPluggedIn = true;
-    expectAdvice(fullyCharged);
-}
-
-// Every combination of what the advice depends on.
-TEST_F(EfficiencyAdviceTest, IsThatOfTheFirstRuleThatApplies) {
-    for (const double watts : {20.0, 20.1, 30.0, 30.1}) {
-        for (int state = 0; state < 8; ++state) {
-            fields.totalPower = watts;
-            fields.batteryPercent = (state & 1) != 0 ? 19 : 20;
-            fields.isPluggedIn = (state & 2) != 0;
-            fields.fullyCharged = (state & 4) != 0;
-            SCOPED_TRACE(testing::Message() << watts << " W, state " << state);
-            expectAdvice(ruledAdvice(fields));
+// Every combination of what the advice depends on, at its boundaries.
+TEST(EfficiencyCard, GivesTheAdviceOfTheFirstRuleThatApplies) {
+    for (const double watts : {15.0, 20.0, 20.1, 30.0, 30.1}) {
+        for (const Int percent : {0, 19, 20, 50}) {
+            for (int state = 0; state < 4; ++state) {
+                PublishedFields fields;
+                fields.totalPower = watts;
+                fields.batteryPercent = percent;
+                fields.isPluggedIn = (state & 1) != 0;
+                fields.fullyCharged = (state & 2) != 0;
+                EXPECT_EQ(efficiencyCard(fields).advice, ruledAdvice(fields))
+                    << watts << " W, " << percent << " %, state " << state;
+            }
         }
     }
 }

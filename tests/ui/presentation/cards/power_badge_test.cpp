@@ -48,33 +48,19 @@ protected:
     PublishedFields fields;
 };
 
-TEST_F(PowerBadgeTest, OfAFullBatteryShowsTheSystemsDraw) {
-    fields.isPluggedIn = true;
-    fields.fullyCharged = true;
-    EXPECT_EQ(powerBadge(fields), fullBadge("12.3"));
-}
-
-TEST_F(PowerBadgeTest, OfAChargingBatteryShowsWhatGoesIntoIt) {
-    fields.isPluggedIn = true;
-    EXPECT_EQ(powerBadge(fields), chargingBadge("22.0", "12W system", "83W total input"));
-}
-
-TEST_F(PowerBadgeTest, OnBatteryShowsTheDrain) {
-    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
-}
-
-TEST_F(PowerBadgeTest, OfAFullBatteryThatIsNotPluggedInShowsTheDrain) {
-    fields.fullyCharged = true;
-    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
-}
-
 // The adapter decides, not what the battery says of itself.
-TEST_F(PowerBadgeTest, DoesNotAskWhetherTheBatteryIsCharging) {
-    fields.isCharging = true;
-    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
-    fields.isPluggedIn = true;
-    fields.isCharging = false;
-    EXPECT_EQ(powerBadge(fields), chargingBadge("22.0", "12W system", "83W total input"));
+TEST_F(PowerBadgeTest, ShowsTheDrainWithoutAnAdapterAndWithOneWhatTheSystemOrTheBatteryTakes) {
+    for (int state = 0; state < 8; ++state) {
+        fields.isPluggedIn = (state & 1) != 0;
+        fields.fullyCharged = (state & 2) != 0;
+        fields.isCharging = (state & 4) != 0;
+        auto expected = drainBadge("12.3", ColorName::yellow);
+        if (fields.isPluggedIn) {
+            expected = fields.fullyCharged ? fullBadge("12.3")
+                                           : chargingBadge("22.0", "12W system", "83W total input");
+        }
+        EXPECT_EQ(powerBadge(fields), expected) << state;
+    }
 }
 
 TEST_F(PowerBadgeTest, ColoursTheDrainByItsSize) {

@@ -33,7 +33,7 @@ TEST(Words, NameTheCardOfTheLargeFigure) {
 
 TEST(Words, OfTheSettingsEndWithTheProgramsVersion) {
     EXPECT_EQ(settingsPanel(PublishedFields(), 0, daysFromNow).version.text,
-              "Quelby v" + std::string(version()));
+              "Quelby v" + std::string(shortVersion()));
 }
 
 } // namespace

@@ -6,10 +6,17 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "pipe.h"
+#include "platform/posix/pipe.h"
 #include "support/started.h"
 
 namespace quelby {
+
+// Returns once nobody has the writing end any more.
+inline void waitForEnd(const FileDescriptor& reading) {
+    char text = 0;
+    while (::read(reading.number(), &text, 1) > 0) {
+    }
+}
 
 // A child that runs the body, and is ended at the latest when this goes.
 class ChildProcess {

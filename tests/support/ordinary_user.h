@@ -8,7 +8,7 @@
 
 namespace quelby {
 
-// Does it in another process, which has no rights of root even where the test has them. True if it was done.
+// What the action answers in another process, which has no rights of root even where the test has them.
 template <typename Action>
 [[nodiscard]] bool doneByAnOrdinaryUser(Action action) {
     constexpr unsigned nobody = 65534;
@@ -16,10 +16,7 @@ template <typename Action>
     if (process == 0) {
         const bool ordinary = ::geteuid() != 0 || (::setgroups(0, nullptr) == 0 && ::setgid(nobody) == 0 &&
                                                    ::setuid(nobody) == 0);
-        if (ordinary) {
-            action();
-        }
-        ::_exit(ordinary ? 0 : 1);
+        ::_exit(ordinary && action() ? 0 : 1);
     }
     int status = -1;
     return ::waitpid(process, &status, 0) == process && WIFEXITED(status) && WEXITSTATUS(status) == 0;

@@ -1,88 +1,14 @@
+#include "ui/bridge/sparkline_view.h"
+
 #include <memory>
 
-#include <QHoverEvent>
-#include <QImage>
-#include <QPainter>
 #include <gtest/gtest.h>
 
-#include "support/time_zone.h"
-#include "ui/bridge/history_chart_view.h"
-#include "ui/bridge/sparkline_view.h"
+#include "painted_chart.h"
 #include "ui/support/printing.h"
 
 namespace quelby {
 namespace {
-
-constexpr int overhang = 4;
-constexpr int width = 376; // of the chart: the width against which the pointer is measured
-constexpr int height = 60;
-
-const QList<QColor> curveColors{Qt::green, Qt::yellow, QColor(255, 128, 0), Qt::red};
-const QColor areaColor(0, 0, 255, 100);
-
-void fill(ChartStyle& style) {
-    style.curveColors = curveColors;
-    style.curveWidth = 2;
-    style.dotDiameter = 6;
-    style.axisColor = Qt::black;
-    style.axisSize = 8;
-    style.lineColor = QColor(255, 255, 255, 102);
-    style.lineWidth = 1;
-    style.circleColor = Qt::white;
-    style.circleDiameter = 7;
-    style.haloColor = Qt::transparent;
-    style.haloWidth = 2;
-    style.labelColor = Qt::white;
-    style.labelBackground = QColor(0, 0, 0, 204);
-    style.labelSize = 10;
-    style.labelHorizontalPadding = 6;
-    style.labelVerticalPadding = 3;
-    style.labelRadius = 4;
-}
-
-void setUp(ChartItem& chart, ChartStyle& style) {
-    fill(style);
-    chart.setSize({width + 2 * overhang, height + 2 * overhang});
-    chart.setStyle(&style);
-    chart.setAreaColors({areaColor, areaColor});
-}
-
-QImage painted(ChartItem& chart) {
-    QImage picture(QSizeF(chart.width(), chart.height()).toSize(), QImage::Format_ARGB32);
-    picture.fill(Qt::transparent);
-    QPainter painter(&picture);
-    chart.paint(&painter);
-    return picture;
-}
-
-// At a place of the chart, which lies within the item.
-QColor at(const QImage& picture, int x, int y) {
-    return picture.pixelColor(x + overhang, y + overhang);
-}
-
-bool isEmpty(const QImage& picture) {
-    QImage nothing(picture.size(), picture.format());
-    nothing.fill(Qt::transparent);
-    return picture == nothing;
-}
-
-// Antialiasing and a gradient leave no pixel exactly as it was asked for.
-bool similar(const QColor& one, const QColor& other) {
-    const auto near = [](int a, int b) { return std::abs(a - b) <= 16; };
-    return near(one.red(), other.red()) && near(one.green(), other.green()) &&
-           near(one.blue(), other.blue()) && near(one.alpha(), other.alpha());
-}
-
-void pointAt(ChartItem& chart, double x, double y = height / 2.0) {
-    const QPointF place(x + overhang, y + overhang);
-    QHoverEvent event(QEvent::HoverMove, place, place, place);
-    QCoreApplication::sendEvent(&chart, &event);
-}
-
-void leave(ChartItem& chart) {
-    QHoverEvent event(QEvent::HoverLeave, {-1, -1}, {-1, -1}, {0, 0});
-    QCoreApplication::sendEvent(&chart, &event);
-}
 
 class Sparkline : public testing::Test {
 protected:
@@ -94,19 +20,6 @@ protected:
 
     ChartStyle style;
     SparklineView chart;
-};
-
-class HistoryChart : public testing::Test {
-protected:
-    HistoryChart() {
-        setUp(chart, style);
-        chart.setPoints(
-            HistoryDataPointSeries({{1'700'000'000, 10}, {1'700'000'060, 30}, {1'700'000'120, 10}}));
-    }
-
-    TimeZone zone{"UTC0"};
-    ChartStyle style;
-    HistoryChartView chart;
 };
 
 TEST_F(Sparkline, FindsTheSampleUnderThePointer) {
@@ -245,61 +158,6 @@ TEST_F(Sparkline, OfOneSampleIsADot) {
     const auto picture = painted(chart);
     EXPECT_EQ(at(picture, width, height), chart.dotColor());
     EXPECT_EQ(at(picture, width / 2, height).alpha(), 0);
-}
-
-TEST_F(HistoryChart, FillsTheAreaBelowItsCurve) {
-    const auto picture = painted(chart);
-    EXPECT_TRUE(similar(at(picture, width / 2, height / 2), areaColor));
-    EXPECT_TRUE(similar(at(picture, width / 2, height - 1), areaColor));
-    EXPECT_EQ(at(picture, width / 4, 5).alpha(), 0);
-    EXPECT_EQ(at(picture, width * 3 / 4, 5).alpha(), 0);
-}
-
-TEST_F(HistoryChart, LeavesATwentiethOfItsHeightFreeAtBothEnds) {
-    chart.setPoints(HistoryDataPointSeries({{0, 10}, {60, 10}}));
-    const auto flat = painted(chart);
-    EXPECT_TRUE(similar(at(flat, width / 3, height * 95 / 100), curveColors[1]));
-    EXPECT_TRUE(similar(at(flat, width - 1, height * 95 / 100), curveColors.last()));
-    EXPECT_TRUE(similar(at(flat, width / 3, height - 1), areaColor));
-}
-
-TEST_F(HistoryChart, WritesItsLargestAndSmallestValueAtTheLeft) {
-    const auto inked = [](const QImage& picture, int top) {
-        for (int y = top; y < top + 8; ++y) {
-            for (int x = 0; x < 20; ++x) {
-                if (at(picture, x, y).alpha() > 100 && at(picture, x, y).lightness() < 60) {
-                    return true;
-                }
-            }
-        }
-        return false;
-    };
-    const auto picture = painted(chart);
-    EXPECT_TRUE(inked(picture, 0));
-    EXPECT_TRUE(inked(picture, height - 10));
-    EXPECT_FALSE(inked(picture, height / 2 - 10));
-}
-
-TEST_F(HistoryChart, ReadsOutThePointAndItsTimeOfDay) {
-    pointAt(chart, 188);
-    EXPECT_EQ(chart.readOut(), "30.0W  22:14");
-    pointAt(chart, 0);
-    EXPECT_EQ(chart.readOut(), "10.0W  22:13");
-    EXPECT_EQ(at(painted(chart), 0, height * 95 / 100), QColor(Qt::white));
-}
-
-TEST_F(HistoryChart, GivesBackItsPoints) {
-    int changes = 0;
-    QObject::connect(&chart, &HistoryChartView::pointsChanged, [&] { ++changes; });
-    const HistoryDataPointSeries points({{1, 2}, {3, 4}});
-    chart.setPoints(points);
-    EXPECT_EQ(chart.points(), points);
-    EXPECT_EQ(changes, 1);
-}
-
-TEST_F(HistoryChart, ShowsNothingWithoutPoints) {
-    chart.setPoints(HistoryDataPointSeries());
-    EXPECT_TRUE(isEmpty(painted(chart)));
 }
 
 } // namespace
