@@ -32,6 +32,7 @@
 #define QUELBY_TYPE_plain(type) type
 #define QUELBY_TYPE_words(type) type
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a name that is declared cannot stand in parentheses
 #define QUELBY_DECLARE_MEMBER(kind, type, name) QUELBY_TYPE_##kind(type) name{};
 #define QUELBY_VISIT_MEMBER(kind, type, name) visit(std::string_view(#name), record.name);
 
