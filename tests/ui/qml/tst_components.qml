@@ -169,7 +169,7 @@ DashboardTestCase {
 
     function test_datesFollowTheLastCalibration() {
         showSettings()
-        verify(has("Last: 3 days ago") && has("Next: in 1 month"))
+        verify(has("Last: 3 days ago") && has("Next: in 3 weeks"))
         set("lastCalibrationDate", null)
         verify(has("First calibration will start when charge limit is active"))
         verify(!has("Last: 3 days ago"))
