@@ -41,7 +41,7 @@ protected:
     }
 
     void expectStatus(ColorName color, const char* status) const {
-        const auto shown = chargeLimitCard(fields).stopLevel;
+        const auto shown = chargeLimitCard(fields, linuxWords).stopLevel;
         ASSERT_TRUE(shown);
         EXPECT_EQ(shown->status.dot, Color(color));
         EXPECT_EQ(shown->status.text, (Text{status, color}));
@@ -56,13 +56,13 @@ TEST_F(ChargeLimitCardTest, OffersTheHelperWhereThereIsNone) {
         fields.chargeLimitEnabled = enabled;
         auto expected = header(enabled, false);
         expected.offer = offer();
-        EXPECT_EQ(chargeLimitCard(fields), expected) << enabled;
+        EXPECT_EQ(chargeLimitCard(fields, linuxWords), expected) << enabled;
     }
 }
 
 TEST_F(ChargeLimitCardTest, IsOnlyAHeaderWhileTheLimitIsOff) {
     fields.chargeLimitEnabled = false;
-    EXPECT_EQ(chargeLimitCard(fields), header(false, true));
+    EXPECT_EQ(chargeLimitCard(fields, linuxWords), header(false, true));
 }
 
 TEST(ChargeLimitScale, StandsWhereItsLevelsAreOnTheSlider) {
@@ -93,7 +93,8 @@ TEST_F(ChargeLimitCardTest, TruncatesTheLimitAndLeavesTheSliderWhereItIs) {
         {-0.9, "0%", "Charging to 0% — MagSafe orange"}};
     for (const auto& [percent, limit, status] : expected) {
         fields.chargeLimitPercent = percent;
-        EXPECT_EQ(chargeLimitCard(fields).stopLevel, stopLevel(percent, limit, ColorName::orange, status));
+        EXPECT_EQ(chargeLimitCard(fields, linuxWords).stopLevel,
+                  stopLevel(percent, limit, ColorName::orange, status));
     }
     fields.chargeLimitPercent = 82.9;
     fields.chargingInhibited = true;
@@ -129,7 +130,7 @@ TEST_F(ChargeLimitCardTest, IsTheSameForTheWholeGridOfStates) {
             expected.stopLevel.reset();
             expected.offer = offer();
         }
-        EXPECT_EQ(chargeLimitCard(fields), expected) << state;
+        EXPECT_EQ(chargeLimitCard(fields, linuxWords), expected) << state;
     }
 }
 
