@@ -42,7 +42,7 @@ protected:
     TemporaryFolder folder;
     std::string recording = folder.write("it.jsonl", laptopRecording(4));
     PublishedFields laptopOnBattery;
-    Dashboard said = dashboard(laptopOnBattery, 0);
+    Dashboard said = dashboard(laptopOnBattery, 0, linuxWords);
 };
 
 TEST_F(QuelbyctlWatch, PrintsALineForEachCycleWhereThereIsNoTerminal) {

@@ -21,7 +21,7 @@ std::string lines(const Block& block) {
 }
 
 std::string dashboardOutput(const PublishedFields& fields, Date now, OutputForm form) {
-    const auto content = dashboard(fields, now);
+    const auto content = dashboard(fields, now, systemWords());
     return form == OutputForm::json ? dashboardAsJson(content)
                                     : lines(dashboardText(content, outputColumns()));
 }

@@ -34,7 +34,7 @@ public:
 private:
     [[nodiscard]] Result<void> draw() {
         view_.size = screen_.size();
-        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock->now()), view_);
+        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock->now(), systemWords()), view_);
         view_.scrolledBy = std::clamp(view_.scrolledBy, 0, frame.furthestScroll);
         page_ = frame.page;
         std::vector<std::string> lines;

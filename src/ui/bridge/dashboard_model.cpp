@@ -88,7 +88,7 @@ void DashboardModel::refresh() {
 }
 
 void DashboardModel::refreshDashboard() {
-    auto content = dashboard(*monitor_, clock_.now());
+    auto content = dashboard(*monitor_, clock_.now(), systemWords());
     renew(header_, std::move(content.header), &DashboardModel::headerChanged);
 #define QUELBY_RENEW_CARD(kind, type, name)                                                                  \
     renew(name##_, std::move(content.name), &DashboardModel::name##Changed);
@@ -118,7 +118,7 @@ LabelValue DashboardModel::quitButton() const {
 }
 
 DialogValue DashboardModel::chargingTip() const {
-    return DialogValue(quelby::chargingTip());
+    return DialogValue(quelby::chargingTip(systemWords()));
 }
 
 DialogValue DashboardModel::uninstallConfirmation() const {

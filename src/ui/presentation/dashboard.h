@@ -35,6 +35,6 @@ struct Dashboard {
     QUELBY_RECORD(Dashboard)
 };
 
-[[nodiscard]] Dashboard dashboard(const PublishedFields& fields, Date now);
+[[nodiscard]] Dashboard dashboard(const PublishedFields& fields, Date now, const SystemWords& words);
 
 } // namespace quelby

@@ -14,7 +14,7 @@ using testing::ElementsAre;
 class DashboardJsonTest : public testing::Test {
 protected:
     [[nodiscard]] ordered_json json() const {
-        return ordered_json::parse(dashboardAsJson(dashboard(fields, 1'700'000'000)));
+        return ordered_json::parse(dashboardAsJson(dashboard(fields, 1'700'000'000, linuxWords)));
     }
 
     [[nodiscard]] ordered_json settings() const {

@@ -236,7 +236,7 @@ TEST_F(DashboardModelTest, FollowsTheChargingTipOnEitherSide) {
 
 TEST_F(DashboardModelTest, HasTheTextsThatNeverChangeAlways) {
     EXPECT_EQ(model.quitButton(), LabelValue(quitButton()));
-    EXPECT_EQ(model.chargingTip(), DialogValue(chargingTip()));
+    EXPECT_EQ(model.chargingTip(), DialogValue(chargingTip(linuxWords)));
     EXPECT_EQ(model.uninstallConfirmation(), DialogValue(uninstallConfirmation()));
     EXPECT_TRUE(model.uninstallConfirmation()->destructive);
 }

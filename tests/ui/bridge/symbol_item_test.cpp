@@ -121,7 +121,7 @@ private:
 class EverySymbol : public testing::Test {
 protected:
     void look() {
-        symbols.collect(dashboard(fields, now));
+        symbols.collect(dashboard(fields, now, linuxWords));
         symbols.collect(settingsPanel(fields, now, daysFromNow));
         symbols.add(qString(menuBarSymbol(fields)));
     }

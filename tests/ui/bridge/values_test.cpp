@@ -84,7 +84,7 @@ protected:
         model.setWatched(false);
         model.setSettingsShown(false);
         model.setWatched(true);
-        auto cards = quelby::dashboard(monitor, dashboard.computer.clock.now());
+        auto cards = quelby::dashboard(monitor, dashboard.computer.clock.now(), linuxWords);
         forEachMember(cards, [this](std::string_view name, const auto& part) {
             SCOPED_TRACE(name);
             expectSeen(model.property(name == "quit" ? "quitButton" : std::string(name).c_str()), part);
@@ -120,7 +120,7 @@ TEST_F(Values, CarryThePartsThatAreAbsent) {
 }
 
 TEST_F(Values, CarryTheQuestions) {
-    expectSeen(model.property("chargingTip"), chargingTip());
+    expectSeen(model.property("chargingTip"), chargingTip(linuxWords));
     expectSeen(model.property("uninstallConfirmation"), uninstallConfirmation());
 }
 

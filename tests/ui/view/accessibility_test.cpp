@@ -182,7 +182,7 @@ TEST_F(Accessibility, PressesEveryButton) {
 TEST_F(Accessibility, InstallsTheHelperFromItsCard) {
     monitor.daemonInstalled = false;
     view->settle();
-    press(chargeLimitCard(monitor).offer->installButton.text.text);
+    press(chargeLimitCard(monitor, linuxWords).offer->installButton.text.text);
     EXPECT_TRUE(monitor.daemonInstalled);
 }
 
@@ -194,7 +194,7 @@ TEST_F(Accessibility, TurnsEverySwitch) {
         EXPECT_NE(isOn(QAccessible::CheckBox, name), before) << testing::PrintToString(name);
     };
     for (const bool enabled : {false, true}) {
-        turn(chargeLimitCard(monitor).title);
+        turn(chargeLimitCard(monitor, linuxWords).title);
         EXPECT_EQ(monitor.chargeLimitEnabled, enabled);
     }
     monitor.shouldShowChargingTip = false;
@@ -207,7 +207,7 @@ TEST_F(Accessibility, TurnsEverySwitch) {
 }
 
 TEST_F(Accessibility, PressesASwitchAsWell) {
-    act(QAccessible::CheckBox, qString(chargeLimitCard(monitor).title.text),
+    act(QAccessible::CheckBox, qString(chargeLimitCard(monitor, linuxWords).title.text),
         QAccessibleActionInterface::pressAction());
     EXPECT_FALSE(monitor.chargeLimitEnabled);
 }
@@ -229,7 +229,7 @@ TEST_F(Accessibility, ChoosesFromEveryRow) {
 }
 
 TEST_F(Accessibility, MovesTheSlider) {
-    const auto name = qString(chargeLimitCard(monitor).stopLevel->stopAt[0].text);
+    const auto name = qString(chargeLimitCard(monitor, linuxWords).stopLevel->stopAt[0].text);
     act(QAccessible::Slider, name, QAccessibleActionInterface::increaseAction());
     EXPECT_EQ(monitor.chargeLimitPercent, 85.0);
     act(QAccessible::Slider, name, QAccessibleActionInterface::decreaseAction());
@@ -242,7 +242,7 @@ TEST_F(Accessibility, MovesTheSlider) {
 }
 
 TEST_F(Accessibility, SetsTheSliderToTheNearestStep) {
-    const auto name = qString(chargeLimitCard(monitor).stopLevel->stopAt[0].text);
+    const auto name = qString(chargeLimitCard(monitor, linuxWords).stopLevel->stopAt[0].text);
     const std::pair<double, double> wishes[] = {{60, 60}, {83, 85}, {82, 80}, {500, 100}, {-3, 20}, {81, 80}};
     for (const auto& [wish, level] : wishes) {
         auto* const value = find(QAccessible::Slider, name)->valueInterface();

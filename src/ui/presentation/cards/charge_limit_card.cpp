@@ -8,16 +8,16 @@ namespace quelby {
 
 namespace {
 
-Text statusText(const PublishedFields& fields) {
+Text statusText(const PublishedFields& fields, const SystemWords& words) {
     const auto limit = truncated(fields.chargeLimitPercent);
     if (fields.calibrationActive) {
         return {"Calibrating — charging to 100%", ColorName::blue};
     }
     if (fields.chargingInhibited) {
-        return {fmt::format("Holding at {}% — MagSafe green", limit), ColorName::green};
+        return {fmt::format("Holding at {}%{}", limit, words.whileHolding), ColorName::green};
     }
     if (fields.isPluggedIn) {
-        return {fmt::format("Charging to {}% — MagSafe orange", limit), ColorName::orange};
+        return {fmt::format("Charging to {}%{}", limit, words.whileCharging), ColorName::orange};
     }
     return secondary("Will activate when charger is connected");
 }
@@ -30,8 +30,8 @@ std::vector<Text> scale() {
     return texts;
 }
 
-StopLevel stopLevel(const PublishedFields& fields) {
-    const auto status = statusText(fields);
+StopLevel stopLevel(const PublishedFields& fields, const SystemWords& words) {
+    const auto status = statusText(fields, words);
     const auto limit = truncated(fields.chargeLimitPercent);
     return {.stopAt = {secondary("Stop at:"), Text{fmt::format("{}%", limit), ColorName::green}},
             .slider = {.value = fields.chargeLimitPercent,
@@ -51,7 +51,7 @@ HelperOffer helperOffer() {
 
 } // namespace
 
-ChargeLimitCard chargeLimitCard(const PublishedFields& fields) {
+ChargeLimitCard chargeLimitCard(const PublishedFields& fields, const SystemWords& words) {
     const bool works = fields.chargeLimitEnabled && fields.daemonInstalled;
     ChargeLimitCard card{
         .symbol = {"bolt.badge.checkmark.fill", works ? ColorName::green : ColorName::secondary},
@@ -62,7 +62,7 @@ ChargeLimitCard chargeLimitCard(const PublishedFields& fields) {
     if (!fields.daemonInstalled) {
         card.offer = helperOffer();
     } else if (fields.chargeLimitEnabled) {
-        card.stopLevel = stopLevel(fields);
+        card.stopLevel = stopLevel(fields, words);
     }
     return card;
 }

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "monitor/published_fields.h"
+#include "platform/system_words.h"
 #include "ui/presentation/elements/elements.h"
 
 namespace quelby {
@@ -77,6 +78,6 @@ inline constexpr std::array<Int, 4> scaleLevels{20, 60, 80, 100};
            static_cast<double>(stopRange.highest - stopRange.lowest);
 }
 
-[[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields);
+[[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields, const SystemWords& words);
 
 } // namespace quelby

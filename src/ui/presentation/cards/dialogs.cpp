@@ -2,12 +2,9 @@
 
 namespace quelby {
 
-Dialog chargingTip() {
-    return {.title = "Disable Optimized Battery Charging",
-            .message = "For Quelby's charge limit to work properly, disable macOS Optimized Battery Charging "
-                       "in System Settings → Battery.",
-            .action = "Open Battery Settings",
-            .cancel = "Got it"};
+Dialog chargingTip(const SystemWords& words) {
+    return {
+        .title = words.tipTitle, .message = words.tipMessage, .action = words.tipAction, .cancel = "Got it"};
 }
 
 Dialog uninstallConfirmation() {

@@ -1,6 +1,7 @@
 // The two questions that the dashboard asks.
 #pragma once
 
+#include "platform/system_words.h"
 #include "ui/presentation/elements/record.h"
 
 namespace quelby {
@@ -17,7 +18,7 @@ struct Dialog {
 };
 
 // Raised the first time that the charge limit is switched on.
-[[nodiscard]] Dialog chargingTip();
+[[nodiscard]] Dialog chargingTip(const SystemWords& words);
 
 [[nodiscard]] Dialog uninstallConfirmation();
 

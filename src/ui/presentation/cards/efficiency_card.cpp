@@ -42,7 +42,7 @@ Label advice(const PublishedFields& fields) {
     if (fields.totalPower > 20) {
         return {{"circle.fill", ColorName::yellow}, secondary("Moderate usage — power within normal range")};
     }
-    if (fields.batteryPercent < 20 && !fields.isPluggedIn) {
+    if (fields.hasBattery && fields.batteryPercent < 20 && !fields.isPluggedIn) {
         return {{"exclamationmark.triangle.fill", ColorName::red},
                 secondary("Low battery — connect charger soon")};
     }

@@ -28,7 +28,7 @@ protected:
     }
 
     [[nodiscard]] WatchFrame frame(const WatchView& view) const {
-        return watchFrame(dashboard(fields, 1'700'000'000), view);
+        return watchFrame(dashboard(fields, 1'700'000'000, linuxWords), view);
     }
 
     [[nodiscard]] std::vector<std::string> lines(const WatchView& view) const {
@@ -64,7 +64,7 @@ TEST_F(WatchFrameTest, BeginsWithTheClockAndEndsWithTheKeys) {
 
 TEST_F(WatchFrameTest, ShowsEveryCardWhereThereIsRoom) {
     const auto shown = lines({.size = {160, 60}});
-    const auto said = dashboard(fields, 1'700'000'000);
+    const auto said = dashboard(fields, 1'700'000'000, linuxWords);
     for (const auto& text : {said.chargeLimit->title, said.chargeLimit->stopLevel->stopAt[1],
                              said.powerBadge.caption, said.battery->level, said.components.title,
                              said.components.total.label, said.processes.rows[0].name, said.trend->now,
@@ -99,7 +99,7 @@ TEST_F(WatchFrameTest, ShowsTheKeysInPlaceOfTheCards) {
 }
 
 TEST_F(WatchFrameTest, LeavesOutWhatADesktopDoesNotHave) {
-    const auto ofALaptop = dashboard(fields, 1'700'000'000);
+    const auto ofALaptop = dashboard(fields, 1'700'000'000, linuxWords);
     fields.hasBattery = false;
     fields.powerHistory = {10, 20};
     const auto shown = lines({.size = {160, 60}});
@@ -110,10 +110,11 @@ TEST_F(WatchFrameTest, LeavesOutWhatADesktopDoesNotHave) {
 }
 
 TEST_F(WatchFrameTest, OffersTheHelperWhereThereIsNone) {
-    const auto stopAt = chargeLimitCard(fields).stopLevel->stopAt[0].text;
+    const auto stopAt = chargeLimitCard(fields, linuxWords).stopLevel->stopAt[0].text;
     fields.daemonInstalled = false;
     const auto shown = lines({.size = {80, 60}});
-    EXPECT_THAT(shown, Contains(HasSubstr(chargeLimitCard(fields).offer->installButton.text.text)));
+    EXPECT_THAT(shown,
+                Contains(HasSubstr(chargeLimitCard(fields, linuxWords).offer->installButton.text.text)));
     EXPECT_THAT(shown, Each(Not(HasSubstr(stopAt))));
 }
 

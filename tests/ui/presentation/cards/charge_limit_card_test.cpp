@@ -60,7 +60,8 @@ TEST_F(ChargeLimitCardTest, TruncatesTheLimitAndLeavesTheSliderWhereItIs) {
         {-0.9, "0%", "Charging to 0% — MagSafe orange"}};
     for (const auto& [percent, limit, status] : expected) {
         fields.chargeLimitPercent = percent;
-        EXPECT_EQ(chargeLimitCard(fields).stopLevel, stopLevel(percent, limit, ColorName::orange, status));
+        EXPECT_EQ(chargeLimitCard(fields, macosWords).stopLevel,
+                  stopLevel(percent, limit, ColorName::orange, status));
     }
 }
 
@@ -93,8 +94,15 @@ TEST_F(ChargeLimitCardTest, OffersTheHelperOrTellsWhatItIsDoingOrIsOnlyAHeader) 
             expected.stopLevel.reset();
             expected.offer = offer();
         }
-        EXPECT_EQ(chargeLimitCard(fields), expected) << state;
+        EXPECT_EQ(chargeLimitCard(fields, macosWords), expected) << state;
     }
+}
+
+TEST_F(ChargeLimitCardTest, SaysNothingOfAPlugThatTheSystemDoesNotHave) {
+    fields.isPluggedIn = true;
+    EXPECT_EQ(chargeLimitCard(fields, linuxWords).stopLevel->status.text.text, "Charging to 80%");
+    fields.chargingInhibited = true;
+    EXPECT_EQ(chargeLimitCard(fields, linuxWords).stopLevel->status.text.text, "Holding at 80%");
 }
 
 } // namespace

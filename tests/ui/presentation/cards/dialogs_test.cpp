@@ -6,7 +6,7 @@ namespace quelby {
 namespace {
 
 TEST(Dialogs, TellOfThePlatformsOwnCharging) {
-    const auto dialog = chargingTip();
+    const auto dialog = chargingTip(linuxWords);
     EXPECT_EQ(dialog.title, "Disable Optimized Battery Charging");
     EXPECT_EQ(dialog.message, "For Quelby's charge limit to work properly, disable macOS Optimized Battery "
                               "Charging in System Settings → Battery.");
