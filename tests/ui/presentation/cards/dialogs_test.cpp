@@ -5,8 +5,17 @@
 namespace quelby {
 namespace {
 
-TEST(Dialogs, TellOfThePlatformsOwnCharging) {
+TEST(Dialogs, TellOfTheChargeLimitsOfTheDesktopAndOfOtherPrograms) {
     const auto dialog = chargingTip(linuxWords);
+    EXPECT_EQ(dialog.title, "Disable Other Charge Limits");
+    EXPECT_EQ(dialog.message, "For Quelby's charge limit to work properly, disable the charge limit in the "
+                              "desktop's power settings, and that of any other program.");
+    EXPECT_EQ(dialog.action, "Open Power Settings");
+    EXPECT_EQ(dialog.cancel, "Got it");
+}
+
+TEST(Dialogs, TellOnAMacOfItsOwnCharging) {
+    const auto dialog = chargingTip(macosWords);
     EXPECT_EQ(dialog.title, "Disable Optimized Battery Charging");
     EXPECT_EQ(dialog.message, "For Quelby's charge limit to work properly, disable macOS Optimized Battery "
                               "Charging in System Settings → Battery.");

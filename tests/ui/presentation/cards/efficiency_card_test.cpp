@@ -26,7 +26,7 @@ const Label& ruledAdvice(const PublishedFields& fields) {
     if (fields.totalPower > 20) {
         return moderate;
     }
-    if (fields.batteryPercent < 20 && !fields.isPluggedIn) {
+    if (fields.hasBattery && fields.batteryPercent < 20 && !fields.isPluggedIn) {
         return lowBattery;
     }
     return fields.fullyCharged ? fullyCharged : efficient;
@@ -79,12 +79,13 @@ TEST(EfficiencyCard, RatesTheScoreInItsColour) {
 TEST(EfficiencyCard, GivesTheAdviceOfTheFirstRuleThatApplies) {
     for (const double watts : {15.0, 20.0, 20.1, 30.0, 30.1}) {
         for (const Int percent : {0, 19, 20, 50}) {
-            for (int state = 0; state < 4; ++state) {
+            for (int state = 0; state < 8; ++state) {
                 PublishedFields fields;
                 fields.totalPower = watts;
                 fields.batteryPercent = percent;
                 fields.isPluggedIn = (state & 1) != 0;
                 fields.fullyCharged = (state & 2) != 0;
+                fields.hasBattery = (state & 4) == 0;
                 EXPECT_EQ(efficiencyCard(fields).advice, ruledAdvice(fields))
                     << watts << " W, " << percent << " %, state " << state;
             }

@@ -9,14 +9,26 @@
 namespace quelby {
 namespace {
 
-PowerBadge fullBadge(const char* figure) {
-    return {.symbol = {"checkmark.circle.fill", ColorName::green},
+PowerBadge drawBadge(const Symbol& symbol, const char* figure, const char* caption) {
+    return {.symbol = symbol,
             .sign = std::nullopt,
             .figure = primary(figure),
             .unit = secondary("W"),
-            .caption = secondary("Fully Charged — System Power Draw"),
+            .caption = secondary(caption),
             .extra = {}};
 }
+
+PowerBadge fullBadge(const char* figure) {
+    return drawBadge({"checkmark.circle.fill", ColorName::green}, figure,
+                     "Fully Charged — System Power Draw");
+}
+
+PowerBadge heldBadge(const char* caption) {
+    return drawBadge({"bolt.badge.checkmark.fill", ColorName::green}, "12.3", caption);
+}
+
+const PowerBadge restingBadge =
+    drawBadge({"powerplug.fill", ColorName::secondary}, "12.3", "Not Charging — System Power Draw");
 
 PowerBadge chargingBadge(const char* figure, const char* system, const char* input) {
     return {.symbol = {"bolt.fill", ColorName::green},
@@ -61,6 +73,48 @@ TEST_F(PowerBadgeTest, ShowsTheDrainWithoutAnAdapterAndWithOneWhatTheSystemOrThe
         }
         EXPECT_EQ(powerBadge(fields), expected) << state;
     }
+}
+
+TEST_F(PowerBadgeTest, ShowsWhatAMachineWithoutABatteryDraws) {
+    fields.hasBattery = false;
+    for (const bool plugged : {false, true}) {
+        fields.isPluggedIn = plugged;
+        auto expected = drawBadge({"desktopcomputer", ColorName::primary}, "12.3", "System Power Draw");
+        expected.figure = {"12.3", ColorName::yellow};
+        EXPECT_EQ(powerBadge(fields), expected) << plugged;
+    }
+}
+
+TEST_F(PowerBadgeTest, SaysThatABatteryIsHeldAtTheLimit) {
+    fields.isPluggedIn = true;
+    fields.chargingInhibited = true;
+    fields.chargeLimitPercent = 82.9;
+    EXPECT_EQ(powerBadge(fields), heldBadge("Holding at 82% — System Power Draw"));
+    fields.isCharging = true; // as a gauge may go on to say
+    EXPECT_EQ(powerBadge(fields), heldBadge("Holding at 82% — System Power Draw"));
+    fields.fullyCharged = true;
+    EXPECT_EQ(powerBadge(fields), fullBadge("12.3"));
+    fields.fullyCharged = false;
+    fields.isPluggedIn = false;
+    EXPECT_EQ(powerBadge(fields), drainBadge("12.3", ColorName::yellow));
+}
+
+TEST_F(PowerBadgeTest, SaysThatABatteryOnTheAdapterTakesNothing) {
+    const auto charging = chargingBadge("22.0", "12W system", "83W total input");
+    fields.isPluggedIn = true;
+    fields.voltage = 12;
+    for (const double watts : {0.0, 0.5}) {
+        fields.realWatts = watts;
+        EXPECT_EQ(powerBadge(fields), restingBadge) << watts;
+    }
+    fields.realWatts = 0.51;
+    EXPECT_EQ(powerBadge(fields), charging);
+    fields.realWatts = 0.5;
+    fields.isCharging = true;
+    EXPECT_EQ(powerBadge(fields), charging);
+    fields.isCharging = false;
+    fields.voltage = 0; // nothing has been read
+    EXPECT_EQ(powerBadge(fields), charging);
 }
 
 TEST_F(PowerBadgeTest, ColoursTheDrainByItsSize) {
