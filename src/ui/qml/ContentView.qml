@@ -105,12 +105,19 @@ FocusScope {
         target: view.uninstalling ? view.Window.window : null
 
         function onAfterRendering() {
-            Qt.callLater(view.uninstall)
+            afterThisTurn.start()
         }
 
         function onVisibleChanged() {
-            Qt.callLater(view.uninstall)
+            afterThisTurn.start()
         }
+    }
+
+    Timer {
+        id: afterThisTurn
+
+        interval: 0
+        onTriggered: view.uninstall()
     }
 
     Connections {

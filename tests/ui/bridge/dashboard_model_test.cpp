@@ -167,15 +167,16 @@ TEST_F(DashboardModelTest, HasNoCardThatIsNotShown) {
     watch();
     monitor.hasBattery = false;
     monitor.powerHistory = std::vector{1.0, 2.0};
-    EXPECT_THAT(atTheEndOfTheTurn(), UnorderedElementsAre(Pair("chargeLimit", 1), Pair("battery", 1),
-                                                          Pair("trend", 1), Pair("details", 1)));
+    EXPECT_THAT(atTheEndOfTheTurn(),
+                UnorderedElementsAre(Pair("chargeLimit", 1), Pair("powerBadge", 1), Pair("battery", 1),
+                                     Pair("trend", 1), Pair("details", 1)));
     EXPECT_EQ(model.battery(), BatteryCardValue());
     EXPECT_FALSE(model.trend().present());
     monitor.todayWh = 3;
     EXPECT_THAT(atTheEndOfTheTurn(), ElementsAre(Pair("history", 1)));
     monitor.hasBattery = true;
-    EXPECT_THAT(atTheEndOfTheTurn(),
-                UnorderedElementsAre(Pair("chargeLimit", 1), Pair("battery", 1), Pair("details", 1)));
+    EXPECT_THAT(atTheEndOfTheTurn(), UnorderedElementsAre(Pair("chargeLimit", 1), Pair("powerBadge", 1),
+                                                          Pair("battery", 1), Pair("details", 1)));
     EXPECT_EQ(model.battery()->level.text, "72%");
 }
 

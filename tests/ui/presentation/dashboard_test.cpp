@@ -57,6 +57,8 @@ TEST(Dashboard, OfAMachineWithoutABatteryKeepsItsOtherCards) {
     expected.battery.reset();
     expected.details.reset();
     fields.hasBattery = false;
+    expected.powerBadge = powerBadge(fields);
+    expected.efficiency = efficiencyCard(fields);
     EXPECT_EQ(dashboard(fields, now, linuxWords), expected);
 }
 

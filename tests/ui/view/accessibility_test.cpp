@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "helper/daemon_config.h"
+#include "monitor/preference_keys.h"
 #include "support/days_from_now.h"
 #include "support/golden.h"
 #include "ui/presentation/cards/dialogs.h"
@@ -193,11 +194,11 @@ TEST_F(Accessibility, TurnsEverySwitch) {
         act(QAccessible::CheckBox, name, QAccessibleActionInterface::toggleAction());
         EXPECT_NE(isOn(QAccessible::CheckBox, name), before) << testing::PrintToString(name);
     };
+    dashboard.computer.preferences.setFlag(preference_keys::hasShownChargingTip, true);
     for (const bool enabled : {false, true}) {
         turn(chargeLimitCard(monitor, linuxWords).title);
         EXPECT_EQ(monitor.chargeLimitEnabled, enabled);
     }
-    monitor.shouldShowChargingTip = false;
     view->showSettings();
     turn(generalSection(monitor).launchAtLogin.title);
     turn(generalSection(monitor).launchAtLogin.title);

@@ -6,7 +6,7 @@ import Quelby
 import Quelby.Bridge
 
 Item {
-    id: scale
+    id: texts
 
     required property stopLevelContent content
     required property StepSlider slider // of the same width
@@ -14,14 +14,14 @@ Item {
     implicitHeight: childrenRect.height
 
     Repeater {
-        model: scale.content.scale.length
+        model: texts.content.scale.length
 
         InkText {
             required property int index
 
-            content: scale.content.scale.at(index)
+            content: texts.content.scale.at(index)
             font.pixelSize: Theme.smallSize
-            x: scale.slider.handleCentre(scale.content.scalePosition(index)) - width / 2
+            x: texts.slider.handleCentre(texts.content.scalePosition(index)) - width / 2
         }
     }
 }
