@@ -146,7 +146,7 @@ DashboardTestCase {
     }
 
     function test_stepsOntoTheScaleFromALevelBesideIt() {
-        for (const [percent, up, down] of [[77, 80, 75], [82, 85, 75], [10, 25, 20], [120, 100, 95]]) {
+        for (const [percent, up, down] of [[77, 80, 75], [82, 85, 80], [10, 25, 20], [120, 100, 95]]) {
             for (const [step, expected] of [["increase", up], ["decrease", down]]) {
                 set("chargeLimitPercent", percent)
                 find()

@@ -15,6 +15,7 @@ T.Slider {
     readonly property real maximumValue: to
 
     property bool following: false // the content, which need not be told of what it says
+    property real former: 0 // value
 
     signal stepped(real value)
 
@@ -27,8 +28,11 @@ T.Slider {
         following = false
     }
 
-    function nearestStep(): real {
-        return from + Math.round((value - from) / stepSize) * stepSize
+    // One step away from a level beside the scale is the next level on it; anything else is the nearest.
+    function onTheScale(): real {
+        const steps = (value - from) / stepSize
+        const oneStep = Math.abs(value - former) === stepSize
+        return from + stepSize * (!oneStep ? Math.round(steps) : value < former ? Math.ceil(steps) : Math.floor(steps))
     }
 
     // Where the middle of the handle is at a position of 0 to 1, from the left.
@@ -49,14 +53,15 @@ T.Slider {
 
     // Pointer and keyboard go by steps; assistive technology sets what it likes.
     onValueChanged: {
+        const level = onTheScale()
+        former = value
         if (following) {
             return
         }
-        const step = nearestStep()
-        if (value === step) {
+        if (value === level) {
             stepped(value)
         } else {
-            value = step
+            value = level
         }
     }
 
