@@ -23,9 +23,9 @@
 
 #include "briefly.h"
 #include "monitor/power_monitor.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/file_descriptor.h"
-#include "platform/posix/system_clock.h"
-#include "platform/system_readers.h"
+#include "platform/system.h"
 #include "support/fake_platform.h"
 
 namespace {
@@ -114,17 +114,10 @@ private:
     // Everything that a cycle reads is real; the timer fires when the benchmark says so.
     [[nodiscard]] quelby::Platform platform() {
         auto platform = rest_.platform();
-        return {.battery = *readers_.battery,
-                .processes = *readers_.processes,
-                .clock = clock_,
-                .folders = platform.folders,
-                .helperFolder = platform.helperFolder,
-                .loginItem = platform.loginItem,
-                .runLoop = platform.runLoop,
-                .preferences = platform.preferences,
-                .privilegedShell = platform.privilegedShell,
-                .serviceManager = platform.serviceManager,
-                .storageDraw = platform.storageDraw};
+        platform.battery = *readers_.battery;
+        platform.processes = *readers_.processes;
+        platform.clock = clock_;
+        return platform;
     }
 
     quelby::SystemReaders readers_ = quelby::makeSystemReaders({});

@@ -16,12 +16,13 @@
 
 #include "briefly.h"
 #include "platform/host/machine.h"
+#include "ui/presentation/elements/metrics.h"
 #include "ui/view/dashboard_view.h"
 
 namespace quelby {
 namespace {
 
-constexpr QSize viewSize(400, 660);
+constexpr QSize viewSize(viewWidth, viewHeight);
 
 // A laptop as it is after all of its recording.
 class Laptop {
@@ -44,9 +45,8 @@ public:
     }
 
     [[nodiscard]] std::unique_ptr<DashboardModel> model() {
-        return std::make_unique<DashboardModel>(
-            monitor_, machine_->platform().clock,
-            DashboardActions{.quit = [] {}, .openBatterySettings = [] {}});
+        return std::make_unique<DashboardModel>(monitor_, machine_->platform().clock,
+                                                ProgramActions{.quit = [] {}, .openBatterySettings = [] {}});
     }
 
 private:

@@ -11,8 +11,8 @@
 #include "briefly.h"
 #include "history/history_file.h"
 #include "history/history_store.h"
-#include "history/set_clock.h"
 #include "history/sqlite/statement.h"
+#include "history/support/set_clock.h"
 #include "support/temporary_folder.h"
 
 namespace {

@@ -191,7 +191,18 @@ class HeldLaptop(Laptop):
             "batteryPercent": self.LIMIT,
             "lastUpdate": START + self.cycle * CYCLE_SECONDS,
         }
-        return {"status": json.dumps(status, separators=(",", ":")), "helperLoaded": True}
+        config = {
+            "chargeLimitEnabled": True,
+            "chargeLimitPercent": self.LIMIT,
+            "calibrationEnabled": True,
+            "calibrationIntervalDays": 30,
+            "lastCalibrationTimestamp": START - 12 * 24 * 60 * 60,
+        }
+        return {"status": compact(status), "helperLoaded": True, "config": compact(config)}
+
+
+def compact(value):
+    return json.dumps(value, separators=(",", ":"))
 
 
 WORKING_DAY = [(25, "browse", 0.5), (20, "rest", 0.0), (35, "build", 0.9), (20, "browse", 0.8), (30, "video", 0.7),

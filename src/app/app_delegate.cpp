@@ -3,11 +3,8 @@
 #include <algorithm>
 #include <cassert>
 
-#include <fmt/format.h>
-
-#include "base/utf8.h"
-#include "console/cycle_line.h"
-#include "ui/presentation/menu_bar_title.h"
+#include "ui/presentation/text/menu_bar_title.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 
@@ -22,10 +19,6 @@ MenuBarDisplay displayBeside(MenuBarDisplay display, int steps) {
     const auto index = static_cast<int>(here - allMenuBarDisplays.begin());
     const int there = ((index + steps) % count + count) % count;
     return allMenuBarDisplays.at(static_cast<std::size_t>(there));
-}
-
-std::string toolTip(const PublishedFields& fields) {
-    return printable(fmt::format("{}, {:.1f} W", batteryText(fields), fields.totalPower.get()));
 }
 
 } // namespace
@@ -43,7 +36,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     setupStatusItem();
     setupPopover();
     monitor_->startMonitoring();
-    monitor_->onUpdate = [runLoop = &platform_.runLoop, update = whileHere(&AppDelegate::updateMenuBar)] {
+    monitor_->onUpdate = [runLoop = platform_.runLoop, update = whileHere(&AppDelegate::updateMenuBar)] {
         runLoop->post(update);
     };
     updateMenuBar();
@@ -67,7 +60,7 @@ std::function<void()> AppDelegate::whileHere(void (AppDelegate::*action)()) {
 }
 
 void AppDelegate::setupStatusItem() {
-    statusItem_ = desktop_.makeStatusItem();
+    statusItem_ = &desktop_.makeStatusItem();
     if (!statusItem_->hasButton()) {
         return;
     }
@@ -96,11 +89,11 @@ void AppDelegate::setupStatusItem() {
 }
 
 void AppDelegate::setupPopover() {
-    popover_ = desktop_.makePopover(monitor_, whileHere(&AppDelegate::quit));
+    popover_ = &desktop_.makePopover(monitor_, whileHere(&AppDelegate::quit));
 }
 
 void AppDelegate::startMenuBarTimer() {
-    menuBarTimer_ = platform_.runLoop.repeat(titleInterval, whileHere(&AppDelegate::updateMenuBar));
+    menuBarTimer_ = platform_.runLoop->repeat(titleInterval, whileHere(&AppDelegate::updateMenuBar));
 }
 
 void AppDelegate::installKeyMonitor() {
@@ -148,9 +141,9 @@ void AppDelegate::updateMenuBar() {
     if (!statusItem_->hasButton()) {
         return;
     }
-    statusItem_->setImage(menuBarSymbol(*monitor_), "Quelby");
+    statusItem_->setImage(menuBarSymbol(*monitor_), words::program);
     statusItem_->setTitle(menuBarTitle(*monitor_, monitor_->menuBarDisplay));
-    statusItem_->setToolTip(toolTip(*monitor_));
+    statusItem_->setToolTip(menuBarToolTip(*monitor_));
     statusItem_->setDisplay(monitor_->menuBarDisplay);
 }
 

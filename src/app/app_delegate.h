@@ -49,8 +49,8 @@ private:
 
     Platform platform_;
     Desktop& desktop_;
-    std::unique_ptr<StatusItem> statusItem_;
-    std::unique_ptr<Popover> popover_;
+    StatusItem* statusItem_ = nullptr; // the desktop's, as is the popover; none before the launch
+    Popover* popover_ = nullptr;
     std::shared_ptr<PowerMonitor> monitor_;
     std::shared_ptr<RepeatingTimer> menuBarTimer_;
 };

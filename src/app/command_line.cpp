@@ -23,13 +23,6 @@ double parseNumber(const char* option, const std::string& text, double least, do
     return *number;
 }
 
-ScreenshotView parseView(const std::string& text) {
-    if (text == "dashboard" || text == "settings") {
-        return text == "settings" ? ScreenshotView::settings : ScreenshotView::dashboard;
-    }
-    throw CLI::ValidationError(fmt::format(R"(--view takes dashboard or settings, not "{}")", text));
-}
-
 // The command line as it is being read.
 struct Reading {
     CLI::App app{"Shows what this computer's power is doing, and keeps a history of it.", "quelby"};
@@ -55,7 +48,7 @@ struct Reading {
 
     void addPictureOptions(CLI::Option& screenshotForm) {
         add("--view", "VIEW", "With --screenshot: dashboard or settings", screenshotForm,
-            [this](const std::string& text) { screenshot.view = parseView(text); });
+            [this](const std::string& text) { screenshot.page = parsePage(text); });
         add("--scale", "N", "With --screenshot: pixels in a point", screenshotForm,
             [this](const std::string& text) {
                 screenshot.scale = parseNumber("--scale", text, smallestScale, largestScale);

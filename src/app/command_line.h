@@ -14,11 +14,9 @@ struct TrayCommand {
 
 struct HeadlessCommand {};
 
-enum class ScreenshotView { dashboard, settings };
-
 struct ScreenshotCommand {
     std::filesystem::path file;
-    ScreenshotView view = ScreenshotView::dashboard;
+    Page page = Page::dashboard;
     double scale = 1; // pixels in a point; 0.5 to 8
     bool dark = false;
     double scroll = 0; // points from the top

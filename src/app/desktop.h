@@ -21,11 +21,13 @@ class Desktop {
 public:
     virtual ~Desktop() = default;
 
-    [[nodiscard]] virtual std::unique_ptr<StatusItem> makeStatusItem() = 0;
+    // Made once, and the desktop's for as long as it is there, as is the popover.
+    [[nodiscard]] virtual StatusItem& makeStatusItem() = 0;
 
-    // The monitor is what the dashboard shows; `quit` is what its quit button does.
-    [[nodiscard]] virtual std::unique_ptr<Popover> makePopover(std::shared_ptr<PowerMonitor> monitor,
-                                                               std::function<void()> quit) = 0;
+    // At the status item, which is there already. The monitor is what the dashboard shows; `quit` is what its
+    // quit button does.
+    [[nodiscard]] virtual Popover& makePopover(std::shared_ptr<PowerMonitor> monitor,
+                                               std::function<void()> quit) = 0;
 
     // Hands every key that is pressed in one of the program's windows to the handler first, which swallows it
     // by answering true. For as long as the program runs.

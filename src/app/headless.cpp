@@ -3,9 +3,9 @@
 #include <csignal>
 
 #include "app/recorder_lock.h"
-#include "console/cycle_line.h"
 #include "console/cycles.h"
 #include "console/standard_output.h"
+#include "ui/presentation/text/cycle_line.h"
 
 namespace quelby::app {
 
@@ -15,9 +15,9 @@ Result<void> runHeadless(const MachineArguments& arguments) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
-    const auto lock = takeRecorderLock(platform.folders.applicationSupport());
-    if (!lock) {
-        return tl::make_unexpected(lock.error());
+    const RecorderLock lock(platform.folders->applicationSupport());
+    if (!lock.outcome()) {
+        return lock.outcome();
     }
     std::signal(SIGPIPE, SIG_IGN); // whoever read the lines may leave; the recorder stays
     CycleRun run{.history = HistoryAccess::recording};
@@ -25,7 +25,7 @@ Result<void> runHeadless(const MachineArguments& arguments) {
         run.interval = std::chrono::seconds(0);
     }
     run.afterCycle = [&](const PowerMonitor& monitor) -> Result<void> {
-        static_cast<void>(writeToStandardOutput(cycleLine(monitor, platform.clock.now())));
+        static_cast<void>(writeToStandardOutput(cycleLine(monitor, platform.clock->now())));
         return {};
     };
     return runCycles(**machine, platform, run);

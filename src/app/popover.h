@@ -12,7 +12,7 @@ public:
     // At the status item, in front of everything else, and with the keyboard.
     virtual void show() = 0;
 
-    // Likewise, with the settings in place of the cards.
+    // Shows it the same way, with the settings in place of the cards.
     virtual void showSettings() = 0;
 
     virtual void close() = 0;

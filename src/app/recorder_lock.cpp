@@ -7,21 +7,30 @@
 
 namespace quelby::app {
 
-Result<std::optional<FileLock>> takeRecorderLock(const std::filesystem::path& applicationSupport) {
-    const auto folder = historyFile(applicationSupport).parent_path();
-    auto taken = FileLock::take(folder / "recorder.lock");
-    if (std::holds_alternative<FileLock::HeldByAnother>(taken)) {
-        return problem(fmt::format("another Quelby records to \"{}\" already", folder.string()));
-    }
-    auto* const lock = std::get_if<FileLock>(&taken);
-    return lock == nullptr ? std::nullopt : std::optional(std::move(*lock));
+RecorderLock::RecorderLock(const std::filesystem::path& applicationSupport)
+    : folder_(historyFile(applicationSupport).parent_path()) {
+    static_cast<void>(tryAgain()); // the outcome tells
 }
 
-HistoryAccess historyAccess(const Result<std::optional<FileLock>>& lock) {
-    if (lock) {
+bool RecorderLock::tryAgain() {
+    auto taken = FileLock::take(folder_ / "recorder.lock");
+    if (std::holds_alternative<FileLock::HeldByAnother>(taken)) {
+        outcome_ = problem(fmt::format("another Quelby records to \"{}\" already", folder_.string()));
+        return false;
+    }
+    if (auto* const lock = std::get_if<FileLock>(&taken)) {
+        lock_ = std::move(*lock);
+    }
+    outcome_ = {};
+    return true;
+}
+
+HistoryAccess historyAccess(const RecorderLock& lock) {
+    if (lock.outcome()) {
         return HistoryAccess::recording;
     }
-    writeToStandardError("quelby: " + lock.error().sentence + ", so this one only shows its history\n");
+    writeToStandardError("quelby: " + lock.outcome().error().sentence +
+                         ", so this one only shows its history until that one ends\n");
     return HistoryAccess::readOnly;
 }
 

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 #include <fmt/format.h>
 
-#include "app/dashboard_painter.h"
+#include "app/picture_painter.h"
 #include "console/cycles.h"
 #include "console/program.h"
 
@@ -46,12 +46,12 @@ Result<void> write(const QImage& picture, const std::filesystem::path& path) {
 }
 
 Result<void> draw(PowerMonitor& monitor, Clock& clock, const ScreenshotCommand& command) {
-    const auto painter = loadDashboardPainter();
+    const auto painter = loadPicturePainter();
     if (!painter) {
         return problem("the library with the dashboard is missing");
     }
     monitor.selectHistoryRange(monitor.historyRange); // with what the cycles have recorded
-    const PictureOptions options{.settings = command.view == ScreenshotView::settings,
+    const PictureOptions options{.settings = command.page == Page::settings,
                                  .dark = command.dark,
                                  .scale = command.scale,
                                  .scrolledTo = command.scroll};
@@ -65,7 +65,7 @@ Result<void> takeScreenshot(const MachineArguments& arguments, const ScreenshotC
     }
     const auto platform = (*machine)->platform();
     auto run = untilThePicture(**machine, arguments.machine);
-    run.atEnd = [&](PowerMonitor& monitor) { return draw(monitor, platform.clock, command); };
+    run.atEnd = [&](PowerMonitor& monitor) { return draw(monitor, *platform.clock, command); };
     return runCycles(**machine, platform, run);
 }
 

@@ -11,12 +11,12 @@ namespace quelby::app {
 
 // What a person can ask of the status item. All of them are set.
 struct StatusItemActions {
-    std::function<void()> toggle;        // pressed
-    std::function<void()> showDashboard; // from its menu, likewise below
-    std::function<void()> showSettings;
-    std::function<void(MenuBarDisplay)> chooseDisplay;
-    std::function<void(int steps)> scroll; // to the next figures, or back to former ones where negative
-    std::function<void()> quit;
+    std::function<void()> toggle;                      // by a press
+    std::function<void()> showDashboard;               // from its menu
+    std::function<void()> showSettings;                // from its menu
+    std::function<void(MenuBarDisplay)> chooseDisplay; // from its menu
+    std::function<void(int steps)> scroll; // by the wheel: to the next figures, or back where negative
+    std::function<void()> quit;            // from its menu
 };
 
 class StatusItem {
@@ -28,7 +28,8 @@ public:
 
     virtual void setActions(StatusItemActions actions) = 0;
 
-    // A symbol by its name. One that cannot be made leaves the one before.
+    // A symbol by its name. One that cannot be made leaves the one before. The description is what a screen
+    // reader says of it; on Linux, whose hosts take none, it is ignored.
     virtual void setImage(std::string_view symbolName, std::string_view accessibilityDescription) = 0;
 
     // With a leading blank, which keeps it off the image, or empty.

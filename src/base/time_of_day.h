@@ -6,10 +6,10 @@
 
 namespace quelby {
 
-// "14:03:27". The time counts seconds since 1970-01-01 00:00 UTC.
+// As in "14:03:27". The time is in seconds since 1970-01-01 00:00 UTC.
 [[nodiscard]] std::string timeOfDay(double time);
 
-// "14:03", likewise.
+// As in "14:03". The time is in seconds since 1970-01-01 00:00 UTC.
 [[nodiscard]] std::string hourAndMinute(double time);
 
 } // namespace quelby

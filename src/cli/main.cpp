@@ -1,12 +1,5 @@
-#include "cli/command_line.h"
-#include "cli/dashboard_command.h"
-#include "cli/helper_command.h"
-#include "cli/history_command.h"
-#include "cli/limit_command.h"
-#include "cli/record_command.h"
-#include "cli/status_command.h"
-#include "cli/title_command.h"
-#include "cli/watch_command.h"
+#include "cli/arguments/command_line.h"
+#include "cli/commands/commands.h"
 #include "console/program.h"
 
 namespace quelby::cli {

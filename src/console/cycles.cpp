@@ -52,7 +52,7 @@ private:
     void end() {
         ended_ = true;
         monitor_->stopMonitoring();
-        platform_.runLoop.post([] { QCoreApplication::quit(); });
+        platform_.runLoop->post([] { QCoreApplication::quit(); });
     }
 
     const Machine& machine_;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 
+#include "base/cycle_interval.h"
 #include "base/problem.h"
 #include "monitor/power_monitor.h"
 #include "platform/host/machine.h"
@@ -12,14 +13,14 @@
 namespace quelby {
 
 // What is made of the figures.
-using Look = std::function<Result<void>(PowerMonitor& monitor)>;
+using CycleAction = std::function<Result<void>(PowerMonitor& monitor)>;
 
 struct CycleRun {
-    std::chrono::duration<double> interval{3}; // zero: one cycle right after the other
-    std::optional<std::int64_t> count;         // cycles, 1 or more; none: until it is ended
+    std::chrono::duration<double> interval = cycleInterval; // zero: one cycle right after the other
+    std::optional<std::int64_t> count;                      // cycles, 1 or more; none: until it is ended
     std::optional<HistoryAccess> history;
-    Look afterCycle; // none, or called after each cycle; a problem ends the run
-    Look atEnd;      // none, or called when all is done without a problem
+    CycleAction afterCycle; // none, or called after each cycle; a problem ends the run
+    CycleAction atEnd;      // none, or called when all is done without a problem
 };
 
 // Runs a monitor on the platform, which is the machine's own or one built around it, until `count` cycles are

@@ -2,6 +2,8 @@
 
 #include <fmt/format.h>
 
+#include "base/version.h"
+
 namespace quelby {
 
 namespace {
@@ -17,6 +19,13 @@ void addRoot(CLI::App& parser, const char* name, std::filesystem::path& root, co
 
 } // namespace
 
+Page parsePage(const std::string& text) {
+    if (text == "dashboard" || text == "settings") {
+        return text == "settings" ? Page::settings : Page::dashboard;
+    }
+    throw CLI::ValidationError(fmt::format(R"(--view takes dashboard or settings, not "{}")", text));
+}
+
 void addPathOption(CLI::App& parser, const char* name, const char* type,
                    std::optional<std::filesystem::path>& path, const char* help) {
     parser
@@ -26,7 +35,7 @@ void addPathOption(CLI::App& parser, const char* name, const char* type,
 }
 
 void addCommonOptions(CLI::App& parser, MachineArguments& arguments) {
-    parser.set_version_flag("--version", parser.get_name() + " " QUELBY_VERSION,
+    parser.set_version_flag("--version", fmt::format("{} {}", parser.get_name(), version()),
                             "Print the version and exit");
     parser.set_help_flag("--help,-h", "Print this help and exit");
     auto& machine = arguments.machine;

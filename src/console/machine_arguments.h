@@ -19,6 +19,12 @@ struct MachineArguments {
     Pace pace = Pace::asAsked;
 };
 
+// What can be looked at, by --view.
+enum class Page { dashboard, settings };
+
+// Throws what CLI11 reports as wrong usage.
+[[nodiscard]] Page parsePage(const std::string& text);
+
 // The command line asked for a text (help, version), or it is wrong.
 struct Answer {
     int exitStatus = 0;

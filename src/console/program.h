@@ -23,7 +23,7 @@ template <typename Application>
     return reportOutcome(name, work());
 }
 
-// Likewise, for a program without a user interface.
+// The same for a program without a user interface.
 [[nodiscard]] int runProgram(std::string_view name, char** argv, const std::function<Result<void>()>& work);
 
 // Prints the answer where it belongs and gives the exit status.

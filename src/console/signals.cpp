@@ -8,6 +8,8 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include "platform/posix/pipe.h"
+
 namespace quelby {
 
 namespace {
@@ -39,16 +41,8 @@ void handle(int signal, void (*handler)(int)) {
     ::sigaction(signal, &action, nullptr);
 }
 
-std::array<FileDescriptor, 2> makePipe() {
-    std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) {
-        return {};
-    }
-    for (const int end : ends) {
-        ::fcntl(end, F_SETFD, FD_CLOEXEC);
-        ::fcntl(end, F_SETFL, O_NONBLOCK);
-    }
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
+void neverWait(const FileDescriptor& end) {
+    ::fcntl(end.number(), F_SETFL, O_NONBLOCK);
 }
 
 } // namespace
@@ -61,6 +55,8 @@ SignalListener::SignalListener(std::vector<int> signals, std::function<void(int)
     }
     reading_ = std::move(reading);
     writing_ = std::move(writing);
+    neverWait(reading_);
+    neverWait(writing_);
     auto* const notifier = new QSocketNotifier(reading_.number(), QSocketNotifier::Read, &notifierOwner_);
     QObject::connect(notifier, &QSocketNotifier::activated, &notifierOwner_, [this] { deliver(); });
     for (const int signal : signals_) {

@@ -33,16 +33,9 @@ bool isAtRest(const fs::path& file) {
     return !fs::exists(file.string() + "-wal", failure);
 }
 
-Connection openReadOnly(const fs::path& file, const char* parameters) {
-    sqlite3* handle = nullptr;
-    const auto uri = "file:" + percentEncoded(fs::absolute(file).string()) + parameters;
-    const int outcome =
-        sqlite3_open_v2(uri.c_str(), &handle, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
-    Connection connection(handle);
-    if (outcome != SQLITE_OK) {
-        connection.reset();
-    }
-    return connection;
+tl::unexpected<Problem> refusal(const char* purpose, const fs::path& file, int outcome) {
+    return problem(
+        fmt::format("cannot {} the history \"{}\": {}", purpose, file.string(), sqlite3_errstr(outcome)));
 }
 
 // SQLite looks into the file only when it is asked for something.
@@ -57,15 +50,17 @@ fs::path historyFile(const fs::path& applicationSupport) {
     return applicationSupport / "Quelby" / "history.db";
 }
 
-Connection openForRecording(const fs::path& file) {
+Result<Connection> openForRecording(const fs::path& file) {
     std::error_code ignored;
     fs::create_directories(file.parent_path(), ignored);
     sqlite3* handle = nullptr;
-    if (sqlite3_open(file.c_str(), &handle) != SQLITE_OK) {
-        return {}; // the handle is given up as it is, once in the life of a store
+    const int outcome = sqlite3_open(file.c_str(), &handle);
+    Connection connection(handle); // there is one to be closed also where opening failed
+    if (outcome != SQLITE_OK) {
+        return refusal("open", file, outcome);
     }
     sqlite3_busy_timeout(handle, patienceMilliseconds);
-    return Connection(handle);
+    return connection;
 }
 
 Result<Connection> openForReading(const fs::path& file) {
@@ -78,14 +73,17 @@ Result<Connection> openForReading(const fs::path& file) {
         const auto why = failure ? failure.message() : "it is not a file";
         return problem(fmt::format("cannot read the history \"{}\": {}", file.string(), why));
     }
-    auto connection = openReadOnly(file, isAtRest(file) ? "?immutable=1" : "");
-    if (connection) {
-        sqlite3_busy_timeout(connection.get(), patienceMilliseconds);
+    const auto uri =
+        "file:" + percentEncoded(fs::absolute(file).string()) + (isAtRest(file) ? "?immutable=1" : "");
+    sqlite3* handle = nullptr;
+    int outcome = sqlite3_open_v2(uri.c_str(), &handle, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+    Connection connection(handle);
+    if (outcome == SQLITE_OK) {
+        sqlite3_busy_timeout(handle, patienceMilliseconds);
+        outcome = outcomeOfReading(handle);
     }
-    const int outcome = connection ? outcomeOfReading(connection.get()) : SQLITE_CANTOPEN;
     if (outcome != SQLITE_OK) {
-        return problem(
-            fmt::format("cannot read the history \"{}\": {}", file.string(), sqlite3_errstr(outcome)));
+        return refusal("read", file, outcome);
     }
     return connection;
 }

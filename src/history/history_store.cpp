@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/arithmetic.h"
+#include "base/cycle_interval.h"
 #include "history/history_file.h"
 #include "history/sqlite/statement.h"
 
@@ -89,26 +90,37 @@ double sum(Statement& statement) {
     return statement.step() ? statement.number(0) : 0.0;
 }
 
-Connection open(const std::filesystem::path& applicationSupport, HistoryAccess access) {
-    const auto file = historyFile(applicationSupport);
-    return access == HistoryAccess::recording ? openForRecording(file)
-                                              : openForReading(file).value_or(Connection{});
-}
-
 } // namespace
 
 HistoryStore::HistoryStore(const std::filesystem::path& applicationSupport, Clock& clock,
                            HistoryAccess access)
-    : clock_(clock), access_(access), db_(open(applicationSupport, access)) {
+    : clock_(clock)
+    , access_(access)
+    , file_(historyFile(applicationSupport))
+    , db_(access == HistoryAccess::recording ? openForRecording(file_) : Connection{}) {
     if (access_ == HistoryAccess::recording && db_) {
-        execute(db_.get(), "PRAGMA journal_mode=WAL;");
-        execute(db_.get(), "PRAGMA synchronous=NORMAL;");
+        execute(db_->get(), "PRAGMA journal_mode=WAL;");
+        execute(db_->get(), "PRAGMA synchronous=NORMAL;");
         createTables();
     }
 }
 
+Result<void> HistoryStore::opened() const {
+    const auto forget = [](const Connection& /*connection*/) {};
+    return access_ == HistoryAccess::recording ? db_.map(forget) : openForReading(file_).map(forget);
+}
+
+HistoryStore::Asked HistoryStore::ask() const {
+    if (access_ == HistoryAccess::recording) {
+        return {{}, db_ ? db_->get() : nullptr};
+    }
+    auto opened = openForReading(file_).value_or(Connection{});
+    auto* const connection = opened.get();
+    return {std::move(opened), connection};
+}
+
 void HistoryStore::createTables() {
-    execute(db_.get(), schema);
+    execute(db_->get(), schema);
 }
 
 void HistoryStore::addReading(double watts, std::int64_t batteryPct, bool isCharging, double cpuUsage) {
@@ -117,7 +129,7 @@ void HistoryStore::addReading(double watts, std::int64_t batteryPct, bool isChar
     }
     const auto timestamp = truncated(clock_.now());
     {
-        Statement insertion(db_.get(),
+        Statement insertion(db_->get(),
                             "INSERT OR REPLACE INTO readings (timestamp, watts, battery_pct, is_charging, "
                             "cpu_usage) VALUES (?, ?, ?, ?, ?)");
         insertion.bind(1, timestamp);
@@ -142,17 +154,23 @@ void HistoryStore::aggregateIfNeeded() {
     const auto minuteBound = truncated(now - minuteRetention);
     const auto hourBound = truncated(now - hourRetention);
     const auto rawBound = truncated(now - rawRetention);
-    execute(db_.get(), minuteAggregation(minuteBound));
-    execute(db_.get(), hourAggregation(hourBound));
-    execute(db_.get(), pruning(rawBound, minuteBound, hourBound));
+    execute(db_->get(), "BEGIN");
+    execute(db_->get(), minuteAggregation(minuteBound));
+    execute(db_->get(), hourAggregation(hourBound));
+    execute(db_->get(), pruning(rawBound, minuteBound, hourBound));
+    execute(db_->get(), "COMMIT");
+    if (sqlite3_get_autocommit(db_->get()) == 0) {
+        execute(db_->get(), "ROLLBACK"); // so that what comes later does not wait for this to be committed
+    }
 }
 
 HistoryResult HistoryStore::loadData(TimeRange range) {
-    if (!db_) {
+    const auto history = ask();
+    if (history.connection == nullptr) {
         return {};
     }
     const auto cutoff = truncated(clock_.now() - seconds(range));
-    Statement query(db_.get(),
+    Statement query(history.connection,
                     fmt::format("SELECT timestamp, watts FROM {} WHERE timestamp > ? ORDER BY timestamp",
                                 tableOf(range)));
     query.bind(1, cutoff);
@@ -164,17 +182,20 @@ HistoryResult HistoryStore::loadData(TimeRange range) {
 }
 
 double HistoryStore::todayWh() {
-    if (!db_) {
+    const auto history = ask();
+    if (history.connection == nullptr) {
         return 0.0;
     }
     const auto dayStart = truncated(clock_.startOfDay());
-    Statement raw(db_.get(), "SELECT SUM(watts * 3.0 / 3600.0) FROM readings WHERE timestamp > ?");
+    Statement raw(history.connection,
+                  fmt::format("SELECT SUM(watts * {:.1f} / 3600.0) FROM readings WHERE timestamp > ?",
+                              std::chrono::duration<double>(cycleInterval).count()));
     raw.bind(1, dayStart);
     double total = sum(raw);
     const auto rawStart = truncated(clock_.now() - rawRetention);
     if (dayStart < rawStart) {
         Statement minutes(
-            db_.get(),
+            history.connection,
             "SELECT SUM(watts * 60.0 / 3600.0) FROM minute_avg WHERE timestamp >= ? AND timestamp < ?");
         minutes.bind(1, dayStart);
         minutes.bind(2, rawStart);

@@ -9,19 +9,24 @@
 //
 // Minutes and hours are computed anew from all rows that are still there, once a minute at the most and
 // driven by readings only; then what is too old is deleted. The oldest minute and the oldest hour are
-// therefore in the end the mean of what was left of them. That is accepted.
+// therefore in the end the mean of what was left of them. That is accepted. A reader sees
+// such a run whole or not at all.
 //
 // How durable, how costly: the database is in write-ahead mode, and the log is flushed to the disk only when
 // it is copied into the database, about every thousand pages (a handful of times an hour), not with each
 // reading. A recorder that is killed loses at most the reading in flight. A machine that loses its power may
 // lose the readings since the last copy, some minutes, but never the database.
 //
-// Nothing here reports an error: without a connection nothing is recorded and every answer is empty. One
-// thread only.
+// Who only reads opens the history anew for each answer. So a history that a recorder begins later is found,
+// and SQLite is never told that a file is at rest which somebody has begun to write to.
+//
+// A store that cannot be opened is there nevertheless: it says why, records nothing, and gives empty answers.
+// Nothing after the opening reports an error. One thread only.
 #pragma once
 
 #include <filesystem>
 
+#include "base/problem.h"
 #include "history/history_curve.h"
 #include "history/sqlite/connection.h"
 #include "history/time_range.h"
@@ -40,7 +45,11 @@ public:
     // store.
     HistoryStore(const std::filesystem::path& applicationSupport, Clock& clock, HistoryAccess access);
 
-    // W of the whole system, %, and % of the whole machine.
+    // The problem names the file and says why it cannot be opened; a reader's may pass with time.
+    [[nodiscard]] Result<void> opened() const;
+
+    // What the whole system draws, in W; the battery's state of charge, in % of full; the load of the whole
+    // machine, in %.
     void addReading(double watts, std::int64_t batteryPct, bool isCharging, double cpuUsage);
 
     // The curve of the range up to now, thinned for a chart.
@@ -52,13 +61,21 @@ public:
     [[nodiscard]] double todayWh();
 
 private:
+    // A connection to ask: the recorder's own, or a reader's for one answer. None where there is no history.
+    struct Asked {
+        Connection ofTheAnswer;
+        sqlite3* connection = nullptr;
+    };
+
+    [[nodiscard]] Asked ask() const;
     void createTables();
     void aggregateIfNeeded();
 
     Clock& clock_;
     HistoryAccess access_;
-    Connection db_;              // empty where opening failed
-    double lastAggregation_ = 0; // seconds since 1970
+    std::filesystem::path file_;
+    Result<Connection> db_; // the recorder's, or why there is none; empty for a reader
+    Date lastAggregation_ = 0;
 };
 
 } // namespace quelby

@@ -1,47 +1,47 @@
 // Installing and removing the charge-limit helper, and the whole program.
 
-#include "helper/system_scripts.h"
 #include "history/history_file.h"
 #include "monitor/power_monitor.h"
+#include "monitor/preference_keys.h"
 
 namespace quelby {
 
-void PowerMonitor::installDaemon() {
-    const auto resources = platform_.folders.resources();
-    if (!resources || !platform_.privilegedShell.run(helperInstallScript(*resources))) {
-        return;
+Result<void> PowerMonitor::installDaemon() {
+    if (auto installed = platform_.helperInstaller->install(); !installed) {
+        return installed;
     }
     daemonInstalled = true;
-    writeDaemonConfig();
+    return writeDaemonConfig();
 }
 
-void PowerMonitor::uninstallDaemon() {
-    if (!platform_.privilegedShell.run(helperUninstallScript())) {
-        return;
+Result<void> PowerMonitor::uninstallDaemon() {
+    if (auto removed = platform_.helperInstaller->uninstall(); !removed) {
+        return removed;
     }
     daemonInstalled = false;
     chargingInhibited = false;
     chargeLimitEnabled = false;
     chargeLimitStatus = "";
+    return {};
 }
 
 void PowerMonitor::fullUninstall(const std::function<void()>& then) {
     // Without the password the helper stays, and all else goes nevertheless.
-    static_cast<void>(platform_.privilegedShell.run(fullUninstallScript(platform_.folders.program())));
+    static_cast<void>(platform_.helperInstaller->uninstallEverything());
     std::error_code ignored;
-    std::filesystem::remove_all(historyFile(platform_.folders.applicationSupport()).parent_path(), ignored);
-    platform_.preferences.removeAll();
-    for (const auto* const key : {"menuBarDisplay", "launchAtLogin", "hasShownChargingTip"}) {
-        platform_.preferences.remove(key);
+    std::filesystem::remove_all(historyFile(platform_.folders->applicationSupport()).parent_path(), ignored);
+    platform_.preferences->removeAll();
+    for (const auto key : preference_keys::all) {
+        platform_.preferences->remove(key);
     }
-    static_cast<void>(platform_.loginItem.unregisterProgram());
+    static_cast<void>(platform_.loginItem->unregisterProgram());
     then();
 }
 
 void PowerMonitor::setLaunchAtLogin(bool enabled) {
     launchAtLogin = enabled;
-    platform_.preferences.setFlag("launchAtLogin", enabled);
-    auto& item = platform_.loginItem;
+    platform_.preferences->setFlag(preference_keys::launchAtLogin, enabled);
+    auto& item = *platform_.loginItem;
     static_cast<void>(enabled ? item.registerProgram() : item.unregisterProgram());
 }
 

@@ -5,11 +5,12 @@
 #include "helper/daemon_config.h"
 #include "helper/daemon_status.h"
 #include "monitor/power_monitor.h"
+#include "monitor/preference_keys.h"
 
 namespace quelby {
 
 void PowerMonitor::loadDaemonConfig() {
-    const auto text = platform_.helperFolder.config();
+    const auto text = platform_.helperFolder->config();
     const auto config = text ? decodeDaemonConfig(*text) : std::nullopt;
     if (!config) {
         return;
@@ -23,24 +24,23 @@ void PowerMonitor::loadDaemonConfig() {
     }
 }
 
-void PowerMonitor::writeDaemonConfig() {
+Result<void> PowerMonitor::writeDaemonConfig() {
     const auto text = encode(DaemonConfig{.chargeLimitEnabled = chargeLimitEnabled,
                                           .chargeLimitPercent = truncated(chargeLimitPercent),
                                           .calibrationEnabled = calibrationEnabled,
                                           .calibrationIntervalDays = calibrationIntervalDays,
                                           .lastCalibrationTimestamp = lastCalibrationDate.get().value_or(0)});
-    if (text) {
-        platform_.helperFolder.replaceConfig(*text);
-    }
+    return text ? platform_.helperFolder->replaceConfig(*text)
+                : problem("the last calibration has no time that the helper could be told");
 }
 
 void PowerMonitor::checkDaemonInstalled() {
-    daemonInstalled = platform_.serviceManager.isHelperLoaded();
+    daemonInstalled = platform_.helperInstaller->isLoaded();
 }
 
 // A helper that no longer writes leaves its last words standing: how old they are is not looked at.
 void PowerMonitor::readDaemonStatus() {
-    const auto text = platform_.helperFolder.status();
+    const auto text = platform_.helperFolder->status();
     auto status = text ? decodeDaemonStatus(*text) : std::nullopt;
     if (!status) {
         return;
@@ -57,26 +57,25 @@ void PowerMonitor::readDaemonStatus() {
                                                    .chargeLimitPercent = chargeLimitPercent});
 }
 
-void PowerMonitor::toggleChargeLimit(bool enabled) {
-    constexpr std::string_view tipShown = "hasShownChargingTip";
+Result<void> PowerMonitor::toggleChargeLimit(bool enabled) {
     chargeLimitEnabled = enabled;
-    writeDaemonConfig();
-    if (!enabled || platform_.preferences.flag(tipShown)) {
-        return;
+    auto told = writeDaemonConfig();
+    if (enabled && !platform_.preferences->flag(preference_keys::hasShownChargingTip)) {
+        platform_.preferences->setFlag(preference_keys::hasShownChargingTip, true);
+        shouldShowChargingTip = true;
     }
-    platform_.preferences.setFlag(tipShown, true);
-    shouldShowChargingTip = true;
+    return told;
 }
 
-void PowerMonitor::setChargeLimit(double percent) {
+Result<void> PowerMonitor::setChargeLimit(double percent) {
     chargeLimitPercent = percent;
-    writeDaemonConfig();
+    return writeDaemonConfig();
 }
 
-void PowerMonitor::updateCalibrationSettings(bool enabled, Int days) {
+Result<void> PowerMonitor::updateCalibrationSettings(bool enabled, Int days) {
     calibrationEnabled = enabled;
     calibrationIntervalDays = days;
-    writeDaemonConfig();
+    return writeDaemonConfig();
 }
 
 } // namespace quelby

@@ -3,6 +3,7 @@
 #include "monitor/battery_reading.h"
 #include "monitor/component_power.h"
 #include "monitor/cpu_usage.h"
+#include "monitor/preference_keys.h"
 #include "monitor/top_processes.h"
 
 namespace quelby {
@@ -14,8 +15,8 @@ std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, con
 PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptions& options)
     : platform_(platform)
     , options_(options)
-    , storeDisplay_(menuBarDisplay.observe([preferences = &platform_.preferences](MenuBarDisplay coming) {
-        preferences->setText("menuBarDisplay", rawValue(coming));
+    , storeDisplay_(menuBarDisplay.observe([preferences = platform_.preferences](MenuBarDisplay coming) {
+        preferences->setText(preference_keys::menuBarDisplay, rawValue(coming));
     })) {}
 
 void PowerMonitor::startMonitoring() {
@@ -35,17 +36,25 @@ void PowerMonitor::stopMonitoring() {
 }
 
 void PowerMonitor::restorePreferences() {
-    const auto stored = platform_.preferences.text("menuBarDisplay");
+    const auto stored = platform_.preferences->text(preference_keys::menuBarDisplay);
     if (const auto display = stored ? quelby::menuBarDisplay(*stored) : std::nullopt) {
         menuBarDisplay = *display;
     }
-    launchAtLogin = platform_.preferences.flag("launchAtLogin");
+    launchAtLogin = platform_.preferences->flag(preference_keys::launchAtLogin);
 }
 
 void PowerMonitor::openHistory() {
     historyStore_.reset(); // before its successor opens the same file
     if (options_.history) {
-        historyStore_.emplace(platform_.folders.applicationSupport(), platform_.clock, *options_.history);
+        historyStore_.emplace(platform_.folders->applicationSupport(), *platform_.clock, *options_.history);
+    }
+}
+
+void PowerMonitor::takeOverHistory() {
+    const bool reads = options_.history == HistoryAccess::readOnly;
+    if (reads && options_.mayRecordNow && options_.mayRecordNow()) {
+        options_.history = HistoryAccess::recording;
+        openHistory();
     }
 }
 
@@ -67,7 +76,7 @@ void PowerMonitor::selectHistoryRange(TimeRange range) {
 }
 
 void PowerMonitor::scheduleCycles() {
-    dataTimer_ = platform_.runLoop.repeat(options_.interval, [weak = weak_from_this()] {
+    dataTimer_ = platform_.runLoop->repeat(options_.interval, [weak = weak_from_this()] {
         if (const auto monitor = weak.lock()) {
             monitor->collectAllData();
         }
@@ -90,25 +99,25 @@ void PowerMonitor::collectAllData() {
 }
 
 void PowerMonitor::readBatteryIOKit() {
-    publishBatteryReading(platform_.battery.readBattery(), *this);
+    publishBatteryReading(platform_.battery->readBattery(), *this);
 }
 
 void PowerMonitor::readCPUUsage() {
-    const auto listing = platform_.processes.cpuListing();
+    const auto listing = platform_.processes->cpuListing();
     if (!listing) {
         return;
     }
-    if (const auto usage = quelby::cpuUsage(*listing, platform_.processes.logicalProcessors())) {
+    if (const auto usage = quelby::cpuUsage(*listing, platform_.processes->logicalProcessors())) {
         cpuUsage = *usage;
     }
 }
 
 void PowerMonitor::calculatePower() {
-    quelby::calculatePower(*this, platform_.storageDraw);
+    quelby::calculatePower(*this, *platform_.storageDraw);
 }
 
 void PowerMonitor::readTopProcesses() {
-    const auto listing = platform_.processes.topListing();
+    const auto listing = platform_.processes->topListing();
     if (!listing) {
         return;
     }
@@ -118,7 +127,7 @@ void PowerMonitor::readTopProcesses() {
 }
 
 void PowerMonitor::sampleBattery() {
-    quelby::sampleBattery(batteryRecord_, platform_.clock.now(), batteryPercent);
+    quelby::sampleBattery(batteryRecord_, platform_.clock->now(), batteryPercent);
 }
 
 void PowerMonitor::predictBattery() {
@@ -126,6 +135,7 @@ void PowerMonitor::predictBattery() {
 }
 
 void PowerMonitor::recordReading() {
+    takeOverHistory();
     if (historyStore_) {
         historyStore_->addReading(totalPower, batteryPercent, isCharging, cpuUsage);
     }

@@ -1,7 +1,8 @@
 // The one object at the centre: it holds the published fields and, while it is monitoring, renews them in a
 // cycle every 3 seconds.
 //
-// No step of a cycle reports an error: a reader that cannot get its data leaves its fields as they were.
+// No step of a cycle reports an error: a reader that cannot get its data leaves its fields as they were. What
+// a person asks for says whether it was done; the monitor itself shows and logs nothing.
 // Everything runs on the main thread, in the run loop of the platform, and observers are called there.
 #pragma once
 
@@ -9,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+#include "base/cycle_interval.h"
 #include "history/history_store.h"
 #include "monitor/battery_prediction.h"
 #include "monitor/published_fields.h"
@@ -17,8 +19,11 @@
 namespace quelby {
 
 struct MonitorOptions {
-    std::chrono::duration<double> interval = std::chrono::seconds(3); // from one cycle to the next
+    std::chrono::duration<double> interval = cycleInterval; // from one cycle to the next
     std::optional<HistoryAccess> history; // none: no history. Two recorders would count energy twice.
+
+    // Asked once a cycle while the history is only read: whether to record from now on. None: never.
+    std::function<bool()> mayRecordNow;
 };
 
 class PowerMonitor : public PublishedFields, public std::enable_shared_from_this<PowerMonitor> {
@@ -42,22 +47,26 @@ public:
     // No further cycles; the fields keep their values. Harmless when nothing runs.
     void stopMonitoring();
 
-    // Switches the limit, and tells the helper. The first time that it is switched on, ever, the charging tip
-    // is to be shown.
-    void toggleChargeLimit(bool enabled);
+    // Each of the next three keeps the setting and tells the helper. The problem is that it could not be
+    // told; the setting holds nevertheless.
 
-    // % of full charge; tells the helper.
-    void setChargeLimit(double percent);
+    // The first time that the limit is switched on, ever, the charging tip is to be shown.
+    [[nodiscard]] Result<void> toggleChargeLimit(bool enabled);
 
-    // Tells the helper.
-    void updateCalibrationSettings(bool enabled, Int days);
+    // In % of full charge.
+    [[nodiscard]] Result<void> setChargeLimit(double percent);
+
+    // The days are those from one calibration to the next.
+    [[nodiscard]] Result<void> updateCalibrationSettings(bool enabled, Int days);
 
     // Asks for the administrator's password, and waits for it. A helper that was installed gets the settings
-    // at once; where it was not, nothing changes.
-    void installDaemon();
+    // at once. The problem is that it was not installed, and then nothing changes, or that it could not be
+    // told.
+    [[nodiscard]] Result<void> installDaemon();
 
-    // Likewise. The limit is off afterwards; the other settings stay in memory.
-    void uninstallDaemon();
+    // Asks and waits as well. The limit is off afterwards; the other settings stay in memory. The problem is
+    // that the helper was not removed, and then nothing changes.
+    [[nodiscard]] Result<void> uninstallDaemon();
 
     // Removes the helper, if the user agrees, the history, all preferences, the start at login and the
     // program itself, and calls `then` at the end, whatever could not be removed.
@@ -76,9 +85,10 @@ private:
     void restorePreferences();
     void loadDaemonConfig();
     void checkDaemonInstalled();
-    void writeDaemonConfig();
+    [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();
     void openHistory();
+    void takeOverHistory();
     void loadHistory();
     void scheduleCycles();
     void collectAllData();

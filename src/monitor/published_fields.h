@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/date.h"
 #include "history/history_data_point.h"
 #include "history/time_range.h"
 #include "monitor/menu_bar_display.h"
@@ -19,7 +20,6 @@
 namespace quelby {
 
 using Int = std::int64_t;
-using Date = double; // seconds since 1970-01-01 00:00 UTC
 
 // FIELD(type, name, default, unit), in the order in which they are shown everywhere.
 #define QUELBY_PUBLISHED_FIELDS(FIELD)                                                                       \

@@ -9,19 +9,24 @@
 
 namespace quelby {
 
-// Text keys to integers and Booleans. A key that the battery cannot answer is absent, never 0. The keys that
-// the monitor reads, after the property table that macOS publishes for a battery:
+// Text keys to integers and Booleans. A key that the battery cannot answer is absent, and 0 only where
+// absence would let another key speak in its place. The keys that the monitor reads, after the property table
+// that macOS publishes for a battery:
 //
 //   DesignCapacity          mAh, when new
 //   AppleRawMaxCapacity     mAh, full at present
-//   AppleRawCurrentCapacity mAh, remaining
+//   AppleRawCurrentCapacity mAh, remaining; 0 where only the percentage is known
 //   MaxCapacity             mAh or %, where the raw value is missing
-//   CurrentCapacity         mAh or %, likewise
+//   CurrentCapacity         mAh or %, where the raw value is missing
 //   CycleCount              charge cycles
-//   IsCharging, ExternalConnected, FullyCharged
-//   InstantAmperage         mA, negative while discharging; above 30000 it is taken for a negative number in
-//   16 bits Voltage                 mV Temperature             hundredths of a degree Celsius TimeRemaining
-//   minutes to empty or to full, by the system's own estimate
+//   IsCharging              Boolean, as are the next two
+//   ExternalConnected
+//   FullyCharged
+//   InstantAmperage         mA, negative while discharging; above 30000: a negative number in 16 bits
+//   Voltage                 mV
+//   Temperature             hundredths of a degree Celsius
+//   TimeRemaining           minutes to empty or to full, by the system's own estimate
+//
 using PropertyValue = std::variant<bool, std::int64_t>;
 using PropertyTable = std::map<std::string, PropertyValue, std::less<>>;
 

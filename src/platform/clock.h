@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/date.h"
+
 namespace quelby {
 
 // The wall clock; it may jump in both directions.
@@ -7,11 +9,10 @@ class Clock {
 public:
     virtual ~Clock() = default;
 
-    // Seconds since 1970-01-01 00:00 UTC.
-    [[nodiscard]] virtual double now() = 0;
+    [[nodiscard]] virtual Date now() = 0;
 
-    // The start of the current day in the user's time zone, in seconds since 1970-01-01 00:00 UTC.
-    [[nodiscard]] virtual double startOfDay() = 0;
+    // The start of the current day in the user's time zone.
+    [[nodiscard]] virtual Date startOfDay() = 0;
 };
 
 } // namespace quelby

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/problem.h"
+
 namespace quelby {
 
 // The two files that the program shares with the charge-limit helper. The helper replaces status.json at any
@@ -16,8 +18,8 @@ public:
     [[nodiscard]] virtual std::optional<std::string> config() = 0;
     [[nodiscard]] virtual std::optional<std::string> status() = 0;
 
-    // Makes the folder where it is missing; a failure is silent.
-    virtual void replaceConfig(std::string_view text) = 0;
+    // Makes the folder where it is missing. The problem names the folder that cannot be written to.
+    [[nodiscard]] virtual Result<void> replaceConfig(std::string_view text) = 0;
 };
 
 } // namespace quelby

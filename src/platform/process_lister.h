@@ -13,12 +13,13 @@ public:
     virtual ~ProcessLister() = default;
 
     // A heading line, then the share of every process of every user, a line each. Nothing while
-    // the processes cannot be read. The cycle asks for this listing first: an implementation may take one
-    // look at the processes here and answer topListing() from the same look.
+    // the processes cannot be read. The cycle asks for this listing first: an implementation may scan the
+    // processes here and answer topListing() from the same scan.
     [[nodiscard]] virtual std::optional<std::string> cpuListing() = 0;
 
     // A heading line, then a line for each process, the highest share first: the share, a blank, the
-    // executable's short name (no folder, no arguments; blanks are possible). Nothing as above.
+    // executable's short name (no folder, no arguments; blanks are possible). Nothing while
+    // the processes cannot be read.
     [[nodiscard]] virtual std::optional<std::string> topListing() = 0;
 
     // Configured logical processors, sleeping ones included; at least 1.

@@ -6,6 +6,7 @@
 
 #include "support/fake_desktop.h"
 #include "support/fake_platform.h"
+#include "ui/presentation/text/menu_bar_title.h"
 
 namespace quelby::app {
 namespace {
@@ -62,17 +63,10 @@ struct LoggedLoop final : RunLoop {
 class AppDelegateTest : public testing::Test {
 protected:
     [[nodiscard]] Platform platform() {
-        return {.battery = battery,
-                .processes = computer.processes,
-                .clock = computer.clock,
-                .folders = computer.folders,
-                .helperFolder = computer.helper,
-                .loginItem = computer.login,
-                .runLoop = runLoop,
-                .preferences = computer.preferences,
-                .privilegedShell = computer.administrator,
-                .serviceManager = computer.services,
-                .storageDraw = computer.storageDraw};
+        auto platform = computer.platform();
+        platform.battery = battery;
+        platform.runLoop = runLoop;
+        return platform;
     }
 
     void launch() {
@@ -112,7 +106,7 @@ TEST_F(AppDelegateTest, SharesItsMonitorWithThePopover) {
     desktop.monitor->totalPower = 41.4;
     delegate->updateMenuBar();
     EXPECT_EQ(desktop.item->title, " 41W");
-    EXPECT_EQ(desktop.item->toolTip, "no battery, 41.4 W");
+    EXPECT_EQ(desktop.item->toolTip, menuBarToolTip(*desktop.monitor));
 }
 
 TEST_F(AppDelegateTest, WiresNothingWhereThereIsNoButton) {
@@ -192,7 +186,7 @@ TEST_F(AppDelegateTest, StopsTheMonitorBeforeItEndsTheProgram) {
     EXPECT_THAT(runLoop.loop.intervals(), IsEmpty());
 }
 
-TEST_F(AppDelegateTest, QuitsFromTheMenuOfTheItemLikewise) {
+TEST_F(AppDelegateTest, QuitsFromTheMenuOfTheItem) {
     launch();
     desktop.item->actions.quit();
     EXPECT_THAT(calls(), ElementsAre("stop the timer of 3 s", "terminate"));
@@ -236,10 +230,10 @@ TEST_F(AppDelegateTest, ScrollsThroughTheDisplaysAroundBothEnds) {
     EXPECT_EQ(after(15), MenuBarDisplay::percentage);
 }
 
-// Everything that may still call after the delegate is gone. The item is kept here, as a desktop may keep it.
+// Everything that may still call after the delegate is gone, among it the item, which is the desktop's.
 TEST_F(AppDelegateTest, DoesNothingAnyMoreOnceItIsGone) {
     launch();
-    const auto actions = desktop.item->actions;
+    const auto& actions = desktop.item->actions;
     const auto monitor = desktop.monitor;
     monitor->onUpdate();
     delegate.reset();

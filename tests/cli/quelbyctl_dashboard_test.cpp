@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/golden.h"
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
 #include "support/temporary_folder.h"
@@ -41,11 +42,11 @@ protected:
     std::string recording = folder.write("it.jsonl", laptopRecording(4));
 };
 
-TEST_F(QuelbyctlDashboardText, HoldsNoEscapeSequencesInAFile) {
+TEST_F(QuelbyctlDashboardText, IsAPageWithoutEscapeSequencesInAFile) {
     const auto result = quelbyctl({"dashboard", "--replay", recording});
     EXPECT_EQ(result.exitStatus, 0);
-    EXPECT_THAT(result.output, AllOf(HasSubstr("Battery Drain"), HasSubstr("77%"), HasSubstr("editor"),
-                                     HasSubstr("Live Power Trend"), Not(HasSubstr("\x1b"))));
+    EXPECT_THAT(result.output, Not(HasSubstr("\x1b")));
+    expectGolden(result.output, "data/pages/dashboard.txt");
 }
 
 TEST_F(QuelbyctlDashboardText, IsColouredAndAsWideAsTheTerminal) {
@@ -61,8 +62,7 @@ TEST_F(QuelbyctlDashboardText, IsColouredAndAsWideAsTheTerminal) {
 
 TEST_F(QuelbyctlDashboardText, ShowsTheSettingsAsWell) {
     const auto result = quelbyctl({"dashboard", "--view", "settings", "--replay", recording});
-    EXPECT_THAT(result.output, AllOf(HasSubstr("Launch at Login"), HasSubstr("Uninstall Quelby"),
-                                     HasSubstr("Quelby v1.0"), Not(HasSubstr("Battery Drain"))));
+    expectGolden(result.output, "data/pages/settings.txt");
 }
 
 TEST_F(QuelbyctlDashboardText, SpeaksOfDatesInTheUsersLanguage) {
@@ -72,7 +72,8 @@ TEST_F(QuelbyctlDashboardText, SpeaksOfDatesInTheUsersLanguage) {
     const auto result = quelbyctl(
         {"dashboard", "--view", "settings", "--replay", recording, "--config-dir", folder.path().string()},
         {{"LC_ALL", "de_DE.UTF-8"}});
-    EXPECT_THAT(result.output, AllOf(HasSubstr("Last: vor 3 Tagen"), HasSubstr("Next: in 2 Wochen")));
+    EXPECT_THAT(result.output,
+                AllOf(HasSubstr("vor 3 Tagen"), HasSubstr("in 1 Woche"), Not(HasSubstr("Wochen"))));
 }
 
 TEST_F(QuelbyctlDashboardText, RefusesAViewThatThereIsNot) {

@@ -26,15 +26,6 @@ protected:
         return quelbyctl(more);
     }
 
-    [[nodiscard]] std::vector<std::string> filesBesideTheHistory() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder.path() / "Quelby")) {
-            names.push_back(entry.path().filename());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
     TemporaryFolder folder;
     std::string recording = folder.write("it.jsonl", laptopRecording(5));
     std::filesystem::path database = folder.path() / "Quelby" / "history.db";
@@ -110,11 +101,11 @@ TEST_F(QuelbyctlHistory, OfAnEmptyFileIsEmpty) {
 TEST_F(QuelbyctlHistory, LeavesFileAndFolderAsTheyAre) {
     record();
     const auto before = folder.read("Quelby/history.db");
-    const auto files = filesBesideTheHistory();
+    const auto files = folder.names("Quelby");
     EXPECT_EQ(history().exitStatus, 0);
     EXPECT_EQ(quelbyctl({"status", "--data-dir", folder.path(), "--replay", recording}).exitStatus, 0);
     EXPECT_EQ(folder.read("Quelby/history.db"), before);
-    EXPECT_EQ(filesBesideTheHistory(), files);
+    EXPECT_EQ(folder.names("Quelby"), files);
 }
 
 TEST_F(QuelbyctlHistory, StandsInTheStatusAsWell) {

@@ -11,6 +11,7 @@ namespace {
 
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 class QuelbyctlLimit : public testing::Test {
 protected:
@@ -58,6 +59,17 @@ TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
                  R"("batteryPercent":80,"lastUpdate":0})");
     EXPECT_EQ(ctl({"limit", "on"}).output, "charge limit on, 80%: Holding at 80%\n");
     EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\n");
+}
+
+TEST_F(QuelbyctlLimit, TakesTheSettingsOfARecordingWhereTheFolderHasNone) {
+    recording = QUELBY_SOURCE_DIR "/resources/recordings/laptop-held-at-limit.jsonl";
+    EXPECT_EQ(quelbyctl({"limit", "--replay", recording}).output, "charge limit on, 80%: Holding at 80%\n");
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 80%: Holding at 80%\n");
+    EXPECT_EQ(ctl({"limit", "90"}).exitStatus, 0);
+    EXPECT_EQ(config()["chargeLimitEnabled"], true) << "as it was recorded";
+    EXPECT_EQ(config()["chargeLimitPercent"], 90);
+    EXPECT_THAT(ctl({"limit", "off"}).output, StartsWith("charge limit off, 90%"))
+        << "the folder goes before";
 }
 
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {

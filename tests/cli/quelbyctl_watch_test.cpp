@@ -5,9 +5,11 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "support/golden.h"
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
 #include "support/temporary_folder.h"
+#include "ui/presentation/dashboard.h"
 
 namespace quelby {
 namespace {
@@ -39,17 +41,15 @@ protected:
 
     TemporaryFolder folder;
     std::string recording = folder.write("it.jsonl", laptopRecording(4));
+    PublishedFields laptopOnBattery;
+    Dashboard said = dashboard(laptopOnBattery, 0, linuxWords);
 };
 
 TEST_F(QuelbyctlWatch, PrintsALineForEachCycleWhereThereIsNoTerminal) {
     const auto result = quelbyctl({"watch", "--fast", "--replay", recording});
     EXPECT_EQ(result.exitStatus, 0);
     EXPECT_THAT(result.errors, IsEmpty());
-    EXPECT_EQ(result.output,
-              "22:13:20  80 % discharging, collecting data...  12.0 W  CPU 20.0 %, editor 30.0 %\n"
-              "22:13:50  79 % discharging, collecting data...  12.0 W  CPU 20.0 %, editor 30.0 %\n"
-              "22:14:20  78 % discharging, ~0h 39m remaining  12.0 W  CPU 20.0 %, editor 30.0 %\n"
-              "22:14:50  77 % discharging, ~0h 38m remaining  12.0 W  CPU 20.0 %, editor 30.0 %\n");
+    expectGolden(result.output, "data/pages/watch.txt");
 }
 
 TEST_F(QuelbyctlWatch, PrintsAnObjectForEachCycleAsJson) {
@@ -85,7 +85,7 @@ TEST_F(QuelbyctlWatch, RedrawsInPlaceInATerminal) {
 
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackOnCtrlC) {
     TerminalProgram program(watching(), 80, 70, plainEnvironment());
-    program.showsUntil("Efficiency");
+    program.showsUntil(said.efficiency.title.text);
     EXPECT_FALSE(program.echoes());
     program.type("\x03");
     const auto result = program.end();
@@ -96,7 +96,7 @@ TEST_F(QuelbyctlWatch, GivesTheTerminalBackOnCtrlC) {
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackHoweverItIsAskedToEnd) {
     for (const int number : {SIGTERM, SIGHUP, SIGQUIT}) {
         TerminalProgram program(watching(), 80, 70, plainEnvironment());
-        program.showsUntil("Efficiency");
+        program.showsUntil(said.efficiency.title.text);
         program.signal(number);
         const auto result = program.end();
         EXPECT_EQ(result.exitStatus, 0);
@@ -107,21 +107,22 @@ TEST_F(QuelbyctlWatch, GivesTheTerminalBackHoweverItIsAskedToEnd) {
 TEST_F(QuelbyctlWatch, FollowsTheTerminalsSize) {
     TerminalProgram program(watching(), 80, 70, withoutColours());
     program.showsUntil("↯ Quelby" + std::string(54, ' ') + "22:13:20");
-    program.showsUntil("Efficiency");
+    program.showsUntil(said.efficiency.title.text);
     program.resize(30, 5);
     program.showsUntil("↯ Quelby" + std::string(12, ' ') + "22:13:20");
     program.signal(SIGTERM);
-    EXPECT_THAT(program.end().output, Not(HasSubstr("Efficiency"))); // five lines have no room for it
+    EXPECT_THAT(program.end().output,
+                Not(HasSubstr(said.efficiency.title.text))); // five lines have no room for it
 }
 
 TEST_F(QuelbyctlWatch, GivesTheTerminalBackWhileItIsStopped) {
     TerminalProgram program(watching(), 80, 70, plainEnvironment());
-    program.showsUntil("Efficiency");
+    program.showsUntil(said.efficiency.title.text);
     program.signal(SIGTSTP);
     program.showsUntil(leaveScreen);
     program.waitUntilStopped();
     program.signal(SIGCONT);
-    const auto again = program.showsUntil("Efficiency");
+    const auto again = program.showsUntil(said.efficiency.title.text);
     EXPECT_THAT(again, HasSubstr(enterScreen));
     EXPECT_FALSE(program.echoes());
     program.signal(SIGTERM);
@@ -168,22 +169,22 @@ TEST_F(QuelbyctlWatch, ExplainsItsKeys) {
     program.type("?");
     program.showsUntil("show or hide this help");
     program.type("?");
-    program.showsUntil("Battery Drain");
+    program.showsUntil(said.powerBadge.caption.text);
     program.type("?");
     program.showsUntil("show or hide this help");
     program.type("\x1b");
-    program.showsUntil("Battery Drain");
+    program.showsUntil(said.powerBadge.caption.text);
 }
 
 TEST_F(QuelbyctlWatch, ScrollsToWhatHasNoRoom) {
     TerminalProgram program(watching(), 60, 20, plainEnvironment());
-    EXPECT_THAT(program.showsUntil("↓ more"), Not(HasSubstr("Battery Details")));
+    EXPECT_THAT(program.showsUntil("↓ more"), Not(HasSubstr(said.details->title.text)));
     program.type("\x1b[F");
-    program.showsUntil("Battery Details");
+    program.showsUntil(said.details->title.text);
     program.type("\x1b[H");
-    program.showsUntil("Charge Limit");
+    program.showsUntil(said.chargeLimit->title.text);
     program.type("\x1b[6~");
-    program.showsUntil("Component Power");
+    program.showsUntil(said.components.title.text);
 }
 
 TEST_F(QuelbyctlWatch, PrintsLinesInATerminalThatCannotRedraw) {

@@ -1,15 +1,12 @@
 // A helper that rewrites its status without pause, in another process, while the status is read.
 
-#include <csignal>
 #include <fstream>
-#include <functional>
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include "platform/posix/helper_files.h"
 #include "record_texts.h"
-#include "support/started.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -18,32 +15,17 @@ namespace {
 const std::string otherText =
     with(with(statusText, R"("calibrationPhase":"Discharging to 15%",)", ""), "42", "7");
 
-// Runs as long as this object; an end of the test ends it as well.
-class RestlessHelper {
-public:
-    explicit RestlessHelper(const std::function<void(const std::string&)>& write) {
-        const pid_t test = ::getpid();
-        process_ = started(::fork());
-        if (process_ == 0) {
-            while (::getppid() == test) {
-                write(statusText);
-                write(otherText);
-            }
-            ::_exit(0);
+// No longer than the test, however that ends.
+template <typename Write>
+ChildProcess restlessHelper(const Write& write) {
+    return ChildProcess([&, test = ::getpid()](FileDescriptor ready) {
+        ready.close();
+        while (::getppid() == test) {
+            write(statusText);
+            write(otherText);
         }
-    }
-
-    RestlessHelper(const RestlessHelper&) = delete;
-    RestlessHelper& operator=(const RestlessHelper&) = delete;
-
-    ~RestlessHelper() {
-        ::kill(process_, SIGKILL);
-        ::waitpid(process_, nullptr, 0);
-    }
-
-private:
-    pid_t process_;
-};
+    });
+}
 
 struct Readings {
     int ofOne = 0;
@@ -76,7 +58,7 @@ Readings readUntilBothAreSeen(HelperFiles& files) {
 TEST(RewrittenStatus, IsAlwaysOneOfThoseThatWereWrittenWhereItIsReplaced) {
     const TemporaryFolder folder;
     const auto file = folder.write("status.json", statusText);
-    const RestlessHelper helper([&](const std::string& text) {
+    const auto helper = restlessHelper([&](const std::string& text) {
         const auto neighbour = file.string() + ".new";
         std::ofstream(neighbour) << text;
         std::filesystem::rename(neighbour, file);
@@ -90,8 +72,8 @@ TEST(RewrittenStatus, IsAlwaysOneOfThoseThatWereWrittenWhereItIsReplaced) {
 TEST(RewrittenStatus, IsOneOfThoseThatWereWrittenOrNoneWhereItIsRewrittenInPlace) {
     const TemporaryFolder folder;
     const auto file = folder.write("status.json", statusText);
-    const RestlessHelper helper(
-        [&](const std::string& text) { std::ofstream(file, std::ios::trunc) << text; });
+    const auto helper =
+        restlessHelper([&](const std::string& text) { std::ofstream(file, std::ios::trunc) << text; });
     HelperFiles files(folder.path());
     EXPECT_TRUE(readUntilBothAreSeen(files).suffice());
 }
@@ -99,7 +81,7 @@ TEST(RewrittenStatus, IsOneOfThoseThatWereWrittenOrNoneWhereItIsRewrittenInPlace
 TEST(RewrittenStatus, IsOneOfThoseThatWereWrittenOrNoneWhereItIsWrittenInPieces) {
     const TemporaryFolder folder;
     const auto file = folder.write("status.json", statusText);
-    const RestlessHelper helper([&](const std::string& text) {
+    const auto helper = restlessHelper([&](const std::string& text) {
         std::ofstream stream(file, std::ios::trunc);
         stream << text.substr(0, 50) << std::flush << text.substr(50);
     });

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {
@@ -10,8 +10,6 @@ using testing::IsEmpty;
 using testing::Pair;
 
 using HistoryAggregation = HistoryTest;
-
-constexpr std::int64_t noonSecond = 1'699'963'200;
 
 TEST_F(HistoryAggregation, RunsWithTheFirstReading) {
     recordAt(noon + 61, 10, 50);

@@ -1,4 +1,4 @@
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {

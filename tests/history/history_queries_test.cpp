@@ -1,13 +1,11 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {
 
 using testing::ElementsAre;
-
-constexpr std::int64_t noonSecond = 1'699'963'200;
 
 class HistoryQueries : public HistoryTest {
 protected:
@@ -68,24 +66,14 @@ TEST_F(HistoryQueries, ReachIntoAFutureThatTheClockHasLeft) {
     EXPECT_EQ(store->loadData(TimeRange::thirtyMinutes).points.size(), 1U);
 }
 
-TEST_F(HistoryQueries, ThinForTheChart) {
-    const std::vector<std::pair<int, std::size_t>> expected = {{300, 300}, {301, 301}, {600, 301},
-                                                               {601, 301}, {900, 301}, {1200, 301}};
-    for (const auto& [rows, points] : expected) {
-        insertReadings(rows);
-        const auto result = store->loadData(TimeRange::oneHour);
-        EXPECT_EQ(result.points.size(), points) << rows << " rows";
-        EXPECT_EQ(result.points.front().id, noonSecond - rows);
-        EXPECT_EQ(result.points.back().id, noonSecond - 1);
-        Database(file).execute("DELETE FROM readings");
-    }
-}
-
-TEST_F(HistoryQueries, TakeTheStatisticsOverTheThinnedPoints) {
+TEST_F(HistoryQueries, ThinForTheChartAndTakeTheStatisticsOverWhatIsLeft) {
     insertReadings(600); // of 0 to 599 W
     Database(file).execute("UPDATE readings SET watts = 1000000 WHERE timestamp % 2 <> " +
                            std::to_string(noonSecond % 2) + " AND watts < 599");
     const auto result = store->loadData(TimeRange::oneHour);
+    EXPECT_EQ(result.points.size(), 301U);
+    EXPECT_EQ(result.points.front().id, noonSecond - 600);
+    EXPECT_EQ(result.points.back().id, noonSecond - 1);
     EXPECT_EQ(result.max, 599);
     EXPECT_EQ(result.min, 0);
     EXPECT_DOUBLE_EQ(result.avg, (299 * 300 + 599) / 301.0);

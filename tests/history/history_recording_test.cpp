@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {
@@ -10,8 +10,6 @@ using testing::IsEmpty;
 using testing::Pair;
 
 using HistoryRecording = HistoryTest;
-
-constexpr std::int64_t noonSecond = 1'699'963'200;
 
 TEST_F(HistoryRecording, KeepsEveryColumnOfAReading) {
     store->addReading(12.5, 79, true, 33.25);
@@ -58,11 +56,7 @@ TEST_F(HistoryRecording, GoesOnWhereTheStoreBeforeEnded) {
 TEST_F(HistoryRecording, IsOverWithTheStoreAndLeavesOneFile) {
     recordAt(noon);
     store.reset();
-    std::vector<std::string> names;
-    for (const auto& entry : std::filesystem::directory_iterator(file.parent_path())) {
-        names.push_back(entry.path().filename());
-    }
-    EXPECT_THAT(names, ElementsAre("history.db"));
+    EXPECT_THAT(folder.names("Quelby"), ElementsAre("history.db"));
 }
 
 TEST_F(HistoryRecording, GoesThroughAWriteAheadLog) {

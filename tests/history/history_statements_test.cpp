@@ -2,8 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "history/history_store.h"
-#include "set_clock.h"
-#include "statement_log.h"
+#include "history/support/set_clock.h"
+#include "history/support/statement_log.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -47,6 +47,7 @@ TEST_F(HistoryStatements, OfAReadingThatAggregatesHaveWholeSecondsAsBounds) {
     EXPECT_THAT(log.take(),
                 ElementsAre("INSERT OR REPLACE INTO readings (timestamp, watts, battery_pct, is_charging, "
                             "cpu_usage) VALUES (1700007200, 12.5, 79, 1, 33.25)",
+                            "BEGIN",
                             "INSERT OR REPLACE INTO minute_avg (timestamp, watts, battery_pct)\n"
                             "SELECT (timestamp / 60) * 60, AVG(watts), AVG(battery_pct)\n"
                             "FROM readings\n"
@@ -59,7 +60,7 @@ TEST_F(HistoryStatements, OfAReadingThatAggregatesHaveWholeSecondsAsBounds) {
                             "GROUP BY timestamp / 3600",
                             "DELETE FROM readings WHERE timestamp < 1700000000;",
                             "DELETE FROM minute_avg WHERE timestamp < 1699834400;",
-                            "DELETE FROM hour_avg WHERE timestamp < 1697415200;"));
+                            "DELETE FROM hour_avg WHERE timestamp < 1697415200;", "COMMIT"));
 }
 
 TEST_F(HistoryStatements, HaveAMinusSignForBoundsBefore1970AndNoneForZero) {
@@ -67,9 +68,9 @@ TEST_F(HistoryStatements, HaveAMinusSignForBoundsBefore1970AndNoneForZero) {
     clock.time = 7200.25;
     store.addReading(10, 50, false, 25);
     const auto statements = log.take();
-    ASSERT_EQ(statements.size(), 6U);
-    EXPECT_EQ(statements[3], "DELETE FROM readings WHERE timestamp < 0;");
-    EXPECT_EQ(statements[4], "DELETE FROM minute_avg WHERE timestamp < -165599;"); // toward zero
+    ASSERT_EQ(statements.size(), 8U);
+    EXPECT_EQ(statements[4], "DELETE FROM readings WHERE timestamp < 0;");
+    EXPECT_EQ(statements[5], "DELETE FROM minute_avg WHERE timestamp < -165599;"); // toward zero
 }
 
 TEST_F(HistoryStatements, OfAReadingWithinTheMinuteAreItsInsertion) {
@@ -80,7 +81,7 @@ TEST_F(HistoryStatements, OfAReadingWithinTheMinuteAreItsInsertion) {
     EXPECT_EQ(log.take().size(), 1U);
     clock.time += 0.25;
     store.addReading(10, 50, false, 25);
-    EXPECT_EQ(log.take().size(), 6U);
+    EXPECT_EQ(log.take().size(), 8U);
 }
 
 TEST_F(HistoryStatements, OfARangeAskForWhatIsLaterThanItsStart) {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
-#include "platform/posix/local_day.h"
+#include "history/support/history_fixture.h"
+#include "platform/local_day.h"
 #include "support/time_zone.h"
 
 namespace quelby {

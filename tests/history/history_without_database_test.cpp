@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "history_fixture.h"
-#include "support/abandoned_handle.h"
+#include "history/support/history_fixture.h"
 
 namespace quelby {
 namespace {
@@ -9,11 +8,6 @@ namespace {
 using testing::SizeIs;
 
 namespace fs = std::filesystem;
-
-HistoryStore storeThatCannotOpen(const fs::path& applicationSupport, Clock& clock) {
-    return abandoningTheHandle(
-        [&] { return HistoryStore(applicationSupport, clock, HistoryAccess::recording); });
-}
 
 void expectNothing(HistoryStore& store) {
     store.addReading(10, 50, false, 25);
@@ -28,7 +22,10 @@ TEST(HistoryWithoutDatabase, RecordsNothingWhereNoFolderCanBeMade) {
     const auto regularFile = folder.write("file", "mine");
     SetClock clock;
     for (const fs::path& support : {regularFile, regularFile / "below", fs::path("/proc/nowhere")}) {
-        auto store = storeThatCannotOpen(support, clock);
+        HistoryStore store(support, clock, HistoryAccess::recording);
+        EXPECT_EQ(store.opened().error().sentence, "cannot open the history \"" +
+                                                       historyFile(support).string() +
+                                                       "\": unable to open database file");
         expectNothing(store);
         EXPECT_FALSE(fs::exists(historyFile(support)));
     }
@@ -39,7 +36,7 @@ TEST(HistoryWithoutDatabase, RecordsNothingWhereAFileIsInTheFoldersPlace) {
     const TemporaryFolder folder;
     SetClock clock;
     folder.write("Quelby", "mine");
-    auto store = storeThatCannotOpen(folder.path(), clock);
+    HistoryStore store(folder.path(), clock, HistoryAccess::recording);
     expectNothing(store);
     EXPECT_EQ(folder.read("Quelby"), "mine");
 }
@@ -48,7 +45,7 @@ TEST(HistoryWithoutDatabase, RecordsNothingWhereAFolderIsInTheFilesPlace) {
     const TemporaryFolder folder;
     SetClock clock;
     fs::create_directories(historyFile(folder.path()));
-    auto store = storeThatCannotOpen(folder.path(), clock);
+    HistoryStore store(folder.path(), clock, HistoryAccess::recording);
     expectNothing(store);
     EXPECT_TRUE(fs::is_empty(historyFile(folder.path())));
 }
@@ -57,8 +54,40 @@ TEST(HistoryWithoutDatabase, IsEmptyForAReaderAndStaysAway) {
     const TemporaryFolder folder;
     SetClock clock;
     HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_THAT(reader.opened().error().sentence, testing::HasSubstr("there is no history yet"));
     expectNothing(reader);
     EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+using HistoryAtRest = HistoryTest;
+
+// At rest it is read as a file that nobody writes to.
+TEST_F(HistoryAtRest, IsLeftByAReaderWhereARecorderBeginsAndTakenUpAgain) {
+    recordAt(noon);
+    store.reset();
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), 1U);
+    for (int readings = 2; readings < 6; ++readings) {
+        openAgain();
+        recordAt(noon + 3 * readings);
+        EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), static_cast<std::size_t>(readings));
+        EXPECT_DOUBLE_EQ(reader.todayWh(), store->todayWh());
+        store.reset();
+        EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), static_cast<std::size_t>(readings));
+    }
+    EXPECT_FALSE(fs::exists(file.string() + "-wal")) << "the recorder was the last to leave";
+}
+
+TEST_F(HistoryAtRest, IsReadAnewWhereAnotherHasTakenItsPlace) {
+    recordEvery(3, noon, noon + 30);
+    HistoryStore reader(folder.path(), clock, HistoryAccess::readOnly);
+    EXPECT_GT(reader.loadData(TimeRange::oneHour).points.size(), 9U);
+    store.reset();
+    fs::remove_all(file.parent_path());
+    EXPECT_THAT(reader.loadData(TimeRange::oneHour).points, testing::IsEmpty());
+    openAgain();
+    recordAt(noon + 60);
+    EXPECT_EQ(reader.loadData(TimeRange::oneHour).points.size(), 1U);
 }
 
 using HistoryWithABadDatabase = HistoryTest;
@@ -92,6 +121,7 @@ TEST_F(HistoryWithABadDatabase, BeginsInAnEmptyFile) {
     store.reset();
     folder.write("Quelby/history.db", "");
     openAgain();
+    EXPECT_TRUE(store->opened());
     recordAt(noon);
     EXPECT_EQ(tables().readings.size(), 1U);
 }
@@ -109,6 +139,22 @@ TEST_F(HistoryWithABadDatabase, SkipsWhatComesWhileAnotherHoldsTheLock) {
     const auto [readings, minutes, hours] = tables();
     EXPECT_THAT(readings, SizeIs(3));
     EXPECT_THAT(minutes, SizeIs(3));
+}
+
+// Without the write-ahead log a reader keeps the recorder from committing.
+TEST_F(HistoryWithABadDatabase, LeavesNothingOpenThatItCouldNotCommit) {
+    recordAt(noon);
+    store.reset();
+    Database other(file);
+    other.execute("PRAGMA journal_mode=DELETE");
+    other.execute("BEGIN; SELECT * FROM readings");
+    openAgain();
+    recordAt(noon + 60);
+    other.execute("COMMIT");
+    recordAt(noon + 63);
+    const auto [readings, minutes, hours] = tables();
+    EXPECT_THAT(readings, SizeIs(2));
+    EXPECT_THAT(minutes, SizeIs(1)); // the run of 12:01 was taken back
 }
 
 TEST_F(HistoryWithABadDatabase, IsReadBesideALock) {

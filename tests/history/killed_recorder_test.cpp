@@ -1,9 +1,11 @@
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <random>
 
 #include "base/number_text.h"
-#include "recorder_fixture.h"
-#include "tables.h"
+#include "history/support/recorder_fixture.h"
+#include "history/support/tables.h"
 
 namespace quelby {
 namespace {
@@ -23,11 +25,11 @@ protected:
     // Starts the recorder, kills it after so many lines, and gives the number of lines that it had printed.
     [[nodiscard]] std::ptrdiff_t linesUntilKilled(double start, std::ptrdiff_t lines) const {
         RunningProgram program(recorder(recording(start, step, linesOfARound), {"--fast"}), environment());
-        program.readLines(lines);
-        const auto killed = program.kill();
+        readLines(program, lines);
+        program.signal(SIGKILL);
+        const auto killed = program.end();
         EXPECT_EQ(killed.exitStatus, 128 + SIGKILL);
-        EXPECT_GE(program.lines(), lines);
-        return program.lines();
+        return lines + std::count(killed.output.begin(), killed.output.end(), '\n');
     }
 
     // As the recorder left it: reading does not tidy up after it.

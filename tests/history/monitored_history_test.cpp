@@ -1,13 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "file_size_limit.h"
 #include "history/history_file.h"
+#include "history/support/tables.h"
 #include "monitor/power_monitor.h"
-#include "support/abandoned_handle.h"
+#include "support/assignments.h"
 #include "support/fake_platform.h"
+#include "support/file_size_limit.h"
 #include "support/temporary_folder.h"
-#include "tables.h"
 
 namespace quelby {
 namespace {
@@ -62,6 +62,11 @@ protected:
     std::shared_ptr<PowerMonitor> monitor;
 };
 
+TEST_F(MonitoredHistory, IsNotTouchedBeforeTheStart) {
+    const auto unstarted = PowerMonitor::create(computer.platform(), {.history = HistoryAccess::recording});
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
 TEST_F(MonitoredHistory, GetsAReadingFromEachCycle) {
     startMonitoring();
     cycle(2);
@@ -72,6 +77,9 @@ TEST_F(MonitoredHistory, GetsAReadingFromEachCycle) {
 TEST_F(MonitoredHistory, IsShownAfterTheFirstCycleAndWhenARangeIsSelected) {
     startMonitoring();
     EXPECT_THAT(monitor->historyData.get(), ElementsAre(HistoryDataPoint{1'700'000'000, 12}));
+    EXPECT_EQ(monitor->historyAvg, 12.0);
+    EXPECT_EQ(monitor->historyMin, 12.0);
+    EXPECT_EQ(monitor->historyMax, 12.0);
     EXPECT_EQ(monitor->todayWh, 12 * 3.0 / 3600);
     cycle(5);
     EXPECT_EQ(monitor->historyData.get().size(), 1U);
@@ -86,29 +94,46 @@ TEST_F(MonitoredHistory, IsShownAfterTheFirstCycleAndWhenARangeIsSelected) {
 
 TEST_F(MonitoredHistory, RenewsItsFieldsInOrder) {
     startMonitoring();
-    std::vector<std::string> order;
-    std::vector<Subscription> subscriptions;
-    forEachField(*monitor, [&](FieldName field, auto& published) {
-        subscriptions.push_back(published.observe(
-            [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
-    });
-    monitor->selectHistoryRange(TimeRange::oneHour);
-    EXPECT_THAT(order, ElementsAre("historyRange", "historyData", "historyAvg", "historyMin", "historyMax",
-                                   "todayWh"));
+    EXPECT_THAT(
+        assignedDuring(*monitor, [this] { monitor->selectHistoryRange(TimeRange::oneHour); }),
+        ElementsAre("historyRange", "historyData", "historyAvg", "historyMin", "historyMax", "todayWh"));
 }
 
 TEST_F(MonitoredHistory, IsEmptyWithoutAConnection) {
     startMonitoring();
     computer.folders.support = "/proc/nowhere";
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
+    int updates = 0;
+    monitor->onUpdate = [&] { ++updates; };
+    monitor->startMonitoring();
+    EXPECT_EQ(updates, 1);
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
     EXPECT_EQ(monitor->historyAvg, 0.0);
     EXPECT_EQ(monitor->historyMin, 0.0);
     EXPECT_EQ(monitor->historyMax, 0.0);
     EXPECT_EQ(monitor->todayWh, 0.0);
+    monitor->todayWh = 5;
     monitor->selectHistoryRange(TimeRange::oneHour);
     EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);
     EXPECT_THAT(monitor->historyData.get(), IsEmpty());
+    EXPECT_EQ(monitor->todayWh, 0.0);
+    expectLivingFields();
+}
+
+TEST_F(MonitoredHistory, IsReadBesideARecorderByAMonitorThatRecordsNothing) {
+    startMonitoring();
+    computer.clock.time += 3;
+    const auto reader = PowerMonitor::create(computer.platform(), {.history = HistoryAccess::readOnly});
+    reader->startMonitoring();
+    EXPECT_EQ(reader->historyData.get().size(), 1U);
+    EXPECT_EQ(readings().size(), 1U);
+}
+
+TEST_F(MonitoredHistory, GoesOnWhenTheMonitorStartsAgain) {
+    startMonitoring();
+    monitor->stopMonitoring();
+    computer.clock.time += 3;
+    monitor->startMonitoring();
+    EXPECT_EQ(monitor->historyData.get().size(), 2U);
 }
 
 TEST_F(MonitoredHistory, HasNothingButItsRangeWithoutAStore) {
@@ -120,6 +145,43 @@ TEST_F(MonitoredHistory, HasNothingButItsRangeWithoutAStore) {
     EXPECT_EQ(monitor->historyAvg, 7.0);
     EXPECT_EQ(monitor->todayWh, 8.0);
     EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(MonitoredHistory, IsRecordedFromTheFirstCycleThatMayRecord) {
+    bool free = false;
+    int questions = 0;
+    monitor =
+        PowerMonitor::create(computer.platform(), {.history = HistoryAccess::readOnly, .mayRecordNow = [&] {
+                                                       ++questions;
+                                                       return free;
+                                                   }});
+    monitor->startMonitoring();
+    cycle(2);
+    EXPECT_EQ(questions, 3);
+    EXPECT_TRUE(fs::is_empty(folder.path())) << "a reader makes nothing";
+    free = true;
+    cycle(2);
+    EXPECT_EQ(questions, 4) << "no more once it records";
+    EXPECT_EQ(readings().size(), 2U);
+    monitor->selectHistoryRange(TimeRange::thirtyMinutes);
+    EXPECT_EQ(monitor->historyData.get().size(), 2U);
+}
+
+TEST_F(MonitoredHistory, IsOnlyReadForEverWhereNobodySaysOtherwise) {
+    startMonitoring(HistoryAccess::readOnly);
+    cycle(2);
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+}
+
+TEST_F(MonitoredHistory, OfAReaderIsWhatARecorderHasBegunSince) {
+    startMonitoring(HistoryAccess::readOnly);
+    const auto reader = monitor;
+    EXPECT_THAT(reader->historyData.get(), IsEmpty());
+    startMonitoring(HistoryAccess::recording);
+    monitor->stopMonitoring();
+    reader->selectHistoryRange(TimeRange::thirtyMinutes);
+    EXPECT_THAT(reader->historyData.get(), ElementsAre(HistoryDataPoint{1'700'000'000, 12}));
+    EXPECT_GT(reader->todayWh, 0.0);
 }
 
 TEST_F(MonitoredHistory, GoesOnAfterAFullDiskHasRoomAgain) {
@@ -163,7 +225,7 @@ TEST_F(MonitoredHistory, LeavesAFileInItsFoldersPlaceAsItIs) {
     fs::remove_all(folder.path() / "Quelby");
     folder.write("Quelby", "mine");
     expectLivingFields();
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
+    monitor->startMonitoring();
     expectLivingFields();
     EXPECT_EQ(folder.read("Quelby"), "mine");
 }

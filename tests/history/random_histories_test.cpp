@@ -6,8 +6,8 @@
 
 #include "history/history_file.h"
 #include "history/history_store.h"
-#include "history_model.h"
-#include "set_clock.h"
+#include "history/support/history_model.h"
+#include "history/support/set_clock.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {

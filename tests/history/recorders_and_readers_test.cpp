@@ -1,7 +1,9 @@
+#include <csignal>
+
 #include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
-#include "recorder_fixture.h"
+#include "history/support/recorder_fixture.h"
 
 namespace quelby {
 namespace {
@@ -13,7 +15,7 @@ using Recorders = RecorderTest;
 TEST_F(Recorders, AreOneForEachFolder) {
     const auto machine = recording(firstTime, 3, 5);
     RunningProgram first(recorder(machine), environment()); // at the pace of a living machine, so it stays
-    first.readLines(1);
+    readLines(first, 1);
     const auto second = runProgram(recorder(machine, {"--fast"}));
     EXPECT_EQ(second.exitStatus, 1);
     EXPECT_THAT(second.output, IsEmpty());
@@ -28,8 +30,9 @@ TEST_F(Recorders, AreOneForEachFolder) {
 TEST_F(Recorders, TakeOverFromOneThatWasKilled) {
     const auto machine = recording(firstTime, 3, 5);
     RunningProgram first(recorder(machine), environment());
-    first.readLines(1);
-    EXPECT_EQ(first.kill().exitStatus, 128 + SIGKILL);
+    readLines(first, 1);
+    first.signal(SIGKILL);
+    EXPECT_EQ(first.end().exitStatus, 128 + SIGKILL);
     const auto second = runProgram(recorder(machine, {"--fast"}));
     EXPECT_EQ(second.exitStatus, 0);
     EXPECT_THAT(second.errors, IsEmpty());
@@ -51,18 +54,19 @@ TEST_F(HistoryReaders, SeeEveryReadingThatTheRecorderHasPrinted) {
     constexpr int lines = 2000;
     constexpr double readingWh = 12 * 3.0 / 3600;
     RunningProgram program(recorder(recording(firstTime, 3, lines), {"--fast"}), environment());
-    for (int printed = 1; printed < 600; printed += 100) {
-        program.readLines(printed);
+    int printed = 0;
+    for (const int more : {1, 100, 100, 100, 100, 100}) {
+        readLines(program, more);
+        printed += more;
         for (const auto* command : {"history", "status"}) {
-            const auto known = static_cast<double>(program.lines());
             const auto object = answer(command);
             ASSERT_TRUE(object.is_object()) << command;
-            EXPECT_GE(object["todayWh"].get<double>(), known * readingWh - 1e-9) << command;
+            EXPECT_GE(object["todayWh"].get<double>(), printed * readingWh - 1e-9) << command;
             EXPECT_LE(object["todayWh"].get<double>(), lines * readingWh) << command;
         }
     }
-    program.readLines(lines);
-    EXPECT_EQ(program.lines(), lines);
+    readLines(program, lines - printed);
+    EXPECT_EQ(program.end().output, "");
 }
 
 } // namespace

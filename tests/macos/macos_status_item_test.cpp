@@ -4,6 +4,7 @@
 
 #include "macos/doubles/app_kit.h"
 #include "macos/doubles/frameworks.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 namespace {
@@ -87,7 +88,7 @@ TEST_F(MacosStatusItemTest, TogglesWhenItIsPressed) {
 TEST_F(MacosStatusItemTest, OpensItsMenuOnASecondaryPressOrWithControl) {
     const auto item = wiredItem();
     item->setDisplay(MenuBarDisplay::voltage);
-    const std::vector<fake::MenuRow> rows{{"Show Dashboard"},
+    const std::vector<fake::MenuRow> rows{{std::string(words::showDashboard)},
                                           {""},
                                           {"Power (W)"},
                                           {"Battery %"},
@@ -96,8 +97,8 @@ TEST_F(MacosStatusItemTest, OpensItsMenuOnASecondaryPressOrWithControl) {
                                           {"Temperature"},
                                           {"Icon Only"},
                                           {""},
-                                          {"Settings"},
-                                          {"Quit Quelby"}};
+                                          {std::string(words::settings)},
+                                          {std::string(words::quit)}};
     for (const auto how : {Press::secondary, Press::primaryWithControl}) {
         appKit().menu.clear();
         fake::press(how);
@@ -123,7 +124,8 @@ TEST_F(MacosStatusItemTest, OpensItsMenuBelowItselfWhicheverWayTheViewCounts) {
 
 TEST_F(MacosStatusItemTest, DoesWhatIsChosenInItsMenu) {
     const auto item = wiredItem();
-    for (const auto* const row : {"Show Dashboard", "Settings", "Quit Quelby", "Power (W)", "Icon Only"}) {
+    for (const auto row : {words::showDashboard, words::settings, words::quit,
+                           rawValue(MenuBarDisplay::watts), rawValue(MenuBarDisplay::iconOnly)}) {
         appKit().choice = row;
         fake::press(Press::secondary);
     }
@@ -168,7 +170,7 @@ TEST_F(MacosStatusItemTest, LeavesNoObjectBehind) {
         item->setTitle(" 13W");
         item->setToolTip("80%");
         item->setActions(recordedActions());
-        appKit().choice = "Settings";
+        appKit().choice = words::settings;
         fake::press(Press::secondary);
         fake::press(Press::primary);
     };

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/assignments.h"
+
 namespace quelby {
 namespace {
 
@@ -119,17 +121,14 @@ TEST_F(BatteryPredictionTest, TakesASecondForTheLeastSpan) {
 }
 
 TEST_F(BatteryPredictionTest, WritesTheRateFirstWhereThereIsOneAndThePredictionFirstElsewhere) {
-    std::string order;
-    const auto time = fields.predictedTime.observe([&](const auto&) { order += "time "; });
-    const auto rate = fields.batteryRateStr.observe([&](const auto&) { order += "rate "; });
-    predict(BatteryRecord{});
-    EXPECT_EQ(std::exchange(order, ""), "time rate ");
-    predict(50, 50, 600, 50);
-    EXPECT_EQ(std::exchange(order, ""), "time rate ");
-    predict(50, 55, 600, 55);
-    EXPECT_EQ(std::exchange(order, ""), "rate time ");
-    predict(55, 50, 600, 50);
-    EXPECT_EQ(std::exchange(order, ""), "rate time ");
+    const auto between = [this](Int first, Int last) {
+        return assignedDuring(fields, [&] { predict(first, last, 600, last); });
+    };
+    EXPECT_THAT(assignedDuring(fields, [this] { predict(BatteryRecord{}); }),
+                ElementsAre("predictedTime", "batteryRateStr"));
+    EXPECT_THAT(between(50, 50), ElementsAre("batteryPercent", "predictedTime", "batteryRateStr"));
+    EXPECT_THAT(between(50, 55), ElementsAre("batteryPercent", "batteryRateStr", "predictedTime"));
+    EXPECT_THAT(between(55, 50), ElementsAre("batteryPercent", "batteryRateStr", "predictedTime"));
 }
 
 } // namespace

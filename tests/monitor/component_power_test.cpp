@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/assignments.h"
 #include "support/fake_platform.h"
 
 namespace quelby {
@@ -147,30 +148,16 @@ TEST_F(ComponentPowerTest, RemovesOneOldEntryACycle) {
     EXPECT_EQ(fields.powerHistory.get().size(), 70U);
 }
 
-class AssignmentOrder : public ComponentPowerTest {
-protected:
-    std::vector<std::string> ofOneCalculation() {
-        std::vector<std::string> order;
-        std::vector<Subscription> subscriptions;
-        forEachField(fields, [&](FieldName field, auto& published) {
-            subscriptions.push_back(published.observe(
-                [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
-        });
-        calculate();
-        return order;
-    }
-};
-
-TEST_F(AssignmentOrder, OfAMeasurementStartsWithTheTotal) {
+TEST_F(ComponentPowerTest, OfAMeasurementIsAssignedFromTheTotalOn) {
     fields.realWatts = 12.0;
-    EXPECT_THAT(ofOneCalculation(),
+    EXPECT_THAT(assignedDuring(fields, [this] { calculate(); }),
                 ElementsAre("totalPower", "cpuPower", "gpuPower", "memPower", "diskPower", "netPower",
                             "chargePower", "acTotal", "efficiency", "powerHistory"));
 }
 
-TEST_F(AssignmentOrder, OfAnEstimateHasTheTotalAfterTheComponents) {
+TEST_F(ComponentPowerTest, OfAnEstimateIsAssignedWithTheTotalAfterTheComponents) {
     fields.isPluggedIn = true;
-    EXPECT_THAT(ofOneCalculation(),
+    EXPECT_THAT(assignedDuring(fields, [this] { calculate(); }),
                 ElementsAre("cpuPower", "gpuPower", "memPower", "diskPower", "netPower", "totalPower",
                             "chargePower", "acTotal", "efficiency", "powerHistory"));
 }

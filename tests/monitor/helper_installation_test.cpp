@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include "helper/daemon_config.h"
-#include "helper/system_scripts.h"
 #include "monitor/power_monitor.h"
 #include "support/fake_platform.h"
 #include "support/temporary_folder.h"
@@ -15,36 +14,32 @@ using testing::IsEmpty;
 
 class HelperInstallation : public testing::Test {
 protected:
-    HelperInstallation() {
-        computer.folders.support = folder.path();
-        computer.folders.helperResources = "/opt/quelby/resources";
-    }
+    HelperInstallation() { computer.folders.support = folder.path(); }
 
     TemporaryFolder folder;
     fake::Computer computer;
     std::shared_ptr<PowerMonitor> monitor = PowerMonitor::create(computer.platform());
 };
 
-TEST_F(HelperInstallation, RunsTheScriptAndTellsTheHelperTheSettings) {
+TEST_F(HelperInstallation, InstallsAndTellsTheHelperTheSettings) {
     monitor->chargeLimitPercent = 85;
-    monitor->installDaemon();
-    EXPECT_THAT(computer.administrator.scripts, ElementsAre(helperInstallScript("/opt/quelby/resources")));
+    EXPECT_TRUE(monitor->installDaemon());
+    EXPECT_THAT(computer.installer.wishes, ElementsAre("install"));
     EXPECT_TRUE(monitor->daemonInstalled);
     EXPECT_EQ(decodeDaemonConfig(*computer.helper.configText)->chargeLimitPercent, 85);
 }
 
 TEST_F(HelperInstallation, ChangesNothingWithoutThePassword) {
-    computer.administrator.agrees = false;
-    monitor->installDaemon();
+    computer.installer.agrees = false;
+    EXPECT_EQ(monitor->installDaemon().error().sentence, "the administrator did not agree");
     EXPECT_FALSE(monitor->daemonInstalled);
     EXPECT_EQ(computer.helper.writes, 0);
 }
 
-TEST_F(HelperInstallation, DoesNotAskWhereThereIsNothingToInstall) {
-    computer.folders.helperResources.reset();
-    monitor->installDaemon();
-    EXPECT_THAT(computer.administrator.scripts, IsEmpty());
-    EXPECT_FALSE(monitor->daemonInstalled);
+TEST_F(HelperInstallation, SaysWhereTheNewHelperCannotBeTold) {
+    computer.helper.writable = false;
+    EXPECT_FALSE(monitor->installDaemon());
+    EXPECT_TRUE(monitor->daemonInstalled);
 }
 
 TEST_F(HelperInstallation, IsUndoneByTheRemoval) {
@@ -53,8 +48,8 @@ TEST_F(HelperInstallation, IsUndoneByTheRemoval) {
     monitor->daemonInstalled = true;
     monitor->chargingInhibited = true;
     monitor->chargeLimitStatus = "Holding at 85%";
-    monitor->uninstallDaemon();
-    EXPECT_THAT(computer.administrator.scripts, ElementsAre(helperUninstallScript()));
+    EXPECT_TRUE(monitor->uninstallDaemon());
+    EXPECT_THAT(computer.installer.wishes, ElementsAre("uninstall"));
     EXPECT_FALSE(monitor->daemonInstalled);
     EXPECT_FALSE(monitor->chargingInhibited);
     EXPECT_FALSE(monitor->chargeLimitEnabled);
@@ -66,8 +61,8 @@ TEST_F(HelperInstallation, IsUndoneByTheRemoval) {
 TEST_F(HelperInstallation, StaysWithoutThePassword) {
     monitor->chargeLimitEnabled = true;
     monitor->daemonInstalled = true;
-    computer.administrator.agrees = false;
-    monitor->uninstallDaemon();
+    computer.installer.agrees = false;
+    EXPECT_FALSE(monitor->uninstallDaemon());
     EXPECT_TRUE(monitor->daemonInstalled);
     EXPECT_TRUE(monitor->chargeLimitEnabled);
 }
@@ -75,7 +70,7 @@ TEST_F(HelperInstallation, StaysWithoutThePassword) {
 class FullUninstall : public HelperInstallation, public testing::WithParamInterface<bool> {};
 
 TEST_P(FullUninstall, RemovesEverythingAndAlwaysCallsBackOnce) {
-    computer.administrator.agrees = GetParam();
+    computer.installer.agrees = GetParam();
     computer.login.works = false;
     computer.preferences.setText("menuBarDisplay", "Battery %");
     computer.preferences.setFlag("hasShownChargingTip", true);
@@ -84,7 +79,7 @@ TEST_P(FullUninstall, RemovesEverythingAndAlwaysCallsBackOnce) {
     int calls = 0;
     monitor->fullUninstall([&] { ++calls; });
     EXPECT_EQ(calls, 1);
-    EXPECT_THAT(computer.administrator.scripts, ElementsAre(fullUninstallScript(computer.folders.program())));
+    EXPECT_THAT(computer.installer.wishes, ElementsAre("uninstall everything"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "Quelby"));
     EXPECT_TRUE(std::filesystem::exists(folder.path() / "Other" / "file"));
     EXPECT_THAT(computer.preferences.texts, IsEmpty());
@@ -96,10 +91,10 @@ INSTANTIATE_TEST_SUITE_P(WithAndWithoutThePassword, FullUninstall, testing::Valu
                          [](const auto& agrees) { return agrees.param ? "With" : "Without"; });
 
 TEST_F(HelperInstallation, IsForgottenWithAllElseSoThatTheTipComesAgain) {
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     monitor->fullUninstall([] {});
     monitor->shouldShowChargingTip = false;
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     EXPECT_TRUE(monitor->shouldShowChargingTip);
 }
 

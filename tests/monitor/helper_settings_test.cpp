@@ -1,8 +1,12 @@
+#include <algorithm>
+#include <limits>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "helper/daemon_config.h"
 #include "monitor/power_monitor.h"
+#include "support/assignments.h"
 #include "support/fake_platform.h"
 
 namespace quelby {
@@ -55,9 +59,8 @@ TEST_F(HelperSettings, KeepALastCalibrationThatTheFileDoesNotKnow) {
 }
 
 TEST_F(HelperSettings, KeepTheirDefaultsWithoutAWholeFile) {
-    for (const auto& text :
-         {std::optional<std::string>(), std::optional<std::string>(""),
-          std::optional<std::string>(R"({"chargeLimitEnabled":true,"chargeLimitPercent":85})")}) {
+    for (const auto& text : std::vector<std::optional<std::string>>{
+             std::nullopt, "", R"({"chargeLimitEnabled":true,"chargeLimitPercent":85})"}) {
         computer.helper.configText = text;
         monitor->startMonitoring();
         EXPECT_FALSE(monitor->chargeLimitEnabled);
@@ -68,49 +71,64 @@ TEST_F(HelperSettings, KeepTheirDefaultsWithoutAWholeFile) {
 
 TEST_F(HelperSettings, AreWrittenWholeAtEveryChange) {
     monitor->lastCalibrationDate = 1700000000.0;
-    monitor->setChargeLimit(79.9);
+    EXPECT_TRUE(monitor->setChargeLimit(79.9));
     EXPECT_EQ(written(), (DaemonConfig{.chargeLimitPercent = 79, .lastCalibrationTimestamp = 1700000000.0}));
     for (const double percent : {85.0, 90.0, 95.0}) {
-        monitor->setChargeLimit(percent);
+        EXPECT_TRUE(monitor->setChargeLimit(percent));
         EXPECT_EQ(written().chargeLimitPercent, static_cast<std::int64_t>(percent));
     }
     EXPECT_EQ(computer.helper.writes, 4);
 }
 
 TEST_F(HelperSettings, RaiseTheChargingTipTheFirstTimeThatTheLimitIsSwitchedOn) {
-    monitor->toggleChargeLimit(false);
+    EXPECT_TRUE(monitor->toggleChargeLimit(false));
     EXPECT_FALSE(monitor->shouldShowChargingTip);
     EXPECT_THAT(computer.preferences.flags, IsEmpty());
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     EXPECT_TRUE(written().chargeLimitEnabled);
     EXPECT_TRUE(monitor->shouldShowChargingTip);
     EXPECT_TRUE(computer.preferences.flags.at("hasShownChargingTip"));
     monitor->shouldShowChargingTip = false;
-    monitor->toggleChargeLimit(false);
+    EXPECT_TRUE(monitor->toggleChargeLimit(false));
     EXPECT_FALSE(written().chargeLimitEnabled);
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     EXPECT_FALSE(monitor->shouldShowChargingTip);
 }
 
+TEST_F(HelperSettings, HoldAndSaySoWhereTheHelperCannotBeTold) {
+    computer.helper.writable = false;
+    EXPECT_EQ(monitor->toggleChargeLimit(true).error().sentence, "the helper's folder cannot be written to");
+    EXPECT_FALSE(monitor->setChargeLimit(85));
+    EXPECT_FALSE(monitor->updateCalibrationSettings(true, 60));
+    EXPECT_TRUE(monitor->chargeLimitEnabled);
+    EXPECT_TRUE(monitor->shouldShowChargingTip);
+    EXPECT_EQ(monitor->chargeLimitPercent, 85.0);
+    EXPECT_EQ(monitor->calibrationIntervalDays, 60);
+    computer.helper.writable = true;
+    monitor->lastCalibrationDate = std::numeric_limits<Date>::infinity();
+    EXPECT_FALSE(monitor->setChargeLimit(90));
+    EXPECT_EQ(computer.helper.writes, 3);
+}
+
 TEST_F(HelperSettings, OfTheCalibrationAreWrittenAsTheyAreGiven) {
-    monitor->updateCalibrationSettings(true, 60);
+    EXPECT_TRUE(monitor->updateCalibrationSettings(true, 60));
     EXPECT_TRUE(written().calibrationEnabled);
     EXPECT_EQ(written().calibrationIntervalDays, 60);
-    monitor->updateCalibrationSettings(false, monitor->calibrationIntervalDays);
+    EXPECT_TRUE(monitor->updateCalibrationSettings(false, monitor->calibrationIntervalDays));
     EXPECT_FALSE(written().calibrationEnabled);
     EXPECT_EQ(written().calibrationIntervalDays, 60);
 }
 
 TEST_F(HelperSettings, AskOnceWhetherTheHelperIsLoaded) {
-    computer.services.helperLoaded = true;
+    computer.installer.loaded = true;
     monitor->startMonitoring();
     cycle();
     EXPECT_TRUE(monitor->daemonInstalled);
-    EXPECT_EQ(computer.services.questions, 1);
+    EXPECT_EQ(computer.installer.questions, 1);
 }
 
 TEST_F(HelperSettings, LetTheHelpersOwnWordDecideWhetherItIsThere) {
-    computer.services.helperLoaded = false;
+    computer.installer.loaded = false;
     computer.helper.statusText = helperHolds;
     monitor->startMonitoring();
     EXPECT_TRUE(monitor->daemonInstalled);
@@ -121,8 +139,8 @@ TEST_F(HelperSettings, LetTheHelpersOwnWordDecideWhetherItIsThere) {
 TEST_F(HelperSettings, KeepTheLastGoodStatus) {
     computer.helper.statusText = helperHolds;
     monitor->startMonitoring();
-    for (const auto& torn : {std::optional<std::string>(), std::optional<std::string>(""),
-                             std::optional<std::string>(std::string(helperHolds).substr(0, 40))}) {
+    for (const auto& torn :
+         std::vector<std::optional<std::string>>{std::nullopt, "", std::string(helperHolds).substr(0, 40)}) {
         computer.helper.statusText = torn;
         cycle();
         EXPECT_TRUE(monitor->chargingInhibited);
@@ -133,27 +151,17 @@ TEST_F(HelperSettings, KeepTheLastGoodStatus) {
 TEST_F(HelperSettings, ReadTheStatusInOrderAndAfterTheBattery) {
     computer.helper.statusText = helperHolds;
     monitor->startMonitoring();
-    std::vector<std::string> order;
-    const auto note = [&](const char* name) {
-        return [&order, name](const auto&) { order.emplace_back(name); };
-    };
-    const auto subscriptions = {
-        std::make_shared<Subscription>(monitor->predictedTime.observe(note("predictedTime"))),
-        std::make_shared<Subscription>(monitor->chargingInhibited.observe(note("chargingInhibited"))),
-        std::make_shared<Subscription>(monitor->calibrationActive.observe(note("calibrationActive"))),
-        std::make_shared<Subscription>(monitor->daemonInstalled.observe(note("daemonInstalled"))),
-        std::make_shared<Subscription>(monitor->chargeLimitStatus.observe(note("chargeLimitStatus")))};
-    cycle();
-    EXPECT_THAT(order, ElementsAre("predictedTime", "chargingInhibited", "calibrationActive",
-                                   "daemonInstalled", "chargeLimitStatus"));
-    EXPECT_EQ(subscriptions.size(), 5U);
+    auto order = assignedDuring(*monitor, [this] { cycle(); });
+    order.erase(order.begin(), std::find(order.begin(), order.end(), "predictedTime"));
+    EXPECT_THAT(order, ElementsAre("predictedTime", "batteryRateStr", "chargingInhibited",
+                                   "calibrationActive", "daemonInstalled", "chargeLimitStatus"));
 }
 
 TEST_F(HelperSettings, ComposeTheStatusFromTheFieldsOfTheCycle) {
     computer.battery.reading = PropertyTable{{"ExternalConnected", true}, {"CurrentCapacity", 60}};
     computer.helper.statusText =
         R"({"daemonRunning":true,"chargingInhibited":false,"calibrationActive":false,"batteryPercent":99,"lastUpdate":0})";
-    monitor->toggleChargeLimit(true);
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
     monitor->startMonitoring();
     EXPECT_EQ(monitor->chargeLimitStatus.get(), "Charging to 80%");
     computer.battery.reading = PropertyTable{{"ExternalConnected", true}, {"CurrentCapacity", 85}};

@@ -3,9 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "support/abandoned_handle.h"
+#include "support/assignments.h"
 #include "support/fake_platform.h"
-#include "support/temporary_folder.h"
 
 namespace quelby {
 namespace {
@@ -101,20 +100,14 @@ TEST_F(PowerMonitorTest, CallsOnUpdateAtTheEndOfEveryCycle) {
 
 TEST_F(PowerMonitorTest, RenewsTheFieldsInOrder) {
     computer.battery.reading = PropertyTable{{"Temperature", 3000}};
-    std::vector<std::string> order;
-    std::vector<Subscription> subscriptions;
-    forEachField(*monitor, [&](FieldName field, auto& published) {
-        subscriptions.push_back(published.observe(
-            [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
-    });
-    monitor->startMonitoring();
-    EXPECT_THAT(order, ElementsAre("launchAtLogin", "daemonInstalled", "hasBattery", "designCapacity",
-                                   "rawMaxCapacity", "rawCurrentCapacity", "cycleCount", "batteryPercent",
-                                   "isCharging", "isPluggedIn", "fullyCharged", "batteryHealth", "amperage",
-                                   "voltage", "realWatts", "batteryTemp", "timeRemaining", "cpuUsage",
-                                   "cpuPower", "gpuPower", "memPower", "diskPower", "netPower", "totalPower",
-                                   "chargePower", "acTotal", "efficiency", "powerHistory", "topProcesses",
-                                   "predictedTime", "batteryRateStr"));
+    EXPECT_THAT(assignedDuring(*monitor, [&] { monitor->startMonitoring(); }),
+                ElementsAre("launchAtLogin", "daemonInstalled", "hasBattery", "designCapacity",
+                            "rawMaxCapacity", "rawCurrentCapacity", "cycleCount", "batteryPercent",
+                            "isCharging", "isPluggedIn", "fullyCharged", "batteryHealth", "amperage",
+                            "voltage", "realWatts", "batteryTemp", "timeRemaining", "cpuUsage", "cpuPower",
+                            "gpuPower", "memPower", "diskPower", "netPower", "totalPower", "chargePower",
+                            "acTotal", "efficiency", "powerHistory", "topProcesses", "predictedTime",
+                            "batteryRateStr"));
 }
 
 TEST_F(PowerMonitorTest, UsesTheLoadOfTheSameCycle) {
@@ -162,104 +155,6 @@ TEST_F(PowerMonitorTest, PredictsAfterThreeSamples) {
     }
     EXPECT_EQ(monitor->batteryRateStr.get(), "-120.0%/hr");
     EXPECT_EQ(monitor->predictedTime.get(), "~0h 39m remaining");
-}
-
-class RecordingMonitorTest : public testing::Test {
-protected:
-    RecordingMonitorTest() {
-        computer.folders.support = folder.path();
-        computer.battery.reading = PropertyTable{{"InstantAmperage", -1000}, {"Voltage", 12000}};
-    }
-
-    [[nodiscard]] std::shared_ptr<PowerMonitor> withHistory(HistoryAccess access) {
-        return PowerMonitor::create(computer.platform(), {.history = access});
-    }
-
-    TemporaryFolder folder;
-    fake::Computer computer;
-};
-
-TEST_F(RecordingMonitorTest, TouchesNoFileBeforeItStarts) {
-    const auto monitor = withHistory(HistoryAccess::recording);
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-}
-
-TEST_F(RecordingMonitorTest, RecordsEachCycleAndLoadsTheHistoryAtItsStart) {
-    const auto monitor = withHistory(HistoryAccess::recording);
-    monitor->startMonitoring();
-    ASSERT_EQ(monitor->historyData.get().size(), 1U);
-    EXPECT_EQ(monitor->historyData.get().front().id, 1'700'000'000);
-    EXPECT_EQ(monitor->historyAvg, 12.0);
-    EXPECT_EQ(monitor->historyMin, 12.0);
-    EXPECT_EQ(monitor->historyMax, 12.0);
-    EXPECT_DOUBLE_EQ(monitor->todayWh, 0.01);
-
-    computer.clock.time += 3;
-    computer.runLoop.fireTimers();
-    EXPECT_EQ(monitor->historyData.get().size(), 1U); // no cycle loads it again
-    monitor->selectHistoryRange(TimeRange::thirtyMinutes);
-    EXPECT_EQ(monitor->historyData.get().size(), 2U);
-    EXPECT_DOUBLE_EQ(monitor->todayWh, 0.02);
-}
-
-TEST_F(RecordingMonitorTest, LoadsTheRangeThatIsSelectedInOrder) {
-    const auto monitor = withHistory(HistoryAccess::recording);
-    monitor->startMonitoring();
-    std::vector<std::string> order;
-    std::vector<Subscription> subscriptions;
-    forEachField(*monitor, [&](FieldName field, auto& published) {
-        subscriptions.push_back(published.observe(
-            [&order, name = std::string(field.name)](const auto&) { order.push_back(name); }));
-    });
-    monitor->selectHistoryRange(TimeRange::sevenDays);
-    EXPECT_THAT(order, ElementsAre("historyRange", "historyData", "historyAvg", "historyMin", "historyMax",
-                                   "todayWh"));
-    EXPECT_EQ(monitor->historyRange, TimeRange::sevenDays);
-}
-
-TEST_F(RecordingMonitorTest, WithoutAHistoryOnlyTheRangeChanges) {
-    const auto monitor = PowerMonitor::create(computer.platform());
-    monitor->startMonitoring();
-    monitor->todayWh = 5;
-    monitor->selectHistoryRange(TimeRange::oneHour);
-    EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);
-    EXPECT_EQ(monitor->todayWh, 5.0);
-    EXPECT_TRUE(std::filesystem::is_empty(folder.path()));
-}
-
-TEST_F(RecordingMonitorTest, WithAHistoryThatCannotBeOpenedAnswersAreEmptyAndAllElseWorks) {
-    computer.folders.support = folder.write("a file", "");
-    const auto monitor = withHistory(HistoryAccess::recording);
-    int updates = 0;
-    monitor->onUpdate = [&] { ++updates; };
-    abandoningTheHandle([&] { monitor->startMonitoring(); });
-    monitor->todayWh = 5;
-    monitor->selectHistoryRange(TimeRange::oneHour);
-    EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);
-    EXPECT_THAT(monitor->historyData.get(), IsEmpty());
-    EXPECT_EQ(monitor->todayWh, 0.0);
-    EXPECT_EQ(monitor->totalPower, 12.0);
-    EXPECT_EQ(updates, 1);
-}
-
-TEST_F(RecordingMonitorTest, ReadsBesideARecorderAndRecordsNothingItself) {
-    const auto recorder = withHistory(HistoryAccess::recording);
-    recorder->startMonitoring();
-    computer.clock.time += 3;
-    const auto reader = withHistory(HistoryAccess::readOnly);
-    reader->startMonitoring();
-    EXPECT_EQ(reader->historyData.get().size(), 1U);
-    recorder->selectHistoryRange(TimeRange::thirtyMinutes);
-    EXPECT_EQ(recorder->historyData.get().size(), 1U);
-}
-
-TEST_F(RecordingMonitorTest, GoesOnWithItsHistoryWhenItStartsAgain) {
-    const auto monitor = withHistory(HistoryAccess::recording);
-    monitor->startMonitoring();
-    monitor->stopMonitoring();
-    computer.clock.time += 3;
-    monitor->startMonitoring();
-    EXPECT_EQ(monitor->historyData.get().size(), 2U);
 }
 
 TEST_F(PowerMonitorTest, RestoresThePreferences) {

@@ -12,18 +12,20 @@ namespace {
 
 class Recordings : public testing::Test {
 protected:
-    // Calls look(monitor) after each cycle; gives the number of cycles.
-    template <typename Look>
-    int play(const std::string& name, Look look) {
+    // Calls visit(monitor) after each cycle; gives the number of cycles.
+    template <typename Visit>
+    int play(const std::string& name, Visit visit) {
         auto opened = ReplayedMachine::open(QUELBY_SOURCE_DIR "/resources/recordings/" + name + ".jsonl");
         EXPECT_TRUE(opened) << opened.error().sentence;
         auto& machine = *opened;
         fake::Computer rest;
+        rest.helper.configText = machine.helperConfig();
+        rest.helper.statusText = machine.helperStatus();
         const auto monitor = PowerMonitor::create(playing(machine, rest));
         int cycles = 0;
         monitor->onUpdate = [&] {
             ++cycles;
-            look(*monitor);
+            visit(*monitor);
         };
         monitor->startMonitoring();
         while (!machine.isAtLastLine()) {
@@ -71,6 +73,10 @@ TEST_F(Recordings, AHeldLaptopStaysAtItsLimit) {
         EXPECT_TRUE(monitor.isPluggedIn);
         EXPECT_FALSE(monitor.isCharging);
         EXPECT_EQ(monitor.batteryPercent, 80);
+        EXPECT_TRUE(monitor.chargeLimitEnabled);
+        EXPECT_EQ(monitor.chargeLimitPercent, 80);
+        EXPECT_TRUE(monitor.chargingInhibited);
+        EXPECT_TRUE(monitor.daemonInstalled);
     });
     EXPECT_GE(cycles, fourMinutes);
 }

@@ -1,6 +1,7 @@
 // A desktop that writes down what is asked of it, and from which a test acts as a person would.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -71,34 +72,29 @@ struct Popover final : app::Popover {
     }
 };
 
-// What it makes belongs to whoever asked for it, as on a real desktop; `item` and `popover` see it there.
 struct Desktop final : app::Desktop {
     Log& log;
     bool givesButton = true;
-    Item* item = nullptr;
-    Popover* popover = nullptr;
+    std::optional<Item> item; // none before it is made, as is the popover
+    std::optional<Popover> popover;
     std::shared_ptr<PowerMonitor> monitor;
     std::function<void()> quit;
     std::function<bool(const app::KeyDown&)> keyHandler;
 
     explicit Desktop(Log& shared) : log(shared) {}
 
-    [[nodiscard]] std::unique_ptr<app::StatusItem> makeStatusItem() override {
+    [[nodiscard]] app::StatusItem& makeStatusItem() override {
         log.emplace_back("make the status item");
-        auto made = std::make_unique<Item>(log);
-        made->button = givesButton;
-        item = made.get();
-        return made;
+        item.emplace(log).button = givesButton;
+        return *item;
     }
 
-    [[nodiscard]] std::unique_ptr<app::Popover> makePopover(std::shared_ptr<PowerMonitor> shown,
-                                                            std::function<void()> quitAction) override {
+    [[nodiscard]] app::Popover& makePopover(std::shared_ptr<PowerMonitor> shown,
+                                            std::function<void()> quitAction) override {
         log.emplace_back("make the popover");
         monitor = std::move(shown);
         quit = std::move(quitAction);
-        auto made = std::make_unique<Popover>(log);
-        popover = made.get();
-        return made;
+        return popover.emplace(log);
     }
 
     void addKeyMonitor(std::function<bool(const app::KeyDown&)> handler) override {

@@ -33,17 +33,16 @@ struct Processes final : ProcessLister {
 };
 
 struct WallClock final : Clock {
-    double time = 1'700'000'000;
+    Date time = 1'700'000'000;
 
-    double now() override { return time; }
+    Date now() override { return time; }
 
-    double startOfDay() override { return time - 3600; }
+    Date startOfDay() override { return time - 3600; }
 };
 
 // Nobody's folder, so that a test which means to keep something says where.
 struct NamedFolders final : Folders {
     std::filesystem::path support = "/proc/nowhere";
-
     std::optional<std::filesystem::path> helperResources;
 
     std::filesystem::path applicationSupport() override { return support; }
@@ -60,36 +59,45 @@ struct NamedFolders final : Folders {
 struct Helper final : HelperFolder {
     std::optional<std::string> configText;
     std::optional<std::string> statusText;
-    int writes = 0;
+    bool writable = true;
+    int writes = 0; // that were tried
 
     std::optional<std::string> config() override { return configText; }
 
     std::optional<std::string> status() override { return statusText; }
 
-    void replaceConfig(std::string_view text) override {
+    Result<void> replaceConfig(std::string_view text) override {
         ++writes;
+        if (!writable) {
+            return problem("the helper's folder cannot be written to");
+        }
         configText = text;
+        return {};
     }
 };
 
-struct Services final : ServiceManager {
-    bool helperLoaded = false;
+// With an administrator who agrees, or not.
+struct Installer final : HelperInstaller {
+    bool loaded = false;
     int questions = 0;
-
-    bool isHelperLoaded() override {
-        ++questions;
-        return helperLoaded;
-    }
-};
-
-// A user who agrees, or not.
-struct Administrator final : PrivilegedShell {
     bool agrees = true;
-    std::vector<std::string> scripts;
+    std::vector<std::string> wishes;
 
-    bool run(const std::string& script) override {
-        scripts.push_back(script);
-        return agrees;
+    bool isLoaded() override {
+        ++questions;
+        return loaded;
+    }
+
+    Result<void> install() override { return carryOut("install"); }
+
+    Result<void> uninstall() override { return carryOut("uninstall"); }
+
+    Result<void> uninstallEverything() override { return carryOut("uninstall everything"); }
+
+private:
+    Result<void> carryOut(const char* wish) {
+        wishes.emplace_back(wish);
+        return agrees ? Result<void>() : problem("the administrator did not agree");
     }
 };
 
@@ -213,11 +221,10 @@ struct Computer {
     WallClock clock;
     NamedFolders folders;
     Helper helper;
+    Installer installer;
     Login login;
     Loop runLoop;
     Choices preferences;
-    Administrator administrator;
-    Services services;
     Draw storageDraw;
 
     [[nodiscard]] Platform platform() {
@@ -226,11 +233,10 @@ struct Computer {
                 .clock = clock,
                 .folders = folders,
                 .helperFolder = helper,
+                .helperInstaller = installer,
                 .loginItem = login,
                 .runLoop = runLoop,
                 .preferences = preferences,
-                .privilegedShell = administrator,
-                .serviceManager = services,
                 .storageDraw = storageDraw};
     }
 };

@@ -7,17 +7,13 @@ namespace quelby {
 
 // A recorded machine in the place of a computer's readers.
 inline Platform playing(ReplayedMachine& machine, fake::Computer& rest) {
-    return {.battery = machine,
-            .processes = machine,
-            .clock = machine,
-            .folders = rest.folders,
-            .helperFolder = rest.helper,
-            .loginItem = rest.login,
-            .runLoop = rest.runLoop,
-            .preferences = rest.preferences,
-            .privilegedShell = rest.administrator,
-            .serviceManager = machine,
-            .storageDraw = machine};
+    auto platform = rest.platform();
+    platform.battery = machine;
+    platform.processes = machine;
+    platform.clock = machine;
+    platform.helperInstaller = machine;
+    platform.storageDraw = machine;
+    return platform;
 }
 
 } // namespace quelby

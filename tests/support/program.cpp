@@ -1,4 +1,5 @@
 #include "support/program.h"
+#include "platform/posix/pipe.h"
 #include "support/started.h"
 
 #include <array>
@@ -29,19 +30,6 @@ std::string readToTheEnd(int file) {
     return text;
 }
 
-struct Pipe {
-    FileDescriptor reading;
-    FileDescriptor writing;
-
-    Pipe() {
-        std::array<int, 2> ends{};
-        if (::pipe2(ends.data(), O_CLOEXEC) == 0) {
-            reading = FileDescriptor(ends[0]);
-            writing = FileDescriptor(ends[1]);
-        }
-    }
-};
-
 } // namespace
 
 void become(const std::vector<std::string>& words, const Environment& environment) {
@@ -64,21 +52,21 @@ int exitStatusOf(pid_t process) {
 }
 
 ProgramResult runProgram(const std::vector<std::string>& words, const Environment& environment) {
-    Pipe output;
-    Pipe errors;
+    Pipe output = makePipe();
+    Pipe errors = makePipe();
     const pid_t process = started(::fork());
     if (process == 0) {
         const FileDescriptor nothing(::open("/dev/null", O_RDONLY | O_CLOEXEC));
         ::dup2(nothing.number(), STDIN_FILENO);
-        ::dup2(output.writing.number(), STDOUT_FILENO);
-        ::dup2(errors.writing.number(), STDERR_FILENO);
+        ::dup2(output.writeEnd.number(), STDOUT_FILENO);
+        ::dup2(errors.writeEnd.number(), STDERR_FILENO);
         become(words, environment);
     }
-    output.writing.close();
-    errors.writing.close();
+    output.writeEnd.close();
+    errors.writeEnd.close();
     ProgramResult result;
-    std::thread reader([&] { result.errors = readToTheEnd(errors.reading.number()); });
-    result.output = readToTheEnd(output.reading.number());
+    std::thread reader([&] { result.errors = readToTheEnd(errors.readEnd.number()); });
+    result.output = readToTheEnd(output.readEnd.number());
     reader.join();
     result.exitStatus = exitStatusOf(process);
     return result;

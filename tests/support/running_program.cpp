@@ -14,6 +14,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/posix/pipe.h"
 #include "support/started.h"
 
 namespace quelby {
@@ -31,21 +32,17 @@ bool isReadable(const FileDescriptor& file, int milliseconds) {
 
 RunningProgram::RunningProgram(const std::vector<std::string>& words, const Environment& environment)
     : errors_(::memfd_create("errors", MFD_CLOEXEC)) {
-    std::array<int, 2> ends{};
-    if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
-        throw std::system_error(errno, std::generic_category(), "no pipe");
-    }
-    output_ = FileDescriptor(ends[0]);
-    const FileDescriptor writing(ends[1]);
+    Pipe output = makePipe();
     process_ = started(::fork());
     if (process_ == 0) {
         ::prctl(PR_SET_PDEATHSIG, SIGKILL);
         const FileDescriptor nothing(::open("/dev/null", O_RDONLY | O_CLOEXEC));
         ::dup2(nothing.number(), STDIN_FILENO);
-        ::dup2(writing.number(), STDOUT_FILENO);
+        ::dup2(output.writeEnd.number(), STDOUT_FILENO);
         ::dup2(errors_.number(), STDERR_FILENO);
         become(words, environment);
     }
+    output_ = std::move(output.readEnd);
     life_ = FileDescriptor(static_cast<int>(::syscall(SYS_pidfd_open, process_, 0)));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -7,6 +8,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quelby {
 
@@ -43,6 +45,16 @@ public:
         std::ostringstream content;
         content << std::ifstream(path_ / name, std::ios::binary).rdbuf();
         return content.str();
+    }
+
+    // Of the files and folders in a folder below, in order.
+    [[nodiscard]] std::vector<std::string> names(const std::filesystem::path& below = {}) const {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_ / below)) {
+            names.push_back(entry.path().filename());
+        }
+        std::sort(names.begin(), names.end());
+        return names;
     }
 
 private:

@@ -42,31 +42,24 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
     : bus_(bus)
     , platform_(platform)
     , withoutTray_(withoutTray)
-    , appearance_(QString::fromStdString(platform_.folders.configuration().string()), [this] {
-        if (popover_ != nullptr) {
+    , appearance_(QString::fromStdString(platform_.folders->configuration().string()), [this] {
+        if (popover_) {
             popover_->appearanceChanged();
         }
     }) {}
 
-std::unique_ptr<StatusItem> LinuxDesktop::makeStatusItem() {
-    auto item = std::make_unique<LinuxStatusItem>(LinuxStatusItem::Listener{
+StatusItem& LinuxDesktop::makeStatusItem() {
+    return item_.emplace(LinuxStatusItem::Listener{
         .pressed = [this](std::optional<QPoint> where) { return itemPressed(where); },
         .shown = [this](bool shown) { itemShown(shown); }});
-    item_ = item.get();
-    return item;
 }
 
-std::unique_ptr<Popover> LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor,
-                                                   std::function<void()> quit) {
-    auto popover = std::make_unique<LateDashboard>(
-        DashboardWindowParts{.monitor = std::move(monitor),
-                             .clock = &platform_.clock,
-                             .quit = quit,
-                             .openBatterySettings = [] { openBatterySettings(); },
-                             .appearance = [this] { return appearance_.current(); },
-                             .ordinaryClosed = quit});
-    popover_ = popover.get();
-    return popover;
+Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
+    return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
+                                         .clock = platform_.clock,
+                                         .quit = std::move(quit),
+                                         .openBatterySettings = openBatterySettings,
+                                         .appearance = [this] { return appearance_.current(); }});
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {

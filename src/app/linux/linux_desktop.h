@@ -5,10 +5,10 @@
 #include <QObject>
 
 #include "app/desktop.h"
-#include "app/linux/desktop_appearance.h"
-#include "app/linux/late_dashboard.h"
-#include "app/linux/linux_status_item.h"
-#include "app/linux/session_bus.h"
+#include "app/linux/popover/linux_popover.h"
+#include "app/linux/session/desktop_appearance.h"
+#include "app/linux/session/session_bus.h"
+#include "app/linux/tray/linux_status_item.h"
 
 namespace quelby::app {
 
@@ -17,15 +17,14 @@ enum class WithoutTray {
     wait,       // it was started with the session, whose panel may come later
 };
 
-// A desktop of Linux. Needs Qt's application object. The status item and the popover that it makes end before
-// it.
+// A desktop of Linux. Needs Qt's application object.
 class LinuxDesktop final : public QObject, public Desktop {
 public:
     LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray withoutTray);
 
-    [[nodiscard]] std::unique_ptr<StatusItem> makeStatusItem() override;
-    [[nodiscard]] std::unique_ptr<Popover> makePopover(std::shared_ptr<PowerMonitor> monitor,
-                                                       std::function<void()> quit) override;
+    [[nodiscard]] StatusItem& makeStatusItem() override;
+    [[nodiscard]] Popover& makePopover(std::shared_ptr<PowerMonitor> monitor,
+                                       std::function<void()> quit) override;
     void addKeyMonitor(std::function<bool(const KeyDown&)> handler) override;
     void terminate() override;
 
@@ -44,8 +43,8 @@ private:
     WithoutTray withoutTray_;
     DesktopAppearance appearance_;
     std::function<bool(const KeyDown&)> keyMonitor_;
-    LinuxStatusItem* item_ = nullptr; // its owner's, likewise below; none before it is made
-    LateDashboard* popover_ = nullptr;
+    std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover
+    std::optional<LinuxPopover> popover_;
 };
 
 } // namespace quelby::app

@@ -4,8 +4,8 @@
 
 #include "app/app_delegate.h"
 #include "app/linux/linux_desktop.h"
-#include "app/linux/single_instance.h"
-#include "app/linux/x_connection.h"
+#include "app/linux/session/single_instance.h"
+#include "app/linux/session/x_connection.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
 #include "console/program.h"
@@ -53,10 +53,13 @@ public:
             return;
         }
         bus.follow([&](const std::optional<QDBusConnection>& now) { static_cast<void>(claim(now)); });
-        const auto lock = takeRecorderLock(platform_.folders.applicationSupport());
+        RecorderLock lock(platform_.folders->applicationSupport());
         LinuxDesktop desktop(bus, platform_, withoutTray_);
-        delegate =
-            AppDelegate::create(platform_, {.interval = interval_, .history = historyAccess(lock)}, desktop);
+        delegate = AppDelegate::create(platform_,
+                                       {.interval = interval_,
+                                        .history = historyAccess(lock),
+                                        .mayRecordNow = [&lock] { return lock.tryAgain(); }},
+                                       desktop);
         delegate->applicationDidFinishLaunching();
         desktop.start();
         const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });

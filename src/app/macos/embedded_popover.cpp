@@ -6,7 +6,7 @@
 
 namespace quelby::app {
 
-EmbeddedPopover::EmbeddedPopover(NSStatusBarButton* button, QuickDashboard::ModelMaker makeModel)
+EmbeddedPopover::EmbeddedPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel)
     : popover_(button, [this] { dashboard_.shut(); })
     , host_(QWindow::fromWinId(reinterpret_cast<WId>(popover_.hostView())))
     , dashboard_(std::move(makeModel), [this] { close(); }) {

@@ -5,7 +5,7 @@
 #include <QWindow>
 
 #include "app/macos/native_popover.h"
-#include "app/macos/quick_dashboard.h"
+#include "app/macos/popover_content.h"
 #include "app/popover.h"
 
 namespace quelby::app {
@@ -14,7 +14,7 @@ namespace quelby::app {
 class EmbeddedPopover final : public Popover {
 public:
     // The button outlives the popover.
-    EmbeddedPopover(NSStatusBarButton* button, QuickDashboard::ModelMaker makeModel);
+    EmbeddedPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel);
 
     // Whether Qt's window has found its place. Otherwise the popover stays empty.
     [[nodiscard]] bool holdsDashboard() const;
@@ -29,7 +29,7 @@ private:
 
     NativePopover popover_;
     std::unique_ptr<QWindow> host_; // stands for the popover's view; none where Qt takes in no foreign views
-    QuickDashboard dashboard_;      // goes before its parent
+    PopoverContent dashboard_;      // goes before its parent
 };
 
 } // namespace quelby::app

@@ -23,7 +23,7 @@ QPoint upperLeftCorner(QPoint place, int width) {
 
 } // namespace
 
-FloatingPopover::FloatingPopover(NSStatusBarButton* button, QuickDashboard::ModelMaker makeModel)
+FloatingPopover::FloatingPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel)
     : button_(button), dashboard_(std::move(makeModel), [this] { close(); }) {
     dashboard_.setFlags(Qt::Tool | Qt::FramelessWindowHint);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &listener_,

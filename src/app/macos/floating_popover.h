@@ -3,7 +3,7 @@
 #include <QObject>
 
 #include "app/macos/appkit_names.h"
-#include "app/macos/quick_dashboard.h"
+#include "app/macos/popover_content.h"
 #include "app/popover.h"
 
 namespace quelby::app {
@@ -13,7 +13,7 @@ namespace quelby::app {
 class FloatingPopover final : public Popover {
 public:
     // The button outlives the popover; without one it never shows.
-    FloatingPopover(NSStatusBarButton* button, QuickDashboard::ModelMaker makeModel);
+    FloatingPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel);
 
     [[nodiscard]] bool isShown() const override;
     void show() override;
@@ -22,7 +22,7 @@ public:
 
 private:
     NSStatusBarButton* button_;
-    QuickDashboard dashboard_;
+    PopoverContent dashboard_;
     QObject listener_; // to the application's state
 };
 

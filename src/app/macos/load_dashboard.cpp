@@ -1,4 +1,4 @@
-#include "app/dashboard_painter.h"
+#include "app/picture_painter.h"
 #include "ui/view/dashboard_picture.h"
 #include "ui/view/dashboard_view.h"
 
@@ -7,9 +7,9 @@ namespace quelby::app {
 namespace {
 
 // The dashboard is part of the program here.
-class BuiltInDashboard final : public DashboardPainter {
+class BuiltInPainter final : public PicturePainter {
 public:
-    BuiltInDashboard() { drawWithoutGpu(); }
+    BuiltInPainter() { drawWithoutGpu(); }
 
     [[nodiscard]] QImage picture(std::shared_ptr<PowerMonitor> monitor, Clock& clock,
                                  const PictureOptions& options) override {
@@ -20,8 +20,8 @@ public:
 
 } // namespace
 
-std::unique_ptr<DashboardPainter> loadDashboardPainter() {
-    return std::make_unique<BuiltInDashboard>();
+std::unique_ptr<PicturePainter> loadPicturePainter() {
+    return std::make_unique<BuiltInPainter>();
 }
 
 } // namespace quelby::app

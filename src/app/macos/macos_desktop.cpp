@@ -10,25 +10,23 @@
 
 namespace quelby::app {
 
-std::unique_ptr<StatusItem> MacosDesktop::makeStatusItem() {
-    auto item = std::make_unique<MacosStatusItem>();
-    item_ = item.get();
-    return item;
+StatusItem& MacosDesktop::makeStatusItem() {
+    return item_.emplace();
 }
 
-std::unique_ptr<Popover> MacosDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor,
-                                                   std::function<void()> quit) {
-    const QuickDashboard::ModelMaker makeModel = [monitor = std::move(monitor), quit = std::move(quit),
+Popover& MacosDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
+    const PopoverContent::ModelMaker makeModel = [monitor = std::move(monitor), quit = std::move(quit),
                                                   clock = &clock_] {
         return std::make_unique<DashboardModel>(
-            monitor, *clock,
-            DashboardActions{.quit = quit, .openBatterySettings = [] { openBatterySettings(); }});
+            monitor, *clock, ProgramActions{.quit = quit, .openBatterySettings = openBatterySettings});
     };
     auto embedded = std::make_unique<EmbeddedPopover>(item_->button(), makeModel);
     if (embedded->holdsDashboard()) {
-        return embedded;
+        popover_ = std::move(embedded);
+    } else {
+        popover_ = std::make_unique<FloatingPopover>(item_->button(), makeModel);
     }
-    return std::make_unique<FloatingPopover>(item_->button(), makeModel);
+    return *popover_;
 }
 
 void MacosDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {

@@ -18,7 +18,7 @@ public:
     NativePopover& operator=(const NativePopover&) = delete;
     ~NativePopover();
 
-    // The popover's own, 400 by 660 points.
+    // The popover's own, as large as the dashboard.
     [[nodiscard]] NSView* hostView() const;
 
     // Whether anything has been put into the view.

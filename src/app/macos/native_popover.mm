@@ -6,12 +6,13 @@
 #include "app/macos/menu_bar_application.h"
 #include "app/macos/notification_listener.h"
 #include "platform/macos/own.h"
+#include "ui/presentation/elements/metrics.h"
 
 namespace quelby::app {
 
 namespace {
 
-constexpr NSSize contentSize = {400, 660};
+constexpr NSSize contentSize = {viewWidth, viewHeight};
 
 void setContent(NSPopover* popover, NSView* view) {
     const Own<NSViewController> controller([[NSViewController alloc] init]);

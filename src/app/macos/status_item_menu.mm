@@ -1,6 +1,7 @@
 #include "app/macos/status_item_menu.h"
 
 #include "platform/macos/foundation_text.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 
@@ -40,12 +41,12 @@ void addDisplays(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay ch
 
 void fillStatusItemMenu(NSMenu* menu, QuelbyStatusItemTarget* target, MenuBarDisplay chosen) {
     @autoreleasepool {
-        add(menu, target, { "Show Dashboard", @selector(showDashboard:) });
+        add(menu, target, { words::showDashboard, @selector(showDashboard:) });
         addSeparator(menu);
         addDisplays(menu, target, chosen);
         addSeparator(menu);
-        add(menu, target, { "Settings", @selector(showSettings:) });
-        add(menu, target, { "Quit Quelby", @selector(quit:) });
+        add(menu, target, { words::settings, @selector(showSettings:) });
+        add(menu, target, { words::quit, @selector(quit:) });
     }
 }
 

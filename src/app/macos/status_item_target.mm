@@ -3,7 +3,9 @@
 #include <utility>
 
 #include "app/macos/status_item_menu.h"
+#include "platform/macos/foundation_text.h"
 #include "platform/macos/own.h"
+#include "ui/presentation/text/words.h"
 
 using namespace quelby;
 
@@ -42,7 +44,8 @@ NSPoint lowerCorner(NSView* view) {
         actions_.toggle();
         return;
     }
-    const Own<NSMenu> menu([[NSMenu alloc] initWithTitle:@"Quelby"]);
+    const auto title = foundationText(words::program);
+    const Own<NSMenu> menu([[NSMenu alloc] initWithTitle:title.get()]);
     app::fillStatusItemMenu(menu.get(), self, display_);
     [menu.get() popUpMenuPositioningItem:nil atLocation:lowerCorner(button) inView:button];
 }

@@ -17,14 +17,16 @@ namespace quelby::app {
 
 namespace {
 
-MonitorOptions monitorOptions(Pace pace, const Result<std::optional<FileLock>>& lock) {
+// The lock outlives the monitor.
+MonitorOptions monitorOptions(Pace pace, RecorderLock& lock) {
     return {.interval = std::chrono::seconds(pace == Pace::withoutWaiting ? 0 : 3),
-            .history = historyAccess(lock)};
+            .history = historyAccess(lock),
+            .mayRecordNow = [&lock] { return lock.tryAgain(); }};
 }
 
 void runApplication(const Platform& platform, const MonitorOptions& options) {
     becomeAccessory();
-    MacosDesktop desktop(platform.clock);
+    MacosDesktop desktop(*platform.clock);
     auto delegate = AppDelegate::create(platform, options, desktop);
     const ApplicationEvents events({.didFinishLaunching = [&] { delegate->applicationDidFinishLaunching(); },
                                     .willTerminate = [&] { delegate->applicationWillTerminate(); }});
@@ -40,7 +42,7 @@ Result<void> run(const MachineArguments& arguments) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
-    const auto lock = takeRecorderLock(platform.folders.applicationSupport());
+    RecorderLock lock(platform.folders->applicationSupport());
     runApplication(platform, monitorOptions(arguments.pace, lock));
     return {};
 }

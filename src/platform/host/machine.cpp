@@ -4,8 +4,8 @@
 #include <random>
 
 #include "platform/host/chosen_folders.h"
+#include "platform/host/system_clock.h"
 #include "platform/posix/helper_files.h"
-#include "platform/posix/system_clock.h"
 #include "platform/qt/qt_preferences.h"
 #include "platform/qt/qt_run_loop.h"
 #include "platform/random_storage_draw.h"
@@ -68,29 +68,29 @@ ChosenFolders::Named namedFolders(const MachineOptions& options) {
         .applicationSupport = options.dataDir, .configuration = std::nullopt, .helper = options.configDir};
 }
 
-// What the recorded helper said; where it said nothing, what lies in the folder.
+// What the recorded helper said; where it said nothing, what lies in the folder. Its settings are the other
+// way round: those in the folder were named by the user, or chosen while the recording plays.
 class RecordedHelper final : public HelperFolder {
 public:
     RecordedHelper(const ReplayedMachine& machine, std::filesystem::path folder)
         : machine_(machine), files_(std::move(folder)) {}
 
-    [[nodiscard]] std::optional<std::string> config() override { return files_.config(); }
+    [[nodiscard]] std::optional<std::string> config() override {
+        const auto present = files_.config();
+        return present ? present : machine_.helperConfig();
+    }
 
     [[nodiscard]] std::optional<std::string> status() override {
         return machine_.helperStatus() ? machine_.helperStatus() : files_.status();
     }
 
-    void replaceConfig(std::string_view text) override { files_.replaceConfig(text); }
+    [[nodiscard]] Result<void> replaceConfig(std::string_view text) override {
+        return files_.replaceConfig(text);
+    }
 
 private:
     const ReplayedMachine& machine_;
     HelperFiles files_;
-};
-
-// A demonstration installs nothing, and nobody is asked for a password.
-class NoPrivileges final : public PrivilegedShell {
-public:
-    [[nodiscard]] bool run(const std::string&) override { return false; }
 };
 
 class NoLoginItem final : public LoginItem {
@@ -113,11 +113,10 @@ public:
                 .clock = clock_,
                 .folders = folders_,
                 .helperFolder = helper_,
+                .helperInstaller = *services_.helperInstaller,
                 .loginItem = *services_.loginItem,
                 .runLoop = runLoop_,
                 .preferences = *preferences_,
-                .privilegedShell = *services_.privilegedShell,
-                .serviceManager = *services_.serviceManager,
                 .storageDraw = storageDraw_};
     }
 
@@ -149,11 +148,10 @@ public:
                 .clock = machine_,
                 .folders = folders_,
                 .helperFolder = helper_,
+                .helperInstaller = machine_,
                 .loginItem = loginItem_,
                 .runLoop = runLoop_,
                 .preferences = *preferences_,
-                .privilegedShell = privilegedShell_,
-                .serviceManager = machine_,
                 .storageDraw = machine_};
     }
 
@@ -166,7 +164,6 @@ private:
     DemonstrationFolders folders_;
     RecordedHelper helper_{machine_, folders_.helper()};
     NoLoginItem loginItem_;
-    NoPrivileges privilegedShell_;
     QtRunLoop runLoop_;
     std::unique_ptr<Preferences> preferences_;
 };

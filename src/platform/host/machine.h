@@ -8,7 +8,7 @@
 #include "base/problem.h"
 #include "platform/platform.h"
 #include "platform/replay/replayed_machine.h"
-#include "platform/system_readers.h"
+#include "platform/system.h"
 
 namespace quelby {
 

@@ -1,11 +1,11 @@
+#include "platform/installer/scripted_installer.h"
 #include "platform/linux/autostart_entry.h"
 #include "platform/linux/battery/sysfs_battery_source.h"
-#include "platform/linux/pkexec_shell.h"
+#include "platform/linux/pkexec.h"
 #include "platform/linux/processes/proc_process_lister.h"
-#include "platform/linux/systemd_service_manager.h"
 #include "platform/linux/xdg_folders.h"
 #include "platform/qt/qt_preferences.h"
-#include "platform/system_readers.h"
+#include "platform/system.h"
 
 namespace quelby {
 
@@ -23,8 +23,8 @@ std::unique_ptr<Preferences> makeSystemPreferences() {
 }
 
 SystemServices makeSystemServices(Folders& folders) {
-    return {std::make_unique<AutostartEntry>(folders.configuration(), folders.program()),
-            std::make_unique<PkexecShell>(), std::make_unique<SystemdServiceManager>()};
+    return {std::make_unique<ScriptedInstaller>(folders, linuxHelperScripts(), runWithPkexec),
+            std::make_unique<AutostartEntry>(folders.configuration(), folders.program())};
 }
 
 } // namespace quelby

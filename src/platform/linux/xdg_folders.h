@@ -4,9 +4,10 @@
 
 namespace quelby {
 
-// The folders of the XDG Base Directory Specification: $XDG_DATA_HOME where it is an absolute path, as the
-// standard demands, and ~/.local/share otherwise; likewise $XDG_CONFIG_HOME and ~/.config. Without $HOME the
-// user database tells the home. Resources are in libexec/quelby, beside the folder with the program.
+// The folders of the XDG Base Directory Specification: $XDG_DATA_HOME or else ~/.local/share, and
+// $XDG_CONFIG_HOME or else ~/.config. A variable that holds no absolute path counts as unset, as the standard
+// demands. Without $HOME the user database tells the home. Resources are in libexec/quelby, beside the folder
+// with the program.
 class XdgFolders final : public Folders {
 public:
     [[nodiscard]] std::filesystem::path applicationSupport() override;

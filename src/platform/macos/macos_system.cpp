@@ -1,12 +1,12 @@
-#include "platform/macos/apple_script_shell.h"
+#include "platform/installer/scripted_installer.h"
+#include "platform/macos/apple_script.h"
 #include "platform/macos/bundle_folders.h"
 #include "platform/macos/iokit_battery_source.h"
-#include "platform/macos/launchd_service_manager.h"
 #include "platform/macos/main_app_login_item.h"
 #include "platform/macos/processor_count.h"
 #include "platform/macos/ps_process_lister.h"
 #include "platform/macos/user_defaults.h"
-#include "platform/system_readers.h"
+#include "platform/system.h"
 
 namespace quelby {
 
@@ -23,9 +23,9 @@ std::unique_ptr<Preferences> makeSystemPreferences() {
     return std::make_unique<UserDefaults>();
 }
 
-SystemServices makeSystemServices(Folders& /*folders*/) {
-    return {std::make_unique<MainAppLoginItem>(), std::make_unique<AppleScriptShell>(),
-            std::make_unique<LaunchdServiceManager>()};
+SystemServices makeSystemServices(Folders& folders) {
+    return {std::make_unique<ScriptedInstaller>(folders, macosHelperScripts(), runAppleScript),
+            std::make_unique<MainAppLoginItem>()};
 }
 
 } // namespace quelby

@@ -9,7 +9,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/posix/file_descriptor.h"
+#include "platform/posix/pipe.h"
 
 extern char** environ; // NOLINT(readability-redundant-declaration): POSIX has it, but in no header
 
@@ -83,23 +83,6 @@ std::optional<int> exitStatusOf(pid_t process) {
         }
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-}
-
-struct Pipe {
-    FileDescriptor readEnd;
-    FileDescriptor writeEnd;
-};
-
-// Neither end is inherited by a child, unless it is made one of its streams.
-Pipe makePipe() {
-    std::array<int, 2> ends{};
-    if (::pipe(ends.data()) != 0) {
-        return {};
-    }
-    for (const int end : ends) {
-        ::fcntl(end, F_SETFD, FD_CLOEXEC);
-    }
-    return {FileDescriptor(ends[0]), FileDescriptor(ends[1])};
 }
 
 std::optional<std::string> readToTheEnd(const FileDescriptor& file) {

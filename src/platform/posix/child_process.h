@@ -11,8 +11,9 @@ namespace quelby {
 // unless it is a path. Nothing where it could not be started.
 [[nodiscard]] std::optional<int> runToTheEnd(const std::vector<std::string>& words);
 
-// Likewise in the given environment ("NAME=value", each), and gives all that the program wrote to its
-// standard output, however it ended. Its standard error is thrown away.
+// Runs a program to its end in the given environment ("NAME=value", each), with nothing on its standard input
+// and its standard error thrown away, and gives all that it wrote to its standard output, however it ended.
+// The first word is looked for in $PATH, unless it is a path. Nothing where it could not be started.
 [[nodiscard]] std::optional<std::string> outputOf(const std::vector<std::string>& words,
                                                   const std::vector<std::string>& environment);
 

@@ -1,5 +1,7 @@
 #include "platform/posix/helper_files.h"
 
+#include <fmt/format.h>
+
 #include "platform/posix/shared_file.h"
 
 namespace quelby {
@@ -27,9 +29,12 @@ std::optional<std::string> HelperFiles::status() {
     return readSharedFile(folder_ / "status.json", longestText);
 }
 
-void HelperFiles::replaceConfig(std::string_view text) {
+Result<void> HelperFiles::replaceConfig(std::string_view text) {
     makeOpenFolder(folder_);
-    writeSharedFile(configFile(), text);
+    if (writeSharedFile(configFile(), text)) {
+        return {};
+    }
+    return problem(fmt::format("cannot write the helper's settings to \"{}\"", folder_.string()));
 }
 
 } // namespace quelby

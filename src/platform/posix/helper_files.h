@@ -22,7 +22,7 @@ public:
     [[nodiscard]] std::optional<std::string> status() override;
 
     // A folder that it makes is open to everybody, and so is the file, whatever the process's umask.
-    void replaceConfig(std::string_view text) override;
+    [[nodiscard]] Result<void> replaceConfig(std::string_view text) override;
 
 private:
     [[nodiscard]] std::filesystem::path configFile() const { return folder_ / "config.json"; }

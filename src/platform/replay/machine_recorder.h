@@ -7,23 +7,25 @@
 namespace quelby {
 
 // The platform that it offers passes every question on to the real one and notes the answer.
-class MachineRecorder final : BatterySource, ProcessLister, Clock, HelperFolder, ServiceManager, StorageDraw {
+class MachineRecorder final : BatterySource,
+                              ProcessLister,
+                              Clock,
+                              HelperFolder,
+                              HelperInstaller,
+                              StorageDraw {
 public:
     // The real platform's parts outlive the recorder.
     explicit MachineRecorder(const Platform& real) : real_(real) {}
 
     [[nodiscard]] Platform platform() {
-        return {.battery = *this,
-                .processes = *this,
-                .clock = *this,
-                .folders = real_.folders,
-                .helperFolder = *this,
-                .loginItem = real_.loginItem,
-                .runLoop = real_.runLoop,
-                .preferences = real_.preferences,
-                .privilegedShell = real_.privilegedShell,
-                .serviceManager = *this,
-                .storageDraw = *this};
+        auto platform = real_;
+        platform.battery = *this;
+        platform.processes = *this;
+        platform.clock = *this;
+        platform.helperFolder = *this;
+        platform.helperInstaller = *this;
+        platform.storageDraw = *this;
+        return platform;
     }
 
     // The answers since the last call: those of one cycle, if called at the end of each.
@@ -34,17 +36,30 @@ private:
     std::optional<std::string> cpuListing() override;
     std::optional<std::string> topListing() override;
     std::int64_t logicalProcessors() override;
-    double now() override;
-    double startOfDay() override;
+    Date now() override;
+    Date startOfDay() override;
     std::optional<std::string> config() override;
     std::optional<std::string> status() override;
-    void replaceConfig(std::string_view text) override;
-    bool isHelperLoaded() override;
+
+    Result<void> replaceConfig(std::string_view text) override {
+        return real_.helperFolder->replaceConfig(text);
+    }
+
+    bool isLoaded() override;
+
+    Result<void> install() override { return real_.helperInstaller->install(); }
+
+    Result<void> uninstall() override { return real_.helperInstaller->uninstall(); }
+
+    Result<void> uninstallEverything() override { return real_.helperInstaller->uninstallEverything(); }
+
     int draw() override;
 
     Platform real_;
     RecordedCycle cycle_;
-    bool helperLoaded_ = false; // as was told at the start, and holds for every cycle
+    // As they were told last, mostly at the start, which holds for every cycle from then on.
+    bool helperLoaded_ = false;
+    std::optional<std::string> config_;
 };
 
 } // namespace quelby

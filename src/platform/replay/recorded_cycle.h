@@ -18,6 +18,7 @@ struct RecordedCycle {
     std::optional<int> storageDraw;    // 0 or 1; none: nothing was drawn
     std::optional<std::string> status; // text of the helper's status.json; none: no such file
     bool helperLoaded = false;
+    std::optional<std::string> config; // text of the helper's config.json; none: no such file
 
     bool operator==(const RecordedCycle&) const = default;
 };

@@ -159,6 +159,7 @@ Result<RecordedCycle> parseRecordingLine(std::string_view line) {
     reader.optional("status", "a text", [&](const Json& value) { return readListing(value, cycle.status); });
     reader.optional("helperLoaded", "a Boolean",
                     [&](const Json& value) { return readFlag(value, cycle.helperLoaded); });
+    reader.optional("config", "a text", [&](const Json& value) { return readListing(value, cycle.config); });
     if (!reader.complaint().empty()) {
         return problem(reader.complaint());
     }
@@ -179,6 +180,9 @@ std::string recordingLine(const RecordedCycle& cycle) {
         object["status"] = *cycle.status;
     }
     object["helperLoaded"] = cycle.helperLoaded;
+    if (cycle.config) {
+        object["config"] = *cycle.config;
+    }
     // A listing that is not UTF-8 would otherwise be an exception; JSON has no other text.
     return object.dump(-1, ' ', false, OrderedJson::error_handler_t::replace);
 }

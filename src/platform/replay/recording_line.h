@@ -4,10 +4,11 @@
 //   battery       the property table, null (no battery service) or "unreadable"
 //   processors    number of logical processors
 //   cpuListing    text, or null (the lister could not be started)
-//   topListing    likewise
+//   topListing    text, or null (the lister could not be started)
 //   storageDraw   optional: 0 or 1
 //   status        optional: text of the helper's status.json
 //   helperLoaded  optional: Boolean
+//   config        optional: text of the helper's config.json
 //
 // Other keys are passed over, so that older programs read newer recordings. An optional key that is null
 // counts as absent. A property of the battery that is neither a Boolean nor an integer of 64 bits counts as

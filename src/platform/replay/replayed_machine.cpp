@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/posix/local_day.h"
+#include "platform/local_day.h"
 
 namespace quelby {
 
@@ -52,8 +52,12 @@ void ReplayedMachine::goOn() {
     }
 }
 
-double ReplayedMachine::startOfDay() {
+Date ReplayedMachine::startOfDay() {
     return startOfLocalDay(now());
+}
+
+Result<void> ReplayedMachine::install() {
+    return problem("a recorded machine has no helper that could be installed or removed");
 }
 
 int ReplayedMachine::draw() {

@@ -1,13 +1,14 @@
 // A recorded machine in place of this one.
 #pragma once
 
+#include "base/cycle_interval.h"
 #include "base/problem.h"
 #include "platform/battery_source.h"
 #include "platform/clock.h"
+#include "platform/helper_installer.h"
 #include "platform/process_lister.h"
 #include "platform/random_storage_draw.h"
 #include "platform/replay/recording_reader.h"
-#include "platform/service_manager.h"
 
 namespace quelby {
 
@@ -20,7 +21,7 @@ enum class AfterLastLine { stay, startAgain };
 class ReplayedMachine final : public BatterySource,
                               public ProcessLister,
                               public Clock,
-                              public ServiceManager,
+                              public HelperInstaller,
                               public StorageDraw {
 public:
     [[nodiscard]] static Result<ReplayedMachine> open(const std::filesystem::path& recording,
@@ -37,14 +38,24 @@ public:
 
     [[nodiscard]] std::int64_t logicalProcessors() override { return present_.processors; }
 
-    [[nodiscard]] double now() override { return present_.time + clockAdvance_; }
+    [[nodiscard]] Date now() override { return present_.time + clockAdvance_; }
 
-    [[nodiscard]] double startOfDay() override;
+    [[nodiscard]] Date startOfDay() override;
 
     // The text of the helper's status.json, where there was one.
     [[nodiscard]] const std::optional<std::string>& helperStatus() const { return present_.status; }
 
-    [[nodiscard]] bool isHelperLoaded() override { return present_.helperLoaded; }
+    // Likewise of its config.json.
+    [[nodiscard]] const std::optional<std::string>& helperConfig() const { return present_.config; }
+
+    [[nodiscard]] bool isLoaded() override { return present_.helperLoaded; }
+
+    // Nobody is asked for a password, and nothing is changed.
+    [[nodiscard]] Result<void> install() override;
+
+    [[nodiscard]] Result<void> uninstall() override { return install(); }
+
+    [[nodiscard]] Result<void> uninstallEverything() override { return install(); }
 
     // Where nothing was recorded, the same draws come at every replay.
     [[nodiscard]] int draw() override;
@@ -61,7 +72,7 @@ private:
     std::optional<RecordedCycle> next_;
     bool started_ = false;
     double clockAdvance_ = 0; // seconds that the clock is ahead of the lines' times
-    double lastStep_ = 3;     // seconds between the last two lines
+    double lastStep_ = static_cast<double>(cycleInterval.count()); // seconds between the last two lines
     RandomStorageDraw unrecordedDraws_{1};
 };
 

@@ -30,6 +30,13 @@ QLinearGradient gradient(QPointF from, QPointF to, const QList<QColor>& colors) 
 
 } // namespace
 
+QFont fontOf(const ChartStyle& style, qreal size, QFont::Weight weight) {
+    QFont font(style.fontFamily);
+    font.setPixelSize(qRound(size));
+    font.setWeight(weight);
+    return font;
+}
+
 ChartItem::ChartItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
     setAntialiasing(true);
     setAcceptHoverEvents(true);
@@ -48,41 +55,25 @@ void ChartItem::hover(int index) {
     setHoverIndex(index >= 0 && static_cast<std::size_t>(index) < count() ? index : -1);
 }
 
-void ChartItem::setCurveColors(const QList<QColor>& colors) {
-    curveColors_ = colors;
+void ChartItem::setStyle(ChartStyle* style) {
+    if (style == style_) {
+        return;
+    }
+    if (style_) {
+        style_->disconnect(this);
+    }
+    style_ = style;
+    if (style_) {
+        QObject::connect(style_, &ChartStyle::changed, this, [this] { update(); });
+    }
     update();
-    Q_EMIT appearanceChanged();
+    Q_EMIT styleChanged();
 }
 
 void ChartItem::setAreaColors(const QList<QColor>& colors) {
     areaColors_ = colors;
     update();
-    Q_EMIT appearanceChanged();
-}
-
-void ChartItem::setLabelColor(const QColor& color) {
-    labelColor_ = color;
-    update();
-    Q_EMIT appearanceChanged();
-}
-
-void ChartItem::setHaloColor(const QColor& color) {
-    haloColor_ = color;
-    update();
-    Q_EMIT appearanceChanged();
-}
-
-void ChartItem::setFontFamily(const QString& family) {
-    fontFamily_ = family;
-    update();
-    Q_EMIT appearanceChanged();
-}
-
-QFont ChartItem::font(qreal size, QFont::Weight weight) const {
-    QFont font(fontFamily_);
-    font.setPixelSize(qRound(size));
-    font.setWeight(weight);
-    return font;
+    Q_EMIT areaColorsChanged();
 }
 
 void ChartItem::redraw() {
@@ -122,19 +113,19 @@ void ChartItem::setHoverIndex(int index) {
 }
 
 void ChartItem::paint(QPainter* painter) {
-    if (count() == 0) {
+    if (count() == 0 || !style_) {
         return;
     }
     painter->setRenderHint(QPainter::Antialiasing);
     painter->translate(overhang(), overhang());
-    paintCurve(*painter);
-    paintMarks(*painter);
+    paintCurve(*painter, *style_);
+    paintMarks(*painter, *style_);
     if (const auto readOut = currentReadOut()) {
-        paintReadOut(*painter, *readOut);
+        paintReadOut(*painter, *style_, *readOut);
     }
 }
 
-void ChartItem::paintCurve(QPainter& painter) const {
+void ChartItem::paintCurve(QPainter& painter, const ChartStyle& style) const {
     const auto line = polyline(curve());
     if (line.size() < 2) {
         return;
@@ -144,36 +135,37 @@ void ChartItem::paintCurve(QPainter& painter) const {
     painter.setPen(Qt::NoPen);
     painter.setBrush(gradient({0, 0}, {0, chartSize().height}, areaColors_));
     painter.drawPolygon(area);
-    constexpr qreal lineWidth = 2;
-    painter.setPen(QPen(gradient({0, 0}, {chartSize().width, 0}, curveColors_), lineWidth, Qt::SolidLine,
-                        Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(gradient({0, 0}, {chartSize().width, 0}, style.curveColors), style.curveWidth,
+                        Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
     painter.drawPolyline(line);
 }
 
-void ChartItem::paintReadOut(QPainter& painter, const HoverReadOut& readOut) const {
+void ChartItem::paintReadOut(QPainter& painter, const ChartStyle& style, const HoverReadOut& readOut) const {
     const QPointF point(readOut.point.x, readOut.point.y);
     const QLineF line(point.x(), 0, point.x(), chartSize().height);
-    painter.setPen(QPen(haloColor_, 2));
+    painter.setPen(QPen(style.haloColor, style.lineWidth + style.haloWidth / 2));
     painter.drawLine(line);
-    painter.setPen(QPen(QColor(255, 255, 255, 102), 1));
+    painter.setPen(QPen(style.lineColor, style.lineWidth));
     painter.drawLine(line);
 
-    constexpr qreal circle = 7;
-    constexpr qreal halo = circle + 2;
+    const qreal radius = style.circleDiameter / 2;
+    const qreal haloRadius = radius + style.haloWidth / 2;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(haloColor_);
-    painter.drawEllipse(point, halo / 2, halo / 2);
-    painter.setBrush(Qt::white);
-    painter.drawEllipse(point, circle / 2, circle / 2);
+    painter.setBrush(style.haloColor);
+    painter.drawEllipse(point, haloRadius, haloRadius);
+    painter.setBrush(style.circleColor);
+    painter.drawEllipse(point, radius, radius);
 
-    painter.setFont(font(10, QFont::DemiBold));
+    painter.setFont(fontOf(style, style.labelSize, QFont::DemiBold));
     const auto text = QString::fromStdString(readOut.label);
-    QRectF label = QRectF(painter.fontMetrics().boundingRect(text)).marginsAdded({6, 3, 6, 3});
+    const QMarginsF padding(style.labelHorizontalPadding, style.labelVerticalPadding,
+                            style.labelHorizontalPadding, style.labelVerticalPadding);
+    QRectF label = QRectF(painter.fontMetrics().boundingRect(text)).marginsAdded(padding);
     label.moveCenter({readOut.labelCentre.x, readOut.labelCentre.y});
-    painter.setBrush(QColor(0, 0, 0, 204));
-    painter.drawRoundedRect(label, 4, 4);
-    painter.setPen(Qt::white);
+    painter.setBrush(style.labelBackground);
+    painter.drawRoundedRect(label, style.labelRadius, style.labelRadius);
+    painter.setPen(style.labelColor);
     painter.drawText(label, Qt::AlignCenter, text);
 }
 

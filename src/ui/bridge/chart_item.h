@@ -9,12 +9,16 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPointer>
 #include <QQuickPaintedItem>
 #include <qqmlintegration.h>
 
-#include "ui/presentation/chart_scale.h"
+#include "ui/bridge/chart_style.h"
+#include "ui/presentation/charts/chart_scale.h"
 
 namespace quelby {
+
+[[nodiscard]] QFont fontOf(const ChartStyle& style, qreal size, QFont::Weight weight);
 
 class ChartItem : public QQuickPaintedItem {
     Q_OBJECT
@@ -23,14 +27,10 @@ class ChartItem : public QQuickPaintedItem {
     Q_PROPERTY(int hoverIndex READ hoverIndex NOTIFY hoverIndexChanged)
     Q_PROPERTY(QString readOut READ readOut NOTIFY hoverIndexChanged)
     Q_PROPERTY(qreal overhang READ overhang CONSTANT)
-    // From the left to the right end of the curve, at equal distances.
-    Q_PROPERTY(QList<QColor> curveColors READ curveColors WRITE setCurveColors NOTIFY appearanceChanged)
-    // From the top to the bottom of the area, likewise.
-    Q_PROPERTY(QList<QColor> areaColors READ areaColors WRITE setAreaColors NOTIFY appearanceChanged)
-    Q_PROPERTY(QColor labelColor READ labelColor WRITE setLabelColor NOTIFY appearanceChanged)
-    // Around what is white of the read-out, where the chart's surroundings are light.
-    Q_PROPERTY(QColor haloColor READ haloColor WRITE setHaloColor NOTIFY appearanceChanged)
-    Q_PROPERTY(QString fontFamily READ fontFamily WRITE setFontFamily NOTIFY appearanceChanged)
+    Q_PROPERTY(
+        quelby::ChartStyle* style READ style WRITE setStyle NOTIFY styleChanged) // none: nothing is drawn
+    // From the top to the bottom of the area, at equal distances.
+    Q_PROPERTY(QList<QColor> areaColors READ areaColors WRITE setAreaColors NOTIFY areaColorsChanged)
 
 public:
     explicit ChartItem(QQuickItem* parent = nullptr);
@@ -46,31 +46,21 @@ public:
     // Moves the read-out as the pointer would; beyond the last sample shows none. For the keyboard.
     Q_INVOKABLE void hover(int index);
 
-    [[nodiscard]] QList<QColor> curveColors() const { return curveColors_; }
+    [[nodiscard]] ChartStyle* style() const { return style_; }
 
-    void setCurveColors(const QList<QColor>& colors);
+    // The chart follows the style's changes as long as there is the style.
+    void setStyle(ChartStyle* style);
 
     [[nodiscard]] QList<QColor> areaColors() const { return areaColors_; }
 
     void setAreaColors(const QList<QColor>& colors);
 
-    [[nodiscard]] QColor labelColor() const { return labelColor_; }
-
-    void setLabelColor(const QColor& color);
-
-    [[nodiscard]] QColor haloColor() const { return haloColor_; }
-
-    void setHaloColor(const QColor& color);
-
-    [[nodiscard]] QString fontFamily() const { return fontFamily_; }
-
-    void setFontFamily(const QString& family);
-
     void paint(QPainter* painter) override;
 
 Q_SIGNALS:
     void hoverIndexChanged();
-    void appearanceChanged();
+    void styleChanged();
+    void areaColorsChanged();
 
 protected:
     void hoverEnterEvent(QHoverEvent* event) override;
@@ -79,8 +69,6 @@ protected:
 
     // Of the chart, without the overhang.
     [[nodiscard]] ChartSize chartSize() const;
-
-    [[nodiscard]] QFont font(qreal size, QFont::Weight weight) const;
 
     // The data are others now.
     void redraw();
@@ -91,20 +79,17 @@ private:
     [[nodiscard]] virtual std::optional<HoverReadOut> readOutAt(std::size_t index) const = 0;
 
     // What belongs to one of the charts only, over the curve and below the read-out.
-    virtual void paintMarks(QPainter& painter) const = 0;
+    virtual void paintMarks(QPainter& painter, const ChartStyle& style) const = 0;
 
     [[nodiscard]] std::optional<HoverReadOut> currentReadOut() const;
     void pointAt(QPointF position);
     void setHoverIndex(int index);
-    void paintCurve(QPainter& painter) const;
-    void paintReadOut(QPainter& painter, const HoverReadOut& readOut) const;
+    void paintCurve(QPainter& painter, const ChartStyle& style) const;
+    void paintReadOut(QPainter& painter, const ChartStyle& style, const HoverReadOut& readOut) const;
 
     int hoverIndex_ = -1;
-    QList<QColor> curveColors_;
+    QPointer<ChartStyle> style_;
     QList<QColor> areaColors_;
-    QColor labelColor_;
-    QColor haloColor_ = Qt::transparent;
-    QString fontFamily_;
 };
 
 } // namespace quelby

@@ -1,7 +1,7 @@
 #include "ui/bridge/dashboard_model.h"
 
-#include "ui/presentation/dialogs.h"
-#include "ui/presentation/relative_date.h"
+#include "platform/relative_date.h"
+#include "ui/presentation/cards/dialogs.h"
 
 namespace quelby {
 
@@ -16,7 +16,7 @@ auto elementAt(const Elements& elements, int index) -> std::optional<typename El
 
 } // namespace
 
-DashboardModel::DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, DashboardActions actions,
+DashboardModel::DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, ProgramActions actions,
                                QObject* parent)
     : QObject(parent), monitor_(std::move(monitor)), clock_(clock), actions_(std::move(actions)) {}
 
@@ -56,18 +56,30 @@ void DashboardModel::refreshLater() {
         Qt::QueuedConnection);
 }
 
-template <typename T>
-void DashboardModel::renew(T& held, T coming, Changed changed) {
-    if (held == coming) {
+template <typename Value, typename Record>
+void DashboardModel::renew(Value& held, Record coming, Changed changed) {
+    if (held.present() && *held == coming) {
         return;
     }
-    held = std::move(coming);
+    held = Value(std::move(coming));
     Q_EMIT(this->*changed)();
 }
 
+template <typename Value, typename Record>
+void DashboardModel::renew(Value& held, std::optional<Record> coming, Changed changed) {
+    if (coming) {
+        renew(held, std::move(*coming), changed);
+    } else if (held.present()) {
+        held = Value();
+        Q_EMIT(this->*changed)();
+    }
+}
+
 void DashboardModel::refresh() {
-    renew(shouldShowChargingTip_, monitor_->shouldShowChargingTip.get(),
-          &DashboardModel::shouldShowChargingTipChanged);
+    if (shouldShowChargingTip_ != monitor_->shouldShowChargingTip.get()) {
+        shouldShowChargingTip_ = !shouldShowChargingTip_;
+        Q_EMIT shouldShowChargingTipChanged();
+    }
     if (settingsShown_) {
         refreshSettings();
     } else {
@@ -76,30 +88,18 @@ void DashboardModel::refresh() {
 }
 
 void DashboardModel::refreshDashboard() {
-    const auto content = dashboard(*monitor_, clock_.now());
-    renew(header_, HeaderValue(content.header), &DashboardModel::headerChanged);
-    renew(powerBadge_, PowerBadgeValue(content.powerBadge), &DashboardModel::powerBadgeChanged);
-    renew(components_, ComponentsValue(content.components), &DashboardModel::componentsChanged);
-    renew(processes_, ProcessesValue(content.processes), &DashboardModel::processesChanged);
-    renew(history_, HistoryValue(content.history), &DashboardModel::historyChanged);
-    renew(efficiency_, EfficiencyValue(content.efficiency), &DashboardModel::efficiencyChanged);
-    if (content.trend) {
-        renew(trend_, TrendValue(*content.trend), &DashboardModel::trendChanged);
-    }
-    if (content.battery && content.chargeLimit && content.details) {
-        renew(chargeLimit_, ChargeLimitValue(*content.chargeLimit), &DashboardModel::chargeLimitChanged);
-        renew(battery_, BatteryValue(*content.battery), &DashboardModel::batteryChanged);
-        renew(details_, DetailsValue(*content.details), &DashboardModel::detailsChanged);
-    }
-    // Last, so that a card appears with its content.
-    renew(hasTrend_, content.trend.has_value(), &DashboardModel::hasTrendChanged);
-    renew(hasBattery_, content.battery.has_value(), &DashboardModel::hasBatteryChanged);
+    auto content = dashboard(*monitor_, clock_.now(), systemWords());
+    renew(header_, std::move(content.header), &DashboardModel::headerChanged);
+#define QUELBY_RENEW_CARD(kind, type, name)                                                                  \
+    renew(name##_, std::move(content.name), &DashboardModel::name##Changed);
+    QUELBY_CARDS(QUELBY_RENEW_CARD)
+#undef QUELBY_RENEW_CARD
 }
 
 void DashboardModel::refreshSettings() {
-    const SettingsValue content(settingsPanel(*monitor_, clock_.now(), userLanguage()));
+    auto content = settingsPanel(*monitor_, clock_.now(), relativeDate);
     renew(header_, content.header, &DashboardModel::headerChanged);
-    renew(settings_, content, &DashboardModel::settingsChanged);
+    renew(settings_, std::move(content), &DashboardModel::settingsChanged);
 }
 
 void DashboardModel::setSettingsShown(bool shown) {
@@ -118,7 +118,7 @@ LabelValue DashboardModel::quitButton() const {
 }
 
 DialogValue DashboardModel::chargingTip() const {
-    return DialogValue(quelby::chargingTip());
+    return DialogValue(quelby::chargingTip(systemWords()));
 }
 
 DialogValue DashboardModel::uninstallConfirmation() const {
@@ -130,19 +130,19 @@ void DashboardModel::setShouldShowChargingTip(bool shown) {
 }
 
 void DashboardModel::toggleChargeLimit(bool enabled) {
-    monitor_->toggleChargeLimit(enabled);
+    static_cast<void>(monitor_->toggleChargeLimit(enabled));
 }
 
 void DashboardModel::setChargeLimit(double percent) {
-    monitor_->setChargeLimit(percent);
+    static_cast<void>(monitor_->setChargeLimit(percent));
 }
 
 void DashboardModel::installDaemon() {
-    monitor_->installDaemon();
+    static_cast<void>(monitor_->installDaemon());
 }
 
 void DashboardModel::uninstallDaemon() {
-    monitor_->uninstallDaemon();
+    static_cast<void>(monitor_->uninstallDaemon());
 }
 
 void DashboardModel::selectHistoryRange(int index) {
@@ -162,12 +162,12 @@ void DashboardModel::selectMenuBarDisplay(int index) {
 }
 
 void DashboardModel::setAutoCalibrate(bool enabled) {
-    monitor_->updateCalibrationSettings(enabled, monitor_->calibrationIntervalDays);
+    static_cast<void>(monitor_->updateCalibrationSettings(enabled, monitor_->calibrationIntervalDays));
 }
 
 void DashboardModel::selectCalibrationInterval(int index) {
     if (const auto days = elementAt(calibrationIntervals, index)) {
-        monitor_->updateCalibrationSettings(true, *days);
+        static_cast<void>(monitor_->updateCalibrationSettings(true, *days));
     }
 }
 

@@ -13,13 +13,22 @@
 #include <qqmlintegration.h>
 
 #include "monitor/power_monitor.h"
-#include "ui/bridge/card_values.h"
-#include "ui/bridge/settings_values.h"
+#include "ui/bridge/values.h"
+
+// What the model has for each card: a property, which is absent while the card is not shown.
+#define QUELBY_CARD_PROPERTY(kind, type, name)                                                               \
+    Q_PROPERTY(quelby::type##Value name READ name NOTIFY name##Changed)
+#define QUELBY_CARD_READER(kind, type, name)                                                                 \
+    [[nodiscard]] type##Value name() const {                                                                 \
+        return name##_;                                                                                      \
+    }
+#define QUELBY_CARD_SIGNAL(kind, type, name) void name##Changed();
+#define QUELBY_CARD_HELD(kind, type, name) type##Value name##_;
 
 namespace quelby {
 
 // What the dashboard asks of the program around it.
-struct DashboardActions {
+struct ProgramActions {
     std::function<void()> quit;
     std::function<void()> openBatterySettings;
 };
@@ -33,19 +42,9 @@ class DashboardModel : public QObject {
     Q_PROPERTY(bool watched READ isWatched WRITE setWatched NOTIFY watchedChanged)
     Q_PROPERTY(bool settingsShown READ areSettingsShown WRITE setSettingsShown NOTIFY settingsShownChanged)
 
-    Q_PROPERTY(bool hasBattery READ hasBattery NOTIFY hasBatteryChanged)
-    Q_PROPERTY(bool hasTrend READ hasTrend NOTIFY hasTrendChanged)
     Q_PROPERTY(quelby::HeaderValue header READ header NOTIFY headerChanged)
-    Q_PROPERTY(quelby::ChargeLimitValue chargeLimit READ chargeLimit NOTIFY chargeLimitChanged)
-    Q_PROPERTY(quelby::PowerBadgeValue powerBadge READ powerBadge NOTIFY powerBadgeChanged)
-    Q_PROPERTY(quelby::BatteryValue battery READ battery NOTIFY batteryChanged)
-    Q_PROPERTY(quelby::ComponentsValue components READ components NOTIFY componentsChanged)
-    Q_PROPERTY(quelby::ProcessesValue processes READ processes NOTIFY processesChanged)
-    Q_PROPERTY(quelby::TrendValue trend READ trend NOTIFY trendChanged)
-    Q_PROPERTY(quelby::HistoryValue history READ history NOTIFY historyChanged)
-    Q_PROPERTY(quelby::EfficiencyValue efficiency READ efficiency NOTIFY efficiencyChanged)
-    Q_PROPERTY(quelby::DetailsValue details READ details NOTIFY detailsChanged)
-    Q_PROPERTY(quelby::SettingsValue settings READ settings NOTIFY settingsChanged)
+    QUELBY_CARDS(QUELBY_CARD_PROPERTY)
+    Q_PROPERTY(quelby::SettingsPanelValue settings READ settings NOTIFY settingsChanged)
     Q_PROPERTY(quelby::LabelValue quitButton READ quitButton CONSTANT)
 
     Q_PROPERTY(quelby::DialogValue chargingTip READ chargingTip CONSTANT)
@@ -55,7 +54,7 @@ class DashboardModel : public QObject {
 
 public:
     // The clock outlives the model.
-    DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, DashboardActions actions,
+    DashboardModel(std::shared_ptr<PowerMonitor> monitor, Clock& clock, ProgramActions actions,
                    QObject* parent = nullptr);
 
     [[nodiscard]] bool isWatched() const { return !subscriptions_.empty(); }
@@ -66,31 +65,11 @@ public:
 
     void setSettingsShown(bool shown);
 
-    [[nodiscard]] bool hasBattery() const { return hasBattery_; }
-
-    [[nodiscard]] bool hasTrend() const { return hasTrend_; }
-
     [[nodiscard]] HeaderValue header() const { return header_; }
 
-    [[nodiscard]] ChargeLimitValue chargeLimit() const { return chargeLimit_; }
+    QUELBY_CARDS(QUELBY_CARD_READER)
 
-    [[nodiscard]] PowerBadgeValue powerBadge() const { return powerBadge_; }
-
-    [[nodiscard]] BatteryValue battery() const { return battery_; }
-
-    [[nodiscard]] ComponentsValue components() const { return components_; }
-
-    [[nodiscard]] ProcessesValue processes() const { return processes_; }
-
-    [[nodiscard]] TrendValue trend() const { return trend_; }
-
-    [[nodiscard]] HistoryValue history() const { return history_; }
-
-    [[nodiscard]] EfficiencyValue efficiency() const { return efficiency_; }
-
-    [[nodiscard]] DetailsValue details() const { return details_; }
-
-    [[nodiscard]] SettingsValue settings() const { return settings_; }
+    [[nodiscard]] SettingsPanelValue settings() const { return settings_; }
 
     [[nodiscard]] LabelValue quitButton() const;
     [[nodiscard]] DialogValue chargingTip() const;
@@ -104,8 +83,9 @@ public:
     Q_INVOKABLE void setChargeLimit(double percent);
     Q_INVOKABLE void installDaemon();
     Q_INVOKABLE void uninstallDaemon();
-    Q_INVOKABLE void
-    selectHistoryRange(int index); // of the range buttons; others are ignored, likewise below
+
+    // What is chosen counts from 0 in the order of its buttons; a number that no button has is ignored.
+    Q_INVOKABLE void selectHistoryRange(int index);
     Q_INVOKABLE void setLaunchAtLogin(bool enabled);
     Q_INVOKABLE void selectMenuBarDisplay(int index);
     Q_INVOKABLE void setAutoCalibrate(bool enabled);
@@ -117,18 +97,8 @@ public:
 Q_SIGNALS:
     void watchedChanged();
     void settingsShownChanged();
-    void hasBatteryChanged();
-    void hasTrendChanged();
     void headerChanged();
-    void chargeLimitChanged();
-    void powerBadgeChanged();
-    void batteryChanged();
-    void componentsChanged();
-    void processesChanged();
-    void trendChanged();
-    void historyChanged();
-    void efficiencyChanged();
-    void detailsChanged();
+    QUELBY_CARDS(QUELBY_CARD_SIGNAL)
     void settingsChanged();
     void shouldShowChargingTipChanged();
 
@@ -141,29 +111,22 @@ private:
     void refreshDashboard();
     void refreshSettings();
 
-    template <typename T>
-    void renew(T& held, T coming, Changed changed);
+    // Holds what is coming, if it says something else, and tells so.
+    template <typename Value, typename Record>
+    void renew(Value& held, Record coming, Changed changed);
+    template <typename Value, typename Record>
+    void renew(Value& held, std::optional<Record> coming, Changed changed);
 
     std::shared_ptr<PowerMonitor> monitor_;
     Clock& clock_;
-    DashboardActions actions_;
+    ProgramActions actions_;
     std::vector<Subscription> subscriptions_; // none while nobody watches
     bool refreshing_ = false;                 // at the end of this turn
     bool settingsShown_ = false;
-    bool hasBattery_ = false;
-    bool hasTrend_ = false;
     bool shouldShowChargingTip_ = false;
     HeaderValue header_;
-    ChargeLimitValue chargeLimit_;
-    PowerBadgeValue powerBadge_;
-    BatteryValue battery_;
-    ComponentsValue components_;
-    ProcessesValue processes_;
-    TrendValue trend_;
-    HistoryValue history_;
-    EfficiencyValue efficiency_;
-    DetailsValue details_;
-    SettingsValue settings_;
+    QUELBY_CARDS(QUELBY_CARD_HELD)
+    SettingsPanelValue settings_;
 };
 
 } // namespace quelby

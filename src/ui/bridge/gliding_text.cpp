@@ -1,6 +1,6 @@
 #include "ui/bridge/gliding_text.h"
 
-#include "ui/presentation/gliding_text.h"
+#include "ui/presentation/text/text_between.h"
 
 namespace quelby {
 
@@ -24,7 +24,7 @@ void GlidingText::setProgress(qreal progress) {
 
 void GlidingText::show() {
     const auto text =
-        QString::fromStdString(glidingText(from_.toStdString(), target_.toStdString(), progress_));
+        QString::fromStdString(textBetween(from_.toStdString(), target_.toStdString(), progress_));
     if (text != text_) {
         text_ = text;
         Q_EMIT textChanged();

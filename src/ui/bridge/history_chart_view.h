@@ -1,10 +1,9 @@
 #pragma once
 
-#include <QPointF>
 #include <qqmlintegration.h>
 
-#include "history/history_data_point.h"
 #include "ui/bridge/chart_item.h"
+#include "ui/bridge/values.h"
 
 namespace quelby {
 
@@ -13,26 +12,26 @@ namespace quelby {
 class HistoryChartView : public quelby::ChartItem {
     Q_OBJECT
     QML_ELEMENT
-    // Seconds since 1970-01-01 00:00 UTC and watts, oldest first.
-    Q_PROPERTY(QList<QPointF> points READ points WRITE setPoints NOTIFY pointsChanged)
+    Q_PROPERTY(quelby::HistoryDataPointSeries points READ points WRITE setPoints NOTIFY pointsChanged)
 
 public:
     explicit HistoryChartView(QQuickItem* parent = nullptr) : ChartItem(parent) {}
 
-    [[nodiscard]] QList<QPointF> points() const;
-    void setPoints(const QList<QPointF>& points);
+    [[nodiscard]] HistoryDataPointSeries points() const { return points_; }
+
+    void setPoints(const HistoryDataPointSeries& points);
 
 Q_SIGNALS:
     void pointsChanged();
 
 private:
-    [[nodiscard]] std::size_t count() const override { return data_.size(); }
+    [[nodiscard]] std::size_t count() const override { return points_->size(); }
 
     [[nodiscard]] std::vector<ChartPoint> curve() const override;
     [[nodiscard]] std::optional<HoverReadOut> readOutAt(std::size_t index) const override;
-    void paintMarks(QPainter& painter) const override;
+    void paintMarks(QPainter& painter, const ChartStyle& style) const override;
 
-    std::vector<HistoryDataPoint> data_;
+    HistoryDataPointSeries points_;
 };
 
 } // namespace quelby

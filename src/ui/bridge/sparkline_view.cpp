@@ -2,48 +2,44 @@
 
 #include <QPainter>
 
-#include "ui/presentation/sparkline.h"
+#include "ui/presentation/charts/sparkline.h"
 
 namespace quelby {
 
-QList<qreal> SparklineView::samples() const {
-    return {samples_.begin(), samples_.end()};
-}
-
-void SparklineView::setSamples(const QList<qreal>& samples) {
-    samples_.assign(samples.begin(), samples.end());
+void SparklineView::setSamples(const WattsSeries& samples) {
+    samples_ = samples;
     redraw();
     Q_EMIT samplesChanged();
 }
 
-InkValue SparklineView::dotInk() const {
-    const auto dot = newestDot(samples_, chartSize());
-    return dot ? InkValue(dot->color) : InkValue();
+ColorValue SparklineView::dotInk() const {
+    const auto dot = newestDot(*samples_, chartSize());
+    return dot ? ColorValue(dot->color) : ColorValue();
 }
 
 void SparklineView::setDotColor(const QColor& color) {
     dotColor_ = color;
     update();
-    Q_EMIT appearanceChanged();
+    Q_EMIT dotColorChanged();
 }
 
 std::vector<ChartPoint> SparklineView::curve() const {
-    return sparkline(samples_, chartSize());
+    return sparkline(*samples_, chartSize());
 }
 
 std::optional<HoverReadOut> SparklineView::readOutAt(std::size_t index) const {
-    return sparklineReadOut(samples_, chartSize(), index);
+    return sparklineReadOut(*samples_, chartSize(), index);
 }
 
-void SparklineView::paintMarks(QPainter& painter) const {
-    const auto dot = newestDot(samples_, chartSize());
+void SparklineView::paintMarks(QPainter& painter, const ChartStyle& style) const {
+    const auto dot = newestDot(*samples_, chartSize());
     if (!dot || hoverIndex() >= 0) {
         return;
     }
-    constexpr qreal diameter = 6;
+    const qreal radius = style.dotDiameter / 2;
     painter.setPen(Qt::NoPen);
     painter.setBrush(dotColor_);
-    painter.drawEllipse(QPointF(dot->point.x, dot->point.y), diameter / 2, diameter / 2);
+    painter.drawEllipse(QPointF(dot->point.x, dot->point.y), radius, radius);
 }
 
 } // namespace quelby

@@ -3,7 +3,7 @@
 #include <qqmlintegration.h>
 
 #include "ui/bridge/chart_item.h"
-#include "ui/bridge/element_values.h"
+#include "ui/bridge/values.h"
 
 namespace quelby {
 
@@ -12,18 +12,20 @@ namespace quelby {
 class SparklineView : public quelby::ChartItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QList<qreal> samples READ samples WRITE setSamples NOTIFY samplesChanged) // W, newest last
-    Q_PROPERTY(quelby::InkValue dotInk READ dotInk NOTIFY samplesChanged)
-    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY appearanceChanged)
+    Q_PROPERTY(
+        quelby::WattsSeries samples READ samples WRITE setSamples NOTIFY samplesChanged) // W, newest last
+    Q_PROPERTY(quelby::ColorValue dotInk READ dotInk NOTIFY samplesChanged)
+    Q_PROPERTY(QColor dotColor READ dotColor WRITE setDotColor NOTIFY dotColorChanged)
 
 public:
     explicit SparklineView(QQuickItem* parent = nullptr) : ChartItem(parent) {}
 
-    [[nodiscard]] QList<qreal> samples() const;
-    void setSamples(const QList<qreal>& samples);
+    [[nodiscard]] WattsSeries samples() const { return samples_; }
+
+    void setSamples(const WattsSeries& samples);
 
     // What the dot's colour means; what it looks like is said by dotColor.
-    [[nodiscard]] InkValue dotInk() const;
+    [[nodiscard]] ColorValue dotInk() const;
 
     [[nodiscard]] QColor dotColor() const { return dotColor_; }
 
@@ -31,15 +33,16 @@ public:
 
 Q_SIGNALS:
     void samplesChanged();
+    void dotColorChanged();
 
 private:
-    [[nodiscard]] std::size_t count() const override { return samples_.size(); }
+    [[nodiscard]] std::size_t count() const override { return samples_->size(); }
 
     [[nodiscard]] std::vector<ChartPoint> curve() const override;
     [[nodiscard]] std::optional<HoverReadOut> readOutAt(std::size_t index) const override;
-    void paintMarks(QPainter& painter) const override;
+    void paintMarks(QPainter& painter, const ChartStyle& style) const override;
 
-    std::vector<double> samples_;
+    WattsSeries samples_;
     QColor dotColor_;
 };
 

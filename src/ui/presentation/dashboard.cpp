@@ -2,12 +2,12 @@
 
 namespace quelby {
 
-Dashboard dashboard(const PublishedFields& fields, Date now) {
+Dashboard dashboard(const PublishedFields& fields, Date now, const SystemWords& words) {
     const auto ifBattery = [&](auto card) {
         return fields.hasBattery ? std::optional(card(fields)) : std::nullopt;
     };
     return {.header = dashboardHeader(now),
-            .chargeLimit = ifBattery(chargeLimitCard),
+            .chargeLimit = ifBattery([&](const PublishedFields& all) { return chargeLimitCard(all, words); }),
             .powerBadge = powerBadge(fields),
             .battery = ifBattery(batteryCard),
             .components = componentCard(fields),

@@ -4,20 +4,25 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Templates as T
+import Quelby
 import Quelby.Bridge
 
 FocusScope {
     id: view
 
-    required property DashboardModel monitor
-    required property bool dark // what the desktop likes, likewise below
+    required property DashboardModel dashboard
+
+    // What the desktop likes.
+    required property bool dark
     required property bool animated
+
     property bool showSettings: false
     property bool showUninstallConfirm: false
+    property bool uninstalling: false // as soon as the question is gone from the screen
     property alias scrollTop: scroll.contentY
 
     readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
-    readonly property bool asking: tip.shown || uninstall.shown
+    readonly property bool asking: tip.shown || uninstallQuestion.shown
 
     function scrollBy(distance: real) {
         scrollTo(scroll.contentY + distance)
@@ -47,6 +52,13 @@ FocusScope {
         return false
     }
 
+    function uninstall() {
+        if (uninstalling) {
+            uninstalling = false
+            dashboard.fullUninstall()
+        }
+    }
+
     width: Theme.viewWidth
     height: Theme.viewHeight
     focus: true
@@ -70,11 +82,43 @@ FocusScope {
         }
     }
 
-    onShowSettingsChanged: scrollTo(0)
+    onShowSettingsChanged: {
+        scrollTo(0)
+        showUninstallConfirm = showUninstallConfirm && showSettings
+    }
 
-    Binding { target: view.monitor; property: "settingsShown"; value: view.showSettings }
+    Binding { target: view.dashboard; property: "settingsShown"; value: view.showSettings }
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
+
+    // A question that was left open does not come back by itself.
+    Connections {
+        target: view.dashboard
+
+        function onWatchedChanged() {
+            view.showUninstallConfirm = view.showUninstallConfirm && view.dashboard.watched
+        }
+    }
+
+    // The administrator's password is waited for, and meanwhile nothing is drawn.
+    Connections {
+        target: view.uninstalling ? view.Window.window : null
+
+        function onAfterRendering() {
+            afterThisTurn.start()
+        }
+
+        function onVisibleChanged() {
+            afterThisTurn.start()
+        }
+    }
+
+    Timer {
+        id: afterThisTurn
+
+        interval: 0
+        onTriggered: view.uninstall()
+    }
 
     Connections {
         target: view.Window.window
@@ -99,7 +143,7 @@ FocusScope {
         contentWidth: width
         contentHeight: column.implicitHeight + 2 * Theme.viewPadding
         boundsBehavior: Flickable.StopAtBounds
-        enabled: !view.asking
+        enabled: !view.asking // neither for hands nor for assistive technology
         T.ScrollBar.vertical: ScrollIndicator {}
 
         ColumnLayout {
@@ -111,14 +155,14 @@ FocusScope {
             spacing: Theme.viewSpacing
 
             DashboardHeader {
-                content: view.monitor.header
+                content: view.dashboard.header
                 inSettings: view.showSettings
                 Layout.fillWidth: true
                 onSettingsToggled: view.showSettings = !view.showSettings
             }
 
             DashboardCards {
-                monitor: view.monitor
+                dashboard: view.dashboard
                 visible: !view.showSettings
                 Layout.fillWidth: true
             }
@@ -128,17 +172,16 @@ FocusScope {
                 model: view.showSettings ? 1 : 0
 
                 SettingsPanel {
-                    monitor: view.monitor
+                    dashboard: view.dashboard
                     Layout.fillWidth: true
                     onUninstallWanted: view.showUninstallConfirm = true
                 }
             }
 
             QuitButton {
-                content: view.monitor.quitButton
+                content: view.dashboard.quitButton
                 Layout.alignment: Qt.AlignHCenter
-                Layout.topMargin: 2 * Theme.unit
-                onClicked: view.monitor.quit()
+                onClicked: view.dashboard.quit()
             }
         }
     }
@@ -147,19 +190,19 @@ FocusScope {
         id: tip
 
         anchors.fill: parent
-        content: view.monitor.chargingTip
-        shown: view.monitor.shouldShowChargingTip
-        onAccepted: view.monitor.openBatterySettings()
-        onDismissed: view.monitor.shouldShowChargingTip = false
+        content: view.dashboard.chargingTip
+        shown: view.dashboard.shouldShowChargingTip
+        onAccepted: view.dashboard.openBatterySettings()
+        onDismissed: view.dashboard.shouldShowChargingTip = false
     }
 
     ConfirmDialog {
-        id: uninstall
+        id: uninstallQuestion
 
         anchors.fill: parent
-        content: view.monitor.uninstallConfirmation
+        content: view.dashboard.uninstallConfirmation
         shown: view.showUninstallConfirm
-        onAccepted: view.monitor.fullUninstall()
+        onAccepted: view.uninstalling = true
         onDismissed: view.showUninstallConfirm = false
     }
 }

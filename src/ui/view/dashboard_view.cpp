@@ -21,7 +21,7 @@ void failIfBroken(const QQmlComponent& component) {
 
 std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& model, Appearance appearance) {
     auto* const object =
-        component.createWithInitialProperties({{QStringLiteral("monitor"), QVariant::fromValue(&model)},
+        component.createWithInitialProperties({{QStringLiteral("dashboard"), QVariant::fromValue(&model)},
                                                {QStringLiteral("dark"), appearance.dark},
                                                {QStringLiteral("animated"), appearance.animated}});
     failIfBroken(component);

@@ -4,8 +4,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/linux/status_notifier_item.h"
 #include "app/linux/support/bus_peer.h"
+#include "app/linux/tray/status_notifier_item.h"
 
 namespace quelby::app {
 namespace {
@@ -35,7 +35,8 @@ protected:
     PrivateBus bus;
     BusConnection connection;
     BusPeer peer;
-    StatusNotifierItem item{*connection, [](std::optional<QPoint>) { return true; }};
+    StatusItemActions actions;
+    StatusNotifierItem item{*connection, actions, [](std::optional<QPoint>) { return true; }};
     BusObject object{connection->baseService(), "/StatusNotifierItem", "org.kde.StatusNotifierItem"};
 };
 

@@ -6,7 +6,7 @@
 #include <QElapsedTimer>
 #include <gmock/gmock.h>
 
-#include "app/linux/dbus_types.h"
+#include "app/linux/session/dbus_types.h"
 #include "app/linux/support/tray_program.h"
 
 namespace quelby {

@@ -4,7 +4,7 @@
 
 #include "app/linux/support/tray_program.h"
 #include "history/history_file.h"
-#include "history/sqlite/statement.h"
+#include "history/support/tables.h"
 
 namespace quelby {
 namespace {
@@ -18,13 +18,7 @@ const std::string noTray = "quelby: this desktop has no tray, so the dashboard i
 class TrayProgram : public TrayProgramTest {
 protected:
     [[nodiscard]] std::int64_t recordedRows() const {
-        const auto history = openForReading(historyFile(folder.path()));
-        if (!history) {
-            ADD_FAILURE() << history.error().sentence;
-            return 0;
-        }
-        Statement count(history->get(), "SELECT COUNT(*) FROM readings");
-        return count.step() ? count.integer(0) : 0;
+        return Database(historyFile(folder.path())).number("SELECT COUNT(*) FROM readings");
     }
 };
 
@@ -59,7 +53,20 @@ TEST_F(TrayProgram, OnlyShowsAHistoryThatAnotherOneRecords) {
     RunningProgram recorder(words({"--headless"}), environment());
     static_cast<void>(recorder.line());
     startInTray();
-    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history\n"));
+    EXPECT_THAT(program->errors(), HasSubstr("so this one only shows its history until that one ends\n"));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, RecordsOnWhereTheOtherOneEnds) {
+    RunningProgram recorder(words({"--headless"}), environment());
+    static_cast<void>(recorder.line());
+    watcher.emplace("lxqt-panel");
+    start({"--fast"});
+    ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+    recorder.signal(SIGTERM);
+    EXPECT_EQ(recorder.end().exitStatus, 0);
+    const auto rows = recordedRows();
+    EXPECT_TRUE(becomes([&] { return recordedRows() > rows; }));
     expectCleanEnd();
 }
 

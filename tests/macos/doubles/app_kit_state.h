@@ -15,8 +15,8 @@ using KeyMonitor = NSEvent* (^)(NSEvent*);
 struct AppKitState {
     AppKit appKit;
     NSEvent* currentEvent = nil;
-    NSStatusBarButton* button = nil; // the item's own, likewise below
-    NSPopover* popover = nil;
+    NSStatusBarButton* button = nil; // the item's own
+    NSPopover* popover = nil;        // the one that was made last
     int items = 0;
     std::vector<KeyMonitor> monitors;
 };

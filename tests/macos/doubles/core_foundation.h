@@ -31,7 +31,7 @@ using Content = std::variant<bool, std::int64_t, double, std::string, Data, Dict
 // Ends the program, and says why, where what a real system demands is not so.
 void demand(bool condition, const char* complaint);
 
-// Likewise where the object's type is another one.
+// Ends the program where the object is of another type.
 template <typename T>
 [[nodiscard]] T& contentAs(CFTypeRef object) {
     auto* const content = std::get_if<T>(&contentOf(object));

@@ -19,6 +19,10 @@ struct Frameworks {
 
     std::vector<std::string> openedUrls;
 
+    // The calendar's answers and the formatter's: seconds since 1970 to what is made of them.
+    std::function<double(double)> startOfDay = [](double moment) { return moment; };
+    std::function<std::string(double, double)> spokenDate = [](double, double) { return "3 days ago"; };
+
     // Of the main bundle.
     std::string bundlePath = "/Applications/Quelby.app";
     std::string executablePath = "/Applications/Quelby.app/Contents/MacOS/quelbyctl";

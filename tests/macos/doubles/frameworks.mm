@@ -173,6 +173,23 @@ using namespace quelby::fake;
 
 @end
 
+@implementation NSCalendar (StartOfDay)
+
+- (NSDate*)startOfDayForDate:(NSDate*)date {
+    return [NSDate dateWithTimeIntervalSince1970:frameworks().startOfDay([date timeIntervalSince1970])];
+}
+
+@end
+
+@implementation NSRelativeDateTimeFormatter
+
+- (NSString*)localizedStringForDate:(NSDate*)date relativeToDate:(NSDate*)reference {
+    return autoreleased(
+        frameworks().spokenDate([date timeIntervalSince1970], [reference timeIntervalSince1970]));
+}
+
+@end
+
 @implementation NSBundle (MainBundle)
 
 - (NSString*)bundlePath {

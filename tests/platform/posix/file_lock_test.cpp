@@ -1,11 +1,8 @@
 #include "platform/posix/file_lock.h"
 
-#include <csignal>
-
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
-#include "support/started.h"
+#include "support/child_process.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -29,24 +26,12 @@ TEST(FileLock, HasOneHolderAtATime) {
 TEST(FileLock, EndsWithItsProcessHoweverThatEnds) {
     const TemporaryFolder folder;
     const auto file = folder.path() / "the.lock";
-    int ready[2] = {};
-    ASSERT_EQ(::pipe(ready), 0);
-    const pid_t holder = started(::fork());
-    if (holder == 0) {
+    ChildProcess holder([&](FileDescriptor ready) {
         const auto lock = FileLock::take(file);
-        const char held = std::holds_alternative<FileLock>(lock) ? 'y' : 'n';
-        static_cast<void>(::write(ready[1], &held, 1) == 1);
-        ::pause();
-        ::_exit(0);
-    }
-    char held = 'n';
-    ASSERT_EQ(::read(ready[0], &held, 1), 1);
-    ::close(ready[0]);
-    ::close(ready[1]);
-    EXPECT_EQ(held, 'y');
+        rest(std::move(ready));
+    });
     EXPECT_FALSE(isFree(file));
-    ::kill(holder, SIGKILL);
-    ::waitpid(holder, nullptr, 0);
+    holder.end();
     EXPECT_TRUE(isFree(file));
 }
 

@@ -4,7 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "platform/posix/ordinary_user.h"
+#include "support/file_mode.h"
+#include "support/ordinary_user.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -13,29 +14,8 @@ namespace {
 namespace fs = std::filesystem;
 
 using testing::ElementsAre;
-using testing::UnorderedElementsAre;
 
 constexpr std::size_t longestText = 64 << 10;
-
-mode_t modeOf(const fs::path& path) {
-    struct stat status {};
-
-    return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
-}
-
-// The mask of this process for files that it makes, until the end of the block.
-class Umask {
-public:
-    explicit Umask(mode_t mask) : former_(::umask(mask)) {}
-
-    Umask(const Umask&) = delete;
-    Umask& operator=(const Umask&) = delete;
-
-    ~Umask() { ::umask(former_); }
-
-private:
-    mode_t former_;
-};
 
 class HelperFilesTest : public testing::Test {
 protected:
@@ -46,12 +26,9 @@ protected:
     // Nobody may make, replace or remove a file in it.
     void closeFolder() const { fs::permissions(folder.path(), fs::perms(0555)); }
 
-    [[nodiscard]] std::vector<std::string> names() const {
-        std::vector<std::string> names;
-        for (const auto& entry : fs::directory_iterator(folder.path())) {
-            names.push_back(entry.path().filename());
-        }
-        return names;
+    // An ordinary user tries to replace the config, and is told whether that was done.
+    void expectReplacingByAnOrdinaryUser(std::string_view text, bool isDone) {
+        EXPECT_TRUE(doneByAnOrdinaryUser([&] { return files.replaceConfig(text).has_value() == isDone; }));
     }
 
     TemporaryFolder folder;
@@ -99,17 +76,13 @@ TEST_F(HelperFilesTest, GiveNothingLongerThanARecord) {
 TEST_F(HelperFilesTest, GiveNothingThatMayNotBeRead) {
     folder.write("status.json", "secret");
     fs::permissions(folder.path() / "status.json", fs::perms(0));
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] {
-        if (files.status()) {
-            ::_exit(2);
-        }
-    }));
+    EXPECT_TRUE(doneByAnOrdinaryUser([&] { return !files.status(); }));
 }
 
 TEST_F(HelperFilesTest, OpenFolderAndFileToEverybodyWhateverTheUmask) {
     const Umask mask(0077);
     const auto shared = folder.path() / "made" / "shared";
-    HelperFiles(shared).replaceConfig("text");
+    EXPECT_TRUE(HelperFiles(shared).replaceConfig("text"));
     EXPECT_EQ(folder.read("made/shared/config.json"), "text");
     EXPECT_EQ(modeOf(shared), 0777U);
     EXPECT_EQ(modeOf(shared / "config.json"), 0666U);
@@ -117,13 +90,13 @@ TEST_F(HelperFilesTest, OpenFolderAndFileToEverybodyWhateverTheUmask) {
 }
 
 TEST_F(HelperFilesTest, MakeAFolderThatIsNamedWithASlash) {
-    HelperFiles(folder.path() / "shared/").replaceConfig("text");
+    EXPECT_TRUE(HelperFiles(folder.path() / "shared/").replaceConfig("text"));
     EXPECT_EQ(folder.read("shared/config.json"), "text");
     EXPECT_EQ(modeOf(folder.path() / "shared"), 0777U);
 }
 
 TEST_F(HelperFilesTest, LeaveTheModeOfAFolderThatIsThere) {
-    files.replaceConfig("text");
+    EXPECT_TRUE(files.replaceConfig("text"));
     EXPECT_EQ(modeOf(folder.path()), 0755U);
 }
 
@@ -131,17 +104,17 @@ TEST_F(HelperFilesTest, ReplaceTheConfigAndLeaveNothingBesideIt) {
     folder.write("config.json", "an older and longer text");
     fs::permissions(config, fs::perms(0600));
     fs::create_hard_link(config, folder.path() / "the old one");
-    files.replaceConfig("new");
+    EXPECT_TRUE(files.replaceConfig("new"));
     EXPECT_EQ(folder.read("config.json"), "new");
     EXPECT_EQ(modeOf(config), 0666U);
     EXPECT_EQ(folder.read("the old one"), "an older and longer text");
     fs::remove(folder.path() / "the old one");
-    EXPECT_THAT(names(), ElementsAre("config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("config.json"));
 }
 
 TEST_F(HelperFilesTest, ReplaceWhateverElseLiesThere) {
     ASSERT_EQ(::mkfifo(config.c_str(), 0666), 0);
-    files.replaceConfig("text");
+    EXPECT_TRUE(files.replaceConfig("text"));
     EXPECT_EQ(files.config(), "text");
 }
 
@@ -149,7 +122,7 @@ TEST_F(HelperFilesTest, ReplaceWhateverElseLiesThere) {
 TEST_F(HelperFilesTest, LeaveAloneWhatALinkLeadsTo) {
     folder.write("precious", "untouched");
     fs::create_symlink("precious", config);
-    files.replaceConfig("text");
+    EXPECT_TRUE(files.replaceConfig("text"));
     EXPECT_EQ(folder.read("precious"), "untouched");
     EXPECT_EQ(files.config(), "text");
     EXPECT_FALSE(fs::is_symlink(config));
@@ -159,11 +132,11 @@ TEST_F(HelperFilesTest, AreRewrittenInPlaceWhereTheFolderIsClosed) {
     folder.write("config.json", "an older and longer text");
     fs::permissions(config, fs::perms(0666));
     closeFolder();
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("new"); }));
+    expectReplacingByAnOrdinaryUser("new", true);
     EXPECT_EQ(folder.read("config.json"), "new");
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("and longer again"); }));
+    expectReplacingByAnOrdinaryUser("and longer again", true);
     EXPECT_EQ(folder.read("config.json"), "and longer again");
-    EXPECT_THAT(names(), ElementsAre("config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("config.json"));
 }
 
 TEST_F(HelperFilesTest, FollowNoLinkInAClosedFolder) {
@@ -171,7 +144,7 @@ TEST_F(HelperFilesTest, FollowNoLinkInAClosedFolder) {
     fs::permissions(folder.path() / "precious", fs::perms(0666));
     fs::create_symlink("precious", config);
     closeFolder();
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("text"); }));
+    expectReplacingByAnOrdinaryUser("text", false);
     EXPECT_EQ(folder.read("precious"), "untouched");
 }
 
@@ -179,7 +152,7 @@ TEST_F(HelperFilesTest, DoNotWaitForAPipeInAClosedFolder) {
     ASSERT_EQ(::mkfifo(config.c_str(), 0666), 0);
     fs::permissions(config, fs::perms(0666));
     closeFolder();
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("text"); }));
+    expectReplacingByAnOrdinaryUser("text", false);
     EXPECT_TRUE(fs::is_fifo(config));
 }
 
@@ -187,19 +160,20 @@ TEST_F(HelperFilesTest, StayAsTheyWereWhereNothingMayBeWritten) {
     folder.write("config.json", "old");
     fs::permissions(config, fs::perms(0444));
     closeFolder();
-    EXPECT_TRUE(doneByAnOrdinaryUser([&] { files.replaceConfig("new"); }));
+    expectReplacingByAnOrdinaryUser("new", false);
     EXPECT_EQ(folder.read("config.json"), "old");
 }
 
 TEST_F(HelperFilesTest, PassOverAFolderThatCannotBe) {
     folder.write("a file", "content");
-    HelperFiles(folder.path() / "a file").replaceConfig("text");
-    HelperFiles(folder.path() / "a file" / "below").replaceConfig("text");
+    EXPECT_EQ(HelperFiles(folder.path() / "a file").replaceConfig("text").error().sentence,
+              "cannot write the helper's settings to \"" + (folder.path() / "a file").string() + '"');
+    EXPECT_FALSE(HelperFiles(folder.path() / "a file" / "below").replaceConfig("text"));
     EXPECT_EQ(folder.read("a file"), "content");
     fs::create_directories(config / "not empty");
-    files.replaceConfig("text");
+    EXPECT_FALSE(files.replaceConfig("text"));
     EXPECT_TRUE(fs::is_directory(config));
-    EXPECT_THAT(names(), UnorderedElementsAre("a file", "config.json"));
+    EXPECT_THAT(folder.names(), ElementsAre("a file", "config.json"));
 }
 
 } // namespace

@@ -31,6 +31,17 @@ TEST(MachineRecorder, NotesWhatACycleWasTold) {
                                                    .storageDraw = 1}));
 }
 
+TEST(MachineRecorder, NotesTheHelpersSettingsWithEveryCycle) {
+    fake::Computer computer;
+    computer.helper.configText = "{}";
+    MachineRecorder recorder(computer.platform());
+    const auto monitor = PowerMonitor::create(recorder.platform());
+    monitor->startMonitoring();
+    EXPECT_EQ(recorder.takeCycle().config, "{}");
+    computer.runLoop.fireTimers();
+    EXPECT_EQ(recorder.takeCycle().config, "{}") << "asked for at the start only";
+}
+
 TEST(MachineRecorder, NotesNoDrawWhereNothingWasDrawn) {
     fake::Computer computer;
     computer.battery.reading = PropertyTable{{"InstantAmperage", -1000}, {"Voltage", 12000}};

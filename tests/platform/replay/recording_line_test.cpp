@@ -30,7 +30,7 @@ TEST(RecordingLine, IsReadWhole) {
     const auto cycle = parseRecordingLine(
         R"({"time": 1700000000.5, "battery": {"Voltage": 12000, "IsCharging": true, "InstantAmperage": -5},)"
         R"( "processors": 8, "cpuListing": "%CPU\n 1.0\n", "topListing": "%CPU COMM\n 1.0 a b\n",)"
-        R"( "storageDraw": 1, "status": "{}", "helperLoaded": true})");
+        R"( "storageDraw": 1, "status": "{}", "helperLoaded": true, "config": "{ }"})");
     ASSERT_TRUE(cycle);
     EXPECT_EQ(*cycle,
               (RecordedCycle{
@@ -42,6 +42,7 @@ TEST(RecordingLine, IsReadWhole) {
                   .storageDraw = 1,
                   .status = "{}",
                   .helperLoaded = true,
+                  .config = "{ }",
               }));
 }
 
@@ -53,6 +54,7 @@ TEST(RecordingLine, NeedsOnlyTheRequiredKeys) {
     EXPECT_EQ(cycle->storageDraw, std::nullopt);
     EXPECT_EQ(cycle->status, std::nullopt);
     EXPECT_FALSE(cycle->helperLoaded);
+    EXPECT_EQ(cycle->config, std::nullopt);
 }
 
 TEST(RecordingLine, KnowsABatteryThatCannotBeRead) {
@@ -76,7 +78,7 @@ TEST(RecordingLine, CountsPropertiesOfOtherTypesAsAbsent) {
 
 TEST(RecordingLine, PassesOverUnknownKeysAndOptionalNulls) {
     EXPECT_TRUE(parseRecordingLine(smallestWith("fromTheFuture", "[]")));
-    for (const auto* key : {"storageDraw", "status", "helperLoaded"}) {
+    for (const auto* key : {"storageDraw", "status", "helperLoaded", "config"}) {
         EXPECT_EQ(refusal(smallestWith(key, "null")), "accepted") << key;
     }
 }
@@ -98,16 +100,12 @@ TEST(RecordingLine, IsRefusedWithoutARequiredKey) {
 
 TEST(RecordingLine, IsRefusedWithAKeyOfAnotherKind) {
     const std::pair<const char*, const char*> wrong[] = {
-        {"time", "\"now\""},     {"time", "null"},
-        {"time", "1e999"},       {"battery", "1"},
-        {"battery", "\"flat\""}, {"battery", "[]"},
-        {"battery", "true"},     {"processors", "0"},
-        {"processors", "-1"},    {"processors", "1.5"},
-        {"processors", "\"2\""}, {"cpuListing", "1"},
-        {"topListing", "[]"},    {"storageDraw", "2"},
-        {"storageDraw", "-1"},   {"storageDraw", "true"},
-        {"storageDraw", "0.5"},  {"status", "{}"},
-        {"helperLoaded", "1"},   {"helperLoaded", "\"true\""}};
+        {"time", "\"now\""},     {"time", "null"},      {"time", "1e999"},       {"battery", "1"},
+        {"battery", "\"flat\""}, {"battery", "[]"},     {"battery", "true"},     {"processors", "0"},
+        {"processors", "-1"},    {"processors", "1.5"}, {"processors", "\"2\""}, {"cpuListing", "1"},
+        {"topListing", "[]"},    {"storageDraw", "2"},  {"storageDraw", "-1"},   {"storageDraw", "true"},
+        {"storageDraw", "0.5"},  {"status", "{}"},      {"helperLoaded", "1"},   {"helperLoaded", "\"true\""},
+        {"config", "{}"},        {"config", "true"}};
     for (const auto& [key, value] : wrong) {
         EXPECT_NE(refusal(smallestWith(key, value)), "accepted") << key << ' ' << value;
     }
@@ -133,7 +131,8 @@ TEST(RecordingLine, IsWrittenAsItIsRead) {
          .processors = 4,
          .storageDraw = 0,
          .status = "{\"a\":\n1}",
-         .helperLoaded = true},
+         .helperLoaded = true,
+         .config = "{\"b\":\n2}"},
     };
     for (const auto& cycle : cycles) {
         const auto line = recordingLine(cycle);

@@ -1,13 +1,11 @@
 #include "platform/replay/recording_writer.h"
 
-#include <csignal>
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
-#include <sys/stat.h>
 
 #include "platform/replay/recording_line.h"
+#include "support/file_mode.h"
+#include "support/file_size_limit.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -19,14 +17,6 @@ using testing::IsEmpty;
 
 class RecordingWriterTest : public testing::Test {
 protected:
-    [[nodiscard]] std::vector<std::string> files() const {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::directory_iterator(folder.path())) {
-            names.push_back(entry.path().filename());
-        }
-        return names;
-    }
-
     TemporaryFolder folder;
     std::filesystem::path file = folder.path() / "it.jsonl";
     const RecordedCycle first{.time = 1};
@@ -39,19 +29,14 @@ TEST_F(RecordingWriterTest, WritesALineForEachCycle) {
     ASSERT_TRUE(writer->append(first));
     ASSERT_TRUE(writer->append(second));
     EXPECT_EQ(folder.read("it.jsonl"), recordingLine(first) + '\n' + recordingLine(second) + '\n');
-    EXPECT_THAT(files(), ElementsAre("it.jsonl"));
+    EXPECT_THAT(folder.names(), ElementsAre("it.jsonl"));
 }
 
 TEST_F(RecordingWriterTest, MakesAnOrdinaryFile) {
-    const mode_t mask = ::umask(022);
+    const Umask usual(022);
     auto writer = RecordingWriter::open(file);
-    ::umask(mask);
     ASSERT_TRUE(writer->append(first));
-
-    struct stat status {};
-
-    ASSERT_EQ(::stat(file.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777U, 0644U);
+    EXPECT_EQ(modeOf(file), 0644U);
 }
 
 TEST_F(RecordingWriterTest, LeavesAnOlderFileUntilItsFirstLineIsWritten) {
@@ -63,15 +48,11 @@ TEST_F(RecordingWriterTest, LeavesAnOlderFileUntilItsFirstLineIsWritten) {
         EXPECT_EQ(folder.read("it.jsonl"), "old");
     }
     EXPECT_EQ(folder.read("it.jsonl"), "old");
-    EXPECT_THAT(files(), ElementsAre("it.jsonl"));
+    EXPECT_THAT(folder.names(), ElementsAre("it.jsonl"));
     auto writer = RecordingWriter::open(file);
     ASSERT_TRUE(writer->append(first));
     EXPECT_EQ(folder.read("it.jsonl"), recordingLine(first) + '\n');
-
-    struct stat status {};
-
-    ASSERT_EQ(::stat(file.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777U, 0600U);
+    EXPECT_EQ(modeOf(file), 0600U);
 }
 
 TEST_F(RecordingWriterTest, ReplacesTheTargetOfASymbolicLink) {
@@ -83,21 +64,14 @@ TEST_F(RecordingWriterTest, ReplacesTheTargetOfASymbolicLink) {
     EXPECT_EQ(folder.read("target.jsonl"), recordingLine(first) + '\n');
 }
 
-// The limit on a file's size stands for a full disk: the write that crosses it is cut short, the next one
-// fails.
+// The write that crosses the limit is cut short, the next one fails.
 TEST_F(RecordingWriterTest, KeepsWholeLinesWhenTheDiskIsFull) {
     const auto line = recordingLine(first) + '\n';
-    rlimit former{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &former), 0);
-    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     auto writer = RecordingWriter::open(file);
-    const rlimit room{line.size() * 2 + 10, former.rlim_max};
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &room), 0);
-    const bool fits = writer->append(first) && writer->append(first);
+    const FileSizeLimit room(line.size() * 2 + 10);
+    EXPECT_TRUE(writer->append(first));
+    EXPECT_TRUE(writer->append(first));
     const auto tooMuch = writer->append(first);
-    ::setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, formerHandler);
-    EXPECT_TRUE(fits);
     ASSERT_FALSE(tooMuch);
     EXPECT_THAT(tooMuch.error().sentence, EndsWith("File too large"));
     EXPECT_EQ(folder.read("it.jsonl"), line + line);
@@ -116,7 +90,7 @@ TEST_F(RecordingWriterTest, SaysWhyAFileCannotBeMade) {
     const auto nowhere = folder.path() / "missing" / "it.jsonl";
     EXPECT_EQ(RecordingWriter::open(nowhere).error().sentence,
               "cannot record to \"" + nowhere.string() + "\": No such file or directory");
-    EXPECT_THAT(files(), IsEmpty());
+    EXPECT_THAT(folder.names(), IsEmpty());
 }
 
 } // namespace

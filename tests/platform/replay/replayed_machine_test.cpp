@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/posix/local_day.h"
+#include "platform/local_day.h"
 #include "platform/replay/recording_line.h"
 #include "support/temporary_folder.h"
 
@@ -42,6 +42,17 @@ TEST_F(ReplayedMachineTest, AnswersEverythingFromTheLineOfTheCycle) {
     EXPECT_EQ(machine.now(), 1'700'000'003);
     EXPECT_EQ(machine.cpuListing(), std::nullopt);
     EXPECT_EQ(machine.draw(), 0);
+}
+
+TEST_F(ReplayedMachineTest, TellsTheHelpersFilesOfTheLineAlsoBeforeTheFirstCycle) {
+    auto machine = replay({{.time = 1, .status = "a", .config = "b"}, {.time = 2}});
+    EXPECT_EQ(machine.helperConfig(), "b");
+    static_cast<void>(machine.readBattery());
+    EXPECT_EQ(machine.helperStatus(), "a");
+    EXPECT_EQ(machine.helperConfig(), "b");
+    static_cast<void>(machine.readBattery());
+    EXPECT_EQ(machine.helperStatus(), std::nullopt);
+    EXPECT_EQ(machine.helperConfig(), std::nullopt);
 }
 
 TEST_F(ReplayedMachineTest, StaysAtItsLastLine) {

@@ -52,22 +52,18 @@ TEST_F(DashboardOperations, WriteTheStopLevelAtEveryStep) {
 }
 
 TEST_F(DashboardOperations, InstallAndUninstallTheHelper) {
-    computer.folders.helperResources = "/somewhere";
     model.installDaemon();
     EXPECT_TRUE(monitor.daemonInstalled);
     EXPECT_EQ(computer.helper.writes, 1);
-    ASSERT_EQ(computer.administrator.scripts.size(), 1U);
-    EXPECT_THAT(computer.administrator.scripts.front(), HasSubstr("/somewhere"));
     monitor.chargeLimitEnabled = true;
     model.uninstallDaemon();
     EXPECT_FALSE(monitor.daemonInstalled);
     EXPECT_FALSE(monitor.chargeLimitEnabled);
-    EXPECT_EQ(computer.administrator.scripts.size(), 2U);
+    EXPECT_THAT(computer.installer.wishes, ElementsAre("install", "uninstall"));
 }
 
 TEST_F(DashboardOperations, LeaveTheHelperAsItIsWithoutTheAdministrator) {
-    computer.folders.helperResources = "/somewhere";
-    computer.administrator.agrees = false;
+    computer.installer.agrees = false;
     model.installDaemon();
     EXPECT_FALSE(monitor.daemonInstalled);
     EXPECT_EQ(computer.helper.writes, 0);
@@ -141,7 +137,7 @@ TEST_F(DashboardOperations, UninstallEverythingAndQuit) {
     folder.write("Quelby/history.db", "");
     computer.preferences.setFlag("launchAtLogin", true);
     model.fullUninstall();
-    EXPECT_EQ(computer.administrator.scripts.size(), 1U);
+    EXPECT_THAT(computer.installer.wishes, ElementsAre("uninstall everything"));
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "Quelby"));
     EXPECT_THAT(computer.preferences.flags, IsEmpty());
     EXPECT_THAT(computer.login.wishes, ElementsAre("unregister"));
@@ -153,7 +149,7 @@ TEST_F(DashboardOperations, AskTheProgramAroundThem) {
     EXPECT_EQ(dashboard.batterySettingsOpened, 1);
     model.quit();
     EXPECT_EQ(dashboard.quits, 1);
-    EXPECT_THAT(computer.administrator.scripts, IsEmpty());
+    EXPECT_THAT(computer.installer.wishes, IsEmpty());
 }
 
 } // namespace

@@ -2,13 +2,13 @@
 
 #include <QFile>
 #include <QImage>
-#include <QMetaProperty>
 #include <QPainter>
-#include <QSequentialIterable>
 #include <gtest/gtest.h>
 
+#include "support/days_from_now.h"
 #include "ui/bridge/symbol_item.h"
-#include "ui/presentation/menu_bar_title.h"
+#include "ui/bridge/values.h"
+#include "ui/presentation/text/menu_bar_title.h"
 #include "ui/support/made_up_dashboard.h"
 #include "ui/support/printing.h"
 
@@ -16,6 +16,7 @@ namespace quelby {
 namespace {
 
 constexpr int side = 32;
+constexpr Date now = 1'700'000'000;
 
 QImage painted(const QString& name, const QColor& color, QSize size = {side, side}) {
     SymbolItem item;
@@ -83,83 +84,75 @@ TEST(SymbolItem, TellsOfAnotherNameAndColour) {
     EXPECT_EQ(item.color(), QColor(Qt::red));
 }
 
-// Every name that the values of a dashboard bear, however deep.
+// Every name that the records of a dashboard bear, however deep.
 class ShownSymbols {
 public:
-    void collect(const QObject& model) {
-        for (int i = 0; i < model.metaObject()->propertyCount(); ++i) {
-            collect(model.metaObject()->property(i).read(&model));
+    void collect(const Symbol& symbol) { add(qString(symbol.name)); }
+
+    template <typename Part>
+    void collect(const std::optional<Part>& part) {
+        if (part) {
+            collect(*part);
         }
     }
 
-    void add(const QString& name) {
-        if (!name.isEmpty()) { // of what is absent
-            names_.insert(name);
+    template <typename Row>
+    void collect(const std::vector<Row>& rows) {
+        for (const auto& row : rows) {
+            collect(row);
         }
     }
+
+    template <typename Part>
+    void collect(const Part& part) {
+        if constexpr (DescribedRecord<Part>) {
+            forEachMember(part, [this](std::string_view, const auto& member) { collect(member); });
+        }
+    }
+
+    void add(const QString& name) { names_.insert(name); }
 
     [[nodiscard]] const std::set<QString>& names() const { return names_; }
 
 private:
-    void collect(const QVariant& value) {
-        if (value.metaType() == QMetaType::fromType<SymbolValue>()) {
-            add(value.value<SymbolValue>().name);
-        } else if (const auto* const gadget = value.metaType().metaObject()) {
-            for (int i = 0; i < gadget->propertyCount(); ++i) {
-                collect(gadget->property(i).readOnGadget(value.constData()));
-            }
-        } else if (value.metaType().id() != QMetaType::QString && value.canConvert<QSequentialIterable>()) {
-            for (const auto& element : value.value<QSequentialIterable>()) {
-                collect(element);
-            }
-        }
-    }
-
     std::set<QString> names_;
 };
 
 class EverySymbol : public testing::Test {
 protected:
     void look() {
-        for (const bool settings : {false, true}) {
-            dashboard.model.setSettingsShown(settings);
-            symbols.collect(dashboard.model);
-        }
-        symbols.add(qString(menuBarSymbol(*dashboard.monitor)));
+        symbols.collect(dashboard(fields, now, linuxWords));
+        symbols.collect(settingsPanel(fields, now, daysFromNow));
+        symbols.add(qString(menuBarSymbol(fields)));
     }
 
     // Each combination of what a battery says.
     void tryBatteryStates() {
-        auto& monitor = *dashboard.monitor;
         for (int state = 0; state < 16; ++state) {
-            monitor.isPluggedIn = (state & 1) != 0;
-            monitor.isCharging = (state & 2) != 0;
-            monitor.fullyCharged = (state & 4) != 0;
-            monitor.chargingInhibited = (state & 8) != 0;
+            fields.isPluggedIn = (state & 1) != 0;
+            fields.isCharging = (state & 2) != 0;
+            fields.fullyCharged = (state & 4) != 0;
+            fields.chargingInhibited = (state & 8) != 0;
             for (const Int percent : {0, 10, 26, 51, 76, 100}) {
-                monitor.batteryPercent = percent;
-                finishTurn();
+                fields.batteryPercent = percent;
                 look();
             }
         }
     }
 
-    MadeUpDashboard dashboard;
+    PublishedFields fields;
     ShownSymbols symbols;
 };
 
 TEST_F(EverySymbol, ThatIsEverShownHasAPicture) {
-    auto& monitor = *dashboard.monitor;
-    dashboard.model.setWatched(true);
     look();
-    fillEveryCard(monitor);
+    fillEveryCard(fields);
     for (const double watts : {5.0, 25.0, 35.0}) {
-        monitor.totalPower = watts;
+        fields.totalPower = watts;
         tryBatteryStates();
     }
-    monitor.daemonInstalled = false;
-    monitor.hasBattery = false;
-    finishTurn();
+    fields.daemonInstalled = false;
+    fields.hasBattery = false;
     look();
     ASSERT_GT(symbols.names().size(), 30U);
     for (const auto& name : symbols.names()) {

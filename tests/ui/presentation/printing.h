@@ -1,9 +1,13 @@
-// How a failed comparison prints what the cards are made of. Tests that compare such records include this.
+// How a failed comparison prints the records of the presentation. Tests that compare such records include
+// this.
 #pragma once
 
 #include <ostream>
 
-#include "ui/presentation/elements.h"
+#include <gtest/gtest.h>
+
+#include "ui/presentation/elements/color.h"
+#include "ui/presentation/elements/record.h"
 
 namespace quelby {
 
@@ -14,29 +18,14 @@ inline void PrintTo(const Color& color, std::ostream* stream) {
     }
 }
 
-inline void PrintTo(const Text& shown, std::ostream* stream) {
-    *stream << '"' << shown.text << "\" ";
-    PrintTo(shown.color, stream);
-}
-
-inline void PrintTo(const Symbol& symbol, std::ostream* stream) {
-    *stream << '<' << symbol.name << "> ";
-    PrintTo(symbol.color, stream);
-}
-
-inline void PrintTo(const Label& label, std::ostream* stream) {
-    PrintTo(label.symbol, stream);
-    *stream << ' ';
-    PrintTo(label.text, stream);
-}
-
-inline void PrintTo(const Bar& shown, std::ostream* stream) {
-    *stream << shown.fraction << " full, ";
-    PrintTo(shown.color, stream);
-}
-
-inline void PrintTo(const Choice& choice, std::ostream* stream) {
-    *stream << '"' << choice.text << (choice.selected ? "\" selected" : "\"");
+template <DescribedRecord Record>
+void PrintTo(const Record& record, std::ostream* stream) {
+    const char* between = "{";
+    forEachMember(record, [&](std::string_view name, const auto& member) {
+        *stream << between << name << ": " << testing::PrintToString(member);
+        between = ", ";
+    });
+    *stream << '}';
 }
 
 } // namespace quelby

@@ -11,6 +11,9 @@ TestCase {
     property ContentView view
     property bool animated: false
 
+    // What the presentation says; of the settings only while they are shown.
+    readonly property var said: view?.dashboard ?? null
+
     width: 400
     height: 660
     visible: true
@@ -41,8 +44,8 @@ TestCase {
     }
 
     function makeView() {
-        view = createTemporaryObject(viewComponent, testCase, { monitor: madeUp.model })
-        view.monitor.watched = true
+        view = createTemporaryObject(viewComponent, testCase, { dashboard: madeUp.model })
+        view.dashboard.watched = true
         view.forceActiveFocus()
         settle()
     }
@@ -87,6 +90,11 @@ TestCase {
         const found = all(type).filter(item => (item.name ?? item.choice.text) === name)
         compare(found.length, 1, name)
         return found[0]
+    }
+
+    // The button at a place of the row that the card has, counted from 0.
+    function choice(card, index) {
+        return all(ChoiceButton, one(card))[index]
     }
 
     function texts(root) {

@@ -102,7 +102,7 @@ MadeUp::MadeUp() {
 }
 
 QStringList MadeUp::scripts() const {
-    return qStrings(dashboard_.computer.administrator.scripts);
+    return qStrings(dashboard_.computer.installer.wishes);
 }
 
 QStringList MadeUp::loginWishes() const {

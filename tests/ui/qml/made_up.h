@@ -14,7 +14,7 @@ class MadeUp : public QObject {
     Q_PROPERTY(quelby::DashboardModel* model READ model CONSTANT)
     Q_PROPERTY(int quits READ quits)
     Q_PROPERTY(int batterySettingsOpened READ batterySettingsOpened)
-    Q_PROPERTY(QStringList scripts READ scripts)         // that the administrator ran
+    Q_PROPERTY(QStringList scripts READ scripts)         // that the administrator was asked to run
     Q_PROPERTY(QStringList loginWishes READ loginWishes) // "register", "unregister"
     Q_PROPERTY(QString config READ config)               // the helper's config.json
     Q_PROPERTY(int configWrites READ configWrites)
@@ -35,9 +35,9 @@ public:
 
     [[nodiscard]] int configWrites() const { return dashboard_.computer.helper.writes; }
 
-    [[nodiscard]] bool doesAdministratorAgree() const { return dashboard_.computer.administrator.agrees; }
+    [[nodiscard]] bool doesAdministratorAgree() const { return dashboard_.computer.installer.agrees; }
 
-    void setAdministratorAgrees(bool agrees) { dashboard_.computer.administrator.agrees = agrees; }
+    void setAdministratorAgrees(bool agrees) { dashboard_.computer.installer.agrees = agrees; }
 
     // Something in every card.
     Q_INVOKABLE void fill();

@@ -30,7 +30,7 @@ std::vector<Line> linesOf(const fs::path& file) {
 
 std::vector<Line> everyLine() {
     std::vector<Line> lines;
-    for (const auto& entry : fs::directory_iterator(fs::path(QUELBY_SOURCE_DIR) / "src/ui/qml")) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(QUELBY_SOURCE_DIR) / "src/ui/qml")) {
         if (entry.path().extension() == ".qml") {
             const auto more = linesOf(entry.path());
             lines.insert(lines.end(), more.begin(), more.end());
@@ -55,6 +55,28 @@ TEST(QmlRules, NoFileJoinsTexts) {
     static const std::regex join(R"([+]\s*"|"\s*[+])");
     for (const auto& line : everyLine()) {
         EXPECT_FALSE(std::regex_search(line.code, join)) << line.place << ": " << line.code;
+    }
+}
+
+TEST(QmlRules, NoFileSpeaks) {
+    static const std::regex words(R"("[^"]*[ A-Z][^"]*")");
+    static const std::regex nameOfAThing(R"(property: ")"); // of C++, which is spelt as there
+    for (const auto& line : everyLine()) {
+        if (line.place.rfind("Theme.qml", 0) != 0 && !std::regex_search(line.code, nameOfAThing)) {
+            EXPECT_FALSE(std::regex_search(line.code, words)) << line.place << ": " << line.code;
+        }
+    }
+}
+
+TEST(QmlRules, NoFileButTheThemeMakesAColour) {
+    static const std::regex color(
+        R"("#[0-9a-fA-F]+"|[cC]olor: "(?!transparent)|Qt\.(rgba|hsla|hsva|darker|lighter|tint|alpha))");
+    static const std::regex opacity(R"(translucent\([^,]*, [0-9]|opacity:.*\b0\.[0-9])");
+    for (const auto& line : everyLine()) {
+        if (line.place.rfind("Theme.qml", 0) != 0) {
+            EXPECT_FALSE(std::regex_search(line.code, color)) << line.place << ": " << line.code;
+            EXPECT_FALSE(std::regex_search(line.code, opacity)) << line.place << ": " << line.code;
+        }
     }
 }
 

@@ -1,5 +1,6 @@
 import QtQuick
 import Quelby
+import Quelby.Bridge
 
 DashboardTestCase {
     name: "ContentView"
@@ -58,7 +59,7 @@ DashboardTestCase {
         set("hasBattery", false)
         compare(all(BatteryCard).length, 0)
         set("hasBattery", true)
-        compare(texts(one(BatteryCard)).slice(0, 2), ["Battery", "72%"])
+        compare(texts(one(BatteryCard)).slice(0, 2), [said.battery.title.text, "72%"])
     }
 
     function test_beginsWithTheHeaderAndEndsWithTheQuitButton() {
@@ -79,23 +80,39 @@ DashboardTestCase {
         showSettings()
         compare(cardsFromTheTop(), ["general", "calibration", "helper", "uninstall"])
         verify(placeOf(one(QuitButton)).y > placeOf(one(UninstallSection)).y)
-        verify(has("Quelby v1.0"))
+        verify(has(said.settings.version.text))
     }
 
     function test_showsTheClockOnlyOverTheCards() {
-        compare(texts(one(DashboardHeader)), ["Quelby", "22:13:20"])
+        compare(texts(one(DashboardHeader)), [Words.program, "22:13:20"])
         showSettings()
-        compare(texts(one(DashboardHeader)), ["Settings"])
+        compare(texts(one(DashboardHeader)), [Words.settings])
         compare(all(Symbol, one(DashboardHeader)).map(symbol => symbol.content.name), ["chevron.left", "xmark.circle"])
     }
 
+    function test_isHeadedInTheSizeOfAHeadline() {
+        const header = one(DashboardHeader)
+        const sizes = () => all(Symbol, header).map(symbol => symbol.size)
+        compare(all(Text, header)[0].font.pixelSize, Theme.headlineSize)
+        compare(sizes(), [Theme.title2Size, Theme.title3Size])
+        showSettings()
+        compare(all(Text, header)[0].font.pixelSize, Theme.headlineSize)
+        compare(sizes(), [Theme.title3Size, Theme.title3Size])
+    }
+
+    function test_leavesALittleMoreSpaceAboveTheQuitButton() {
+        const last = one(BatteryDetailsCard)
+        const label = one(SymbolLabel, one(QuitButton))
+        compare(placeOf(label).y, placeOf(last).y + last.height + 14 + 4)
+    }
+
     function test_goesToTheSettingsAndBackAgainInBothWays_data() {
-        return [{ tag: "chevron", back: "Back" }, { tag: "cross", back: "Close Settings" }]
+        return [{ tag: "chevron", back: Words.back }, { tag: "cross", back: Words.closeSettings }]
     }
 
     function test_goesToTheSettingsAndBackAgainInBothWays(row) {
         for (const act of [click, button => press(button, Qt.Key_Space), button => press(button, Qt.Key_Return)]) {
-            act(named(PlainButton, "Settings"))
+            act(named(PlainButton, Words.settings))
             verify(view.showSettings)
             act(named(PlainButton, row.back))
             verify(!view.showSettings)
@@ -117,19 +134,20 @@ DashboardTestCase {
         view.destroy()
         makeView()
         compare(all(GeneralSection).length, 0)
-        compare(texts(one(DashboardHeader)), ["Quelby", "22:13:20"])
+        compare(texts(one(DashboardHeader)), [Words.program, "22:13:20"])
         set("batteryPercent", 33)
         verify(has("33%"))
     }
 
     function test_speaksOfNothingYet() {
         set("topProcesses", [])
-        compare(texts(one(ProcessCard)), ["Top Processes", "Loading..."])
+        compare(texts(one(ProcessCard)), [said.processes.title.text, said.processes.placeholder.text])
         set("historyData", [[1, 2]])
-        verify(has("Collecting data..."))
+        const waiting = said.history.placeholder.text.text
+        verify(has(waiting))
         compare(all(ChartFrame, one(HistoryCard)).length, 0)
         set("historyData", [[1, 2], [2, 3]])
-        verify(!has("Collecting data..."))
+        verify(!has(waiting))
         compare(all(ChartFrame, one(HistoryCard)).length, 1)
     }
 

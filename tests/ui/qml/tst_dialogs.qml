@@ -1,5 +1,6 @@
 import QtQuick
 import Quelby
+import Quelby.Bridge
 
 DashboardTestCase {
     name: "Dialogs"
@@ -18,24 +19,20 @@ DashboardTestCase {
 
     function showUninstall() {
         showSettings()
-        click(named(ActionButton, "Uninstall Quelby"))
+        click(one(ActionButton, one(UninstallSection)))
     }
 
     function test_showsTheTipWhenTheLimitIsFirstSwitchedOn() {
         set("chargeLimitEnabled", false)
         verify(closed())
-        click(named(ToggleSwitch, "Charge Limit"))
-        compare(texts(dialog()), [
-            "Disable Optimized Battery Charging",
-            "For Quelby's charge limit to work properly, disable macOS Optimized Battery Charging in System " +
-                "Settings → Battery.",
-            "Got it", "Open Battery Settings"
-        ])
+        click(named(ToggleSwitch, said.chargeLimit.title.text))
+        const tip = said.chargingTip
+        compare(texts(dialog()), [tip.title, tip.message, tip.cancel, tip.action])
     }
 
     function test_theTipIsClosed_data() {
         return [
-            { tag: "pointer", close: () => click(named(ActionButton, "Got it")) },
+            { tag: "pointer", close: () => click(named(ActionButton, said.chargingTip.cancel)) },
             { tag: "keyboard", close: () => { keyClick(Qt.Key_Return); settle() } },
             { tag: "blank", close: () => { keyClick(Qt.Key_Space); settle() } },
             { tag: "escape", close: () => { keyClick(Qt.Key_Escape); settle() } }
@@ -53,7 +50,7 @@ DashboardTestCase {
     function test_theTipLeadsToTheBatterySettings() {
         for (const act of [click, button => press(button, Qt.Key_Return)]) {
             showTip()
-            act(named(ActionButton, "Open Battery Settings"))
+            act(named(ActionButton, said.chargingTip.action))
             verify(closed())
             compare(madeUp.field("shouldShowChargingTip"), false)
         }
@@ -68,14 +65,14 @@ DashboardTestCase {
 
     function test_nothingIsUninstalledWithoutAnAnswer() {
         showUninstall()
-        compare(texts(dialog()).slice(0, 1), ["Uninstall Quelby?"])
+        compare(texts(dialog()).slice(0, 1), [said.uninstallConfirmation.title])
         compare(madeUp.scripts.length, 0)
         compare(madeUp.quits, 0)
     }
 
     function test_nothingIsUninstalledOnCancel_data() {
         return [
-            { tag: "pointer", close: () => click(named(ActionButton, "Cancel")) },
+            { tag: "pointer", close: () => click(named(ActionButton, said.uninstallConfirmation.cancel)) },
             { tag: "keyboard", close: () => { keyClick(Qt.Key_Return); settle() } },
             { tag: "escape", close: () => { keyClick(Qt.Key_Escape); settle() } }
         ]
@@ -94,25 +91,63 @@ DashboardTestCase {
     function test_everythingIsUninstalledOnlyWhenThatIsChosen() {
         for (const act of [click, button => press(button, Qt.Key_Space)]) {
             showUninstall()
-            act(named(ActionButton, "Uninstall Everything"))
+            act(named(ActionButton, said.uninstallConfirmation.action))
             verify(closed())
+            wait(0)
         }
         compare(madeUp.scripts.length, 2)
         compare(madeUp.loginWishes, ["unregister", "unregister"])
         compare(madeUp.quits, 2)
     }
 
+    function test_theQuestionIsGoneFromTheScreenBeforeThePasswordIsAskedFor() {
+        showUninstall()
+        const behind = grabImage(view).pixel(200, 640)
+        const button = named(ActionButton, said.uninstallConfirmation.action)
+        mouseClick(button)
+        verify(closed())
+        compare(madeUp.scripts.length, 0)
+        compare(madeUp.quits, 0)
+        settle() // draws
+        verify(!Qt.colorEqual(grabImage(view).pixel(200, 640), behind))
+        wait(0)
+        compare(madeUp.scripts.length, 1)
+        compare(madeUp.quits, 1)
+    }
+
+    function test_aQuestionLeftOpenDoesNotComeBack_data() {
+        const dashboard = () => { view.showSettings = false; settle() }
+        const close = () => { view.dashboard.watched = false; view.dashboard.watched = true; settle() }
+        return [
+            { tag: "cards instead", leave: dashboard, settings: false },
+            { tag: "closed", leave: close, settings: true },
+            { tag: "closed and cards", leave: () => { close(); dashboard() }, settings: false }
+        ]
+    }
+
+    function test_aQuestionLeftOpenDoesNotComeBack(row) {
+        showUninstall()
+        row.leave()
+        verify(closed())
+        compare(view.showSettings, row.settings)
+        showSettings()
+        verify(closed())
+        compare(madeUp.scripts.length, 0)
+        click(one(ActionButton, one(UninstallSection)))
+        verify(!closed())
+    }
+
     function test_theHarmlessAnswerHasTheFocusFirst() {
         showUninstall()
-        verify(named(ActionButton, "Cancel").activeFocus)
+        verify(named(ActionButton, said.uninstallConfirmation.cancel).activeFocus)
         view.showUninstallConfirm = false
         showTip()
-        verify(named(ActionButton, "Got it").activeFocus)
+        verify(named(ActionButton, said.chargingTip.cancel).activeFocus)
     }
 
     function test_tabStaysInside() {
         showUninstall()
-        const answers = ["Cancel", "Uninstall Everything"]
+        const answers = [said.uninstallConfirmation.cancel, said.uninstallConfirmation.action]
         for (let i = 1; i < 6; ++i) {
             keyClick(Qt.Key_Tab)
             verify(named(ActionButton, answers[i % 2]).activeFocus)
@@ -125,7 +160,7 @@ DashboardTestCase {
 
     function test_nothingBehindCanBeClicked() {
         showTip()
-        const behind = named(PlainButton, "Settings")
+        const behind = named(PlainButton, Words.settings)
         mouseClick(behind)
         settle()
         verify(!view.showSettings)
@@ -144,7 +179,7 @@ DashboardTestCase {
     }
 
     function test_keyboardIsBackWhereItWasAfterwards() {
-        const limit = named(ToggleSwitch, "Charge Limit")
+        const limit = named(ToggleSwitch, said.chargeLimit.title.text)
         press(limit, Qt.Key_Space)
         press(limit, Qt.Key_Space)
         verify(!closed())

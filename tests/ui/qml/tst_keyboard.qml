@@ -1,5 +1,6 @@
 import QtQuick
 import Quelby
+import Quelby.Bridge
 
 DashboardTestCase {
     name: "Keyboard"
@@ -24,36 +25,49 @@ DashboardTestCase {
         return names
     }
 
-    readonly property var dashboard: [
-        "Settings", "Charge Limit", "Stop at:", "Live Power Trend", "30m", "1h", "24h", "7d",
-        "Consumption History", "Quit Quelby"
-    ]
-    readonly property var settings: [
-        "Back", "Close Settings", "Launch at Login", "Watts", "Battery%", "mA", "Volts", "Temp", "Icon",
-        "Auto Calibrate", "1 Week", "2 Weeks", "1 Month", "2 Months", "Uninstall", "Uninstall Quelby", "Quit Quelby"
-    ]
+    function choices(card) {
+        return all(ChoiceButton, one(card)).map(nameOf)
+    }
+
+    function quit() {
+        return said.quitButton.text.text
+    }
+
+    function dashboard() {
+        return [Words.settings, said.chargeLimit.title.text, one(StepSlider).name, said.trend.title.text,
+                ...choices(HistoryCard), said.history.title.text, quit()]
+    }
+
+    function settings() {
+        const { general, calibration, helper, uninstall } = said.settings
+        return [Words.back, Words.closeSettings, general.launchAtLogin.title.text, ...choices(GeneralSection),
+                calibration.autoCalibrate.title.text, ...choices(CalibrationSection), helper.button.text,
+                uninstall.button.text.text, quit()]
+    }
 
     function test_tabReachesEverythingInTheOrderInWhichItIsRead() {
-        compare(roundOfTab(Qt.Key_Tab, "Settings"), dashboard)
+        compare(dashboard().length, 10)
+        compare(roundOfTab(Qt.Key_Tab, Words.settings), dashboard())
         showSettings()
-        compare(roundOfTab(Qt.Key_Tab, "Back"), settings)
+        compare(settings().length, 17)
+        compare(roundOfTab(Qt.Key_Tab, Words.back), settings())
     }
 
     function test_backtabGoesTheSameWayBack() {
-        compare(roundOfTab(Qt.Key_Backtab, "Quit Quelby"), dashboard.slice().reverse())
+        compare(roundOfTab(Qt.Key_Backtab, quit()), dashboard().reverse())
     }
 
     function test_tabPassesOverWhatIsNotThere() {
         set("hasBattery", false)
         set("powerHistory", [])
         set("historyData", [])
-        compare(roundOfTab(Qt.Key_Tab, "Settings"), ["Settings", "30m", "1h", "24h", "7d", "Quit Quelby"])
+        compare(roundOfTab(Qt.Key_Tab, Words.settings), [Words.settings, ...choices(HistoryCard), quit()])
     }
 
     function test_whatHasTheFocusIsInSightAndShowsIt_data() {
         return [
-            { tag: "dashboard", settings: false, count: dashboard.length },
-            { tag: "settings", settings: true, count: settings.length }
+            { tag: "dashboard", settings: false, count: 10 },
+            { tag: "settings", settings: true, count: 17 }
         ]
     }
 
@@ -79,7 +93,7 @@ DashboardTestCase {
     }
 
     function test_thePointerLeavesNoRing() {
-        click(named(ToggleSwitch, "Charge Limit"))
+        click(named(ToggleSwitch, said.chargeLimit.title.text))
         compare(all(FocusRing).length, 0)
     }
 

@@ -55,6 +55,37 @@ DashboardTestCase {
         verify(has("100%"))
     }
 
+    function test_isWhereItWasWhenTheCardComesBack() {
+        set("chargeLimitPercent", 65)
+        set("hasBattery", false)
+        compare(all(StepSlider).length, 0)
+        set("hasBattery", true)
+        find()
+        compare([slider.from, slider.to, slider.value], [20, 100, 65])
+        set("chargeLimitEnabled", false)
+        set("chargeLimitEnabled", true)
+        compare([slider.from, slider.to, slider.value], [20, 100, 65])
+        compare(madeUp.configWrites, 0)
+    }
+
+    function test_endsWhereItWasLastToldToGo() {
+        find()
+        const y = slider.height / 2
+        mousePress(slider, xOf(80), y)
+        mouseMove(slider, xOf(85), y)
+        mouseMove(slider, xOf(80), y)
+        mouseRelease(slider, xOf(80), y)
+        settle()
+        compare(level(), 80)
+        compare(slider.value, 80)
+        slider.increase()
+        slider.decrease()
+        settle()
+        compare(level(), 80)
+        compare(slider.value, 80)
+        compare(madeUp.configWrites, 4)
+    }
+
     function test_jumpsToWhereItIsClicked() {
         find()
         mouseClick(slider, xOf(60) + 1, slider.height / 2)
@@ -107,8 +138,22 @@ DashboardTestCase {
         for (const percent of [10, 120, 77]) {
             set("chargeLimitPercent", percent)
             verify(has(percent + "%"))
+            view.destroy()
+            makeView()
             compare(madeUp.configWrites, 0)
             compare(level(), percent)
+        }
+    }
+
+    function test_stepsOntoTheScaleFromALevelBesideIt() {
+        for (const [percent, up, down] of [[77, 80, 75], [82, 85, 80], [10, 25, 20], [120, 100, 95]]) {
+            for (const [step, expected] of [["increase", up], ["decrease", down]]) {
+                set("chargeLimitPercent", percent)
+                find()
+                slider[step]()
+                settle()
+                compare(slider.value, expected)
+            }
         }
     }
 
@@ -117,6 +162,28 @@ DashboardTestCase {
         drag(xOf(60))
         set("chargeLimitPercent", 45)
         compare(slider.value, 45)
+    }
+
+    function test_isNamedWhereItsHandleWouldBe_data() {
+        return [{ tag: "from the left", mirrored: false }, { tag: "from the right", mirrored: true }]
+    }
+
+    function test_isNamedWhereItsHandleWouldBe(row) {
+        view.LayoutMirroring.enabled = row.mirrored
+        settle()
+        find()
+        const card = one(ChargeLimitCard)
+        const scale = all(Text, one(SliderScale))
+        compare(scale.map(text => text.text), ["20%", "60%", "80%", "100%"])
+        for (const [index, percent] of [20, 60, 80, 100].entries()) {
+            set("chargeLimitPercent", percent)
+            const handle = slider.handle.mapToItem(card, slider.handle.width / 2, 0)
+            const text = scale[index].mapToItem(card, 0, 0)
+            fuzzyCompare(text.x + scale[index].width / 2, handle.x, 0.01)
+            verify(text.x >= 12 && text.x + scale[index].width <= card.width - 12)
+        }
+        const ends = [slider.handleCentre(0), slider.handleCentre(1)]
+        compare(ends[0] > ends[1], row.mirrored)
     }
 
     function test_fillsUpToItsHandle() {

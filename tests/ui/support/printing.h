@@ -6,7 +6,8 @@
 #include <QColor>
 #include <QString>
 
-#include "ui/bridge/element_values.h"
+#include "ui/bridge/values.h"
+#include "ui/presentation/printing.h"
 
 inline void PrintTo(const QString& text, std::ostream* stream) {
     *stream << '"' << text.toStdString() << '"';
@@ -18,26 +19,21 @@ inline void PrintTo(const QColor& color, std::ostream* stream) {
 
 namespace quelby {
 
-inline void PrintTo(const InkValue& ink, std::ostream* stream) {
-    *stream << "ink " << ink.name << '@' << ink.opacity;
+inline void PrintTo(const ColorValue& color, std::ostream* stream) {
+    PrintTo(*color, stream);
 }
 
-inline void PrintTo(const TextValue& content, std::ostream* stream) {
-    *stream << (content.present ? "" : "absent ");
-    ::PrintTo(content.text, stream);
-    *stream << ' ';
-    PrintTo(content.ink, stream);
+// A value as the record in it.
+template <typename Value>
+
+requires requires(const Value& value) {
+    value.present();
+    *value;
 }
 
-inline void PrintTo(const SymbolValue& symbol, std::ostream* stream) {
-    *stream << '<' << symbol.name.toStdString() << "> ";
-    PrintTo(symbol.ink, stream);
-}
-
-inline void PrintTo(const LabelValue& label, std::ostream* stream) {
-    PrintTo(label.symbol, stream);
-    *stream << ' ';
-    PrintTo(label.text, stream);
+void PrintTo(const Value& value, std::ostream* stream) {
+    *stream << (value.present() ? "" : "absent ");
+    PrintTo(*value, stream);
 }
 
 } // namespace quelby

@@ -1,13 +1,17 @@
 // What those hear who cannot see the dashboard, and what they can do.
-#include <fstream>
-#include <sstream>
-
 #include <QAccessible>
 #include <QMetaEnum>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "helper/daemon_config.h"
+#include "monitor/preference_keys.h"
+#include "support/days_from_now.h"
+#include "support/golden.h"
+#include "ui/presentation/cards/dialogs.h"
+#include "ui/presentation/cards/settings_panel.h"
+#include "ui/presentation/dashboard.h"
+#include "ui/presentation/text/words.h"
 #include "ui/support/printing.h"
 #include "ui/support/shown_view.h"
 
@@ -71,12 +75,6 @@ protected:
         return text;
     }
 
-    [[nodiscard]] static std::string expected(const char* file) {
-        std::ostringstream content;
-        content << std::ifstream(std::string(QUELBY_SOURCE_DIR "/tests/ui/view/accessible/") + file).rdbuf();
-        return content.str();
-    }
-
     [[nodiscard]] QAccessibleInterface* find(QAccessible::Role role, const QString& name) {
         return find(QAccessible::queryAccessibleInterface(&view->window()), role, name);
     }
@@ -105,8 +103,8 @@ protected:
         view->settle();
     }
 
-    void press(const QString& name) {
-        act(QAccessible::Button, name, QAccessibleActionInterface::pressAction());
+    void press(std::string_view name) {
+        act(QAccessible::Button, qString(name), QAccessibleActionInterface::pressAction());
     }
 
     [[nodiscard]] bool isOn(QAccessible::Role role, const QString& name) {
@@ -120,7 +118,7 @@ protected:
 };
 
 TEST_F(Accessibility, OfTheDashboardIsWhatIsWrittenDown) {
-    EXPECT_EQ(tree(), expected("dashboard.txt"));
+    expectGolden(tree(), "ui/view/accessible/dashboard.txt");
 }
 
 TEST_F(Accessibility, OfADesktopWithoutHelperIsWhatIsWrittenDown) {
@@ -129,73 +127,95 @@ TEST_F(Accessibility, OfADesktopWithoutHelperIsWhatIsWrittenDown) {
     monitor.historyData = std::vector<HistoryDataPoint>{};
     monitor.powerHistory = std::vector<double>{};
     view->settle();
-    EXPECT_EQ(tree(), expected("desktop.txt"));
+    expectGolden(tree(), "ui/view/accessible/desktop.txt");
 }
 
 TEST_F(Accessibility, OfTheSettingsIsWhatIsWrittenDown) {
     view->showSettings();
-    EXPECT_EQ(tree(), expected("settings.txt"));
+    expectGolden(tree(), "ui/view/accessible/settings.txt");
 }
 
 TEST_F(Accessibility, OfAQuestionIsWhatIsWrittenDown) {
     view->root().setProperty("showUninstallConfirm", true);
     view->settle();
-    EXPECT_THAT(tree(), testing::EndsWith(expected("question.txt")));
+    expectGolden(tree(), "ui/view/accessible/question.txt");
+}
+
+TEST_F(Accessibility, OfTheRestWaitsForTheAnswerToAQuestion) {
+    const auto processes = monitor.topProcesses.get();
+    for (const bool settings : {false, true}) {
+        view->showSettings(settings);
+        const auto before = tree();
+        monitor.shouldShowChargingTip = true;
+        view->settle();
+        EXPECT_THAT(tree(), testing::StartsWith("Dialog"));
+        EXPECT_THAT(tree(), testing::Not(testing::HasSubstr("Grouping")));
+        monitor.topProcesses = std::vector<ProcessInfo_Energy>{{"arrived meanwhile", 1, 1}};
+        view->settle();
+        EXPECT_THAT(tree(), testing::Not(testing::HasSubstr("arrived meanwhile")));
+        monitor.topProcesses = processes;
+        monitor.shouldShowChargingTip = false;
+        view->settle();
+        EXPECT_EQ(tree(), before);
+    }
 }
 
 TEST_F(Accessibility, PressesEveryButton) {
-    press("Settings");
-    press("Back");
-    press("Settings");
-    press("Close Settings");
+    press(words::settings);
+    press(words::back);
+    press(words::settings);
+    press(words::closeSettings);
     EXPECT_FALSE(view->root().property("showSettings").toBool());
-    press("Quit Quelby");
+    press(words::quit);
     EXPECT_EQ(dashboard.quits, 1);
     view->showSettings();
-    press("Uninstall");
+    press(helperSection(monitor).button.text);
     EXPECT_FALSE(monitor.daemonInstalled);
-    press("Install");
+    press(helperSection(monitor).button.text);
     EXPECT_TRUE(monitor.daemonInstalled);
-    press("Uninstall Quelby");
-    press("Cancel");
-    press("Uninstall Quelby");
-    press("Uninstall Everything");
+    press(uninstallSection().button.text.text);
+    press(uninstallConfirmation().cancel);
+    press(uninstallSection().button.text.text);
+    press(uninstallConfirmation().action);
     EXPECT_EQ(dashboard.quits, 2);
 }
 
 TEST_F(Accessibility, InstallsTheHelperFromItsCard) {
     monitor.daemonInstalled = false;
     view->settle();
-    press("Install Helper (one-time password)");
+    press(chargeLimitCard(monitor, linuxWords).offer->installButton.text.text);
     EXPECT_TRUE(monitor.daemonInstalled);
 }
 
 TEST_F(Accessibility, TurnsEverySwitch) {
-    const auto turn = [&](const QString& name) {
+    const auto turn = [&](const Text& text) {
+        const auto name = qString(text.text);
         const bool before = isOn(QAccessible::CheckBox, name);
         act(QAccessible::CheckBox, name, QAccessibleActionInterface::toggleAction());
         EXPECT_NE(isOn(QAccessible::CheckBox, name), before) << testing::PrintToString(name);
     };
+    dashboard.computer.preferences.setFlag(preference_keys::hasShownChargingTip, true);
     for (const bool enabled : {false, true}) {
-        turn("Charge Limit");
+        turn(chargeLimitCard(monitor, linuxWords).title);
         EXPECT_EQ(monitor.chargeLimitEnabled, enabled);
     }
-    monitor.shouldShowChargingTip = false;
     view->showSettings();
-    turn("Launch at Login");
-    turn("Launch at Login");
+    turn(generalSection(monitor).launchAtLogin.title);
+    turn(generalSection(monitor).launchAtLogin.title);
     EXPECT_THAT(dashboard.computer.login.wishes, ElementsAre("register", "unregister"));
-    turn("Auto Calibrate");
+    turn(calibrationSection(monitor, 0, daysFromNow).autoCalibrate.title);
     EXPECT_FALSE(monitor.calibrationEnabled);
 }
 
 TEST_F(Accessibility, PressesASwitchAsWell) {
-    act(QAccessible::CheckBox, "Charge Limit", QAccessibleActionInterface::pressAction());
+    act(QAccessible::CheckBox, qString(chargeLimitCard(monitor, linuxWords).title.text),
+        QAccessibleActionInterface::pressAction());
     EXPECT_FALSE(monitor.chargeLimitEnabled);
 }
 
 TEST_F(Accessibility, ChoosesFromEveryRow) {
-    const auto choose = [&](const QString& name) {
+    const auto choose = [&](std::string_view text) {
+        const auto name = qString(text);
         act(QAccessible::RadioButton, name, QAccessibleActionInterface::pressAction());
         EXPECT_TRUE(isOn(QAccessible::RadioButton, name)) << testing::PrintToString(name);
     };
@@ -203,28 +223,42 @@ TEST_F(Accessibility, ChoosesFromEveryRow) {
     EXPECT_EQ(monitor.historyRange.get(), TimeRange::twentyFourHours);
     EXPECT_FALSE(isOn(QAccessible::RadioButton, "30m"));
     view->showSettings();
-    choose("Temp");
+    choose(generalSection(monitor).menuBarDisplay.choices[4].text);
     EXPECT_EQ(monitor.menuBarDisplay.get(), MenuBarDisplay::temperature);
-    choose("2 Weeks");
+    choose(calibrationSection(monitor, 0, daysFromNow).frequency.choices[1].text);
     EXPECT_EQ(monitor.calibrationIntervalDays, 14);
 }
 
 TEST_F(Accessibility, MovesTheSlider) {
-    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::increaseAction());
+    const auto name = qString(chargeLimitCard(monitor, linuxWords).stopLevel->stopAt[0].text);
+    act(QAccessible::Slider, name, QAccessibleActionInterface::increaseAction());
     EXPECT_EQ(monitor.chargeLimitPercent, 85.0);
-    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::decreaseAction());
-    act(QAccessible::Slider, "Stop at:", QAccessibleActionInterface::decreaseAction());
+    act(QAccessible::Slider, name, QAccessibleActionInterface::decreaseAction());
+    act(QAccessible::Slider, name, QAccessibleActionInterface::decreaseAction());
     EXPECT_EQ(monitor.chargeLimitPercent, 75.0);
     EXPECT_EQ(dashboard.computer.helper.writes, 3);
-    auto* const value = find(QAccessible::Slider, "Stop at:")->valueInterface();
+    auto* const value = find(QAccessible::Slider, name)->valueInterface();
     EXPECT_EQ(value->currentValue().toDouble(), 75);
     EXPECT_EQ(value->minimumStepSize().toDouble(), 5);
+}
+
+TEST_F(Accessibility, SetsTheSliderToTheNearestStep) {
+    const auto name = qString(chargeLimitCard(monitor, linuxWords).stopLevel->stopAt[0].text);
+    const std::pair<double, double> wishes[] = {{60, 60}, {83, 85}, {82, 80}, {500, 100}, {-3, 20}, {81, 80}};
+    for (const auto& [wish, level] : wishes) {
+        auto* const value = find(QAccessible::Slider, name)->valueInterface();
+        value->setCurrentValue(wish);
+        EXPECT_EQ(monitor.chargeLimitPercent, level);
+        view->settle();
+        EXPECT_EQ(value->currentValue().toDouble(), level);
+    }
+    EXPECT_EQ(decodeDaemonConfig(*dashboard.computer.helper.configText)->chargeLimitPercent, 80);
 }
 
 TEST_F(Accessibility, ReadsOutTheSampleThatIsLookedAt) {
     const auto charts = visibleItems(view->root(), "ChartItem");
     ASSERT_EQ(charts.size(), 2U);
-    auto* const chart = find(QAccessible::Chart, "Live Power Trend");
+    auto* const chart = find(QAccessible::Chart, qString(trendCard(monitor)->title.text));
     EXPECT_EQ(chart->text(QAccessible::Description), "");
     QMetaObject::invokeMethod(charts.front(), "hover", Q_ARG(int, 4));
     EXPECT_EQ(chart->text(QAccessible::Description), "21.0W  now");

@@ -19,7 +19,7 @@ public:
     ~Time() override { uninstall(); }
 
     void pass(qint64 milliseconds) {
-        tick(); // animations begin in the turn after they were started, likewise they end
+        tick(); // animations begin, and end, in the turn after they were told to
         elapsed_ += milliseconds;
         tick();
     }

@@ -148,7 +148,7 @@ TEST_P(Readability, OfEveryInkOnACard) {
     ASSERT_EQ(inks.size(), allColorNames.size());
     for (const auto name : allColorNames) {
         if (name != ColorName::white) { // only on what is filled
-            const auto ink = inks[InkValue(name).name];
+            const auto ink = inks[ColorValue(name).name()];
             EXPECT_GE(contrast(ink, card), readable) << text(name);
             EXPECT_GE(contrast(ink, window), readable) << text(name);
         }

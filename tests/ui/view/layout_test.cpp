@@ -82,7 +82,7 @@ protected:
     // Figures are as long in every language.
     void lengthenTexts() {
         for (auto* const text : visibleItems(foreground(), "QQuickText")) {
-            if (isA(*text, "FigureText")) {
+            if (isA(*text, "FigureText") || enclosing(*text, "SliderScale") != nullptr) {
                 continue;
             }
             const auto shown = text->property("text").toString();
@@ -121,6 +121,12 @@ protected:
             }
         }
         return false;
+    }
+
+    // No program has such a name; what matters is that it keeps to its column.
+    [[nodiscard]] static bool isOfTheWidestLetters(const QQuickItem& text) {
+        const auto letters = text.property("text").toString();
+        return letters.startsWith("MMMM") || letters.startsWith("WWWW");
     }
 
     [[nodiscard]] static std::string nameOf(const QQuickItem& item) {
@@ -174,9 +180,7 @@ class LayoutOfTheTextsAsTheyAre : public Layout {};
 
 TEST_P(LayoutOfTheTextsAsTheyAre, CutsNoText) {
     for (const auto* const text : visibleItems(foreground(), "QQuickText")) {
-        const bool name =
-            text->property("text").toString().endsWith('~'); // its letters are the widest there are
-        EXPECT_FALSE(text->property("truncated").toBool() && !name) << nameOf(*text);
+        EXPECT_FALSE(text->property("truncated").toBool() && !isOfTheWidestLetters(*text)) << nameOf(*text);
         EXPECT_LE(text->property("contentWidth").toDouble(), text->width() + tolerance) << nameOf(*text);
     }
 }

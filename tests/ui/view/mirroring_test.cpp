@@ -21,7 +21,7 @@ protected:
         names.clear();
         for (const auto* const item : visibleItems(view.root(), "QQuickItem")) {
             auto place = view.placeOf(*item);
-            if (place.isEmpty()) {
+            if (place.isEmpty() || enclosing(*item, "FigureWithUnit") != nullptr) {
                 continue;
             }
             if (direction == Qt::RightToLeft) {
@@ -46,6 +46,34 @@ TEST_P(Mirroring, PutsEverythingAtTheOtherSide) {
         EXPECT_EQ(leftToRight[i].size(), rightToLeft[i].size()) << names[i];
         EXPECT_EQ(leftToRight[i].top(), rightToLeft[i].top()) << names[i];
     }
+}
+
+TEST(MirroringOfAFigure, LeavesItsSignBeforeItAndItsUnitBehindIt) {
+    const auto distances = [](Qt::LayoutDirection direction) {
+        QGuiApplication::setLayoutDirection(direction);
+        MadeUpDashboard dashboard;
+        fillEveryCard(*dashboard.monitor);
+        dashboard.monitor->isPluggedIn = false;
+        ShownView view(dashboard);
+        std::vector<std::string> texts;
+        std::vector<double> found;
+        for (const auto* const figure : visibleItems(view.root(), "FigureWithUnit")) {
+            for (const auto* const text : visibleItems(*figure, "QQuickText")) {
+                texts.push_back(text->property("text").toString().toStdString());
+                found.push_back(view.placeOf(*text).left() - view.placeOf(*figure).left());
+            }
+        }
+        EXPECT_EQ(texts, (std::vector<std::string>{"-", "21.0", "W", "64", "/100"}));
+        return found;
+    };
+    const auto leftToRight = distances(Qt::LeftToRight);
+    const auto rightToLeft = distances(Qt::RightToLeft);
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    ASSERT_EQ(leftToRight.size(), 5U);
+    EXPECT_EQ(leftToRight, rightToLeft);
+    EXPECT_LT(leftToRight[0], leftToRight[1]);
+    EXPECT_LT(leftToRight[1], leftToRight[2]);
+    EXPECT_LT(leftToRight[3], leftToRight[4]);
 }
 
 TEST_P(Mirroring, AlignsEveryTextWithTheOtherSide) {

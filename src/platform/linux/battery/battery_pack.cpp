@@ -27,6 +27,11 @@ std::optional<std::int64_t> centidegreesFrom(RawNumber tenths) {
     return tenths && *tenths >= -600 && *tenths <= 1500 ? std::optional(*tenths * 10) : std::nullopt;
 }
 
+// 100 is no limit, nor is what is no percentage of a charge.
+std::optional<std::int64_t> endThresholdFrom(RawNumber percent) {
+    return percent && *percent > 0 && *percent < 100 ? percent : std::nullopt;
+}
+
 std::optional<double> toldMinutes(const RawPack& raw, PackStatus status) {
     const auto seconds = status == PackStatus::Charging      ? raw.timeToFullNow
                          : status == PackStatus::Discharging ? raw.timeToEmptyNow
@@ -58,6 +63,7 @@ BatteryPack packFrom(const RawPack& raw) {
     pack.minutesLeft = minutesFrom(raw, pack);
     pack.cycles = cyclesFrom(raw.cycleCount);
     pack.centidegrees = centidegreesFrom(raw.temp);
+    pack.endThreshold = endThresholdFrom(raw.chargeControlEndThreshold);
     pack.answers = answers(raw, pack);
     return pack;
 }

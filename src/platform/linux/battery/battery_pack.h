@@ -18,6 +18,7 @@ struct BatteryPack {
     std::optional<double> minutesLeft;        // to empty or to full, by the status; 1 to below 6000
     std::optional<std::int64_t> cycles;       // above 0
     std::optional<std::int64_t> centidegrees; // hundredths of a degree Celsius
+    std::optional<std::int64_t> endThreshold; // %, 1 to 99, where a charge ends; nothing without a limit
     bool answers = false;                     // says anything about its state at all
 };
 

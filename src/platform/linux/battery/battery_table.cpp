@@ -11,8 +11,8 @@ namespace quelby {
 
 namespace {
 
-// Where firmware holds a battery just below 100 %, it says neither Full nor Charging.
-constexpr int heldAsFullPercent = 90;
+// Firmware ends a charge within one percent of where it should, and then says neither Full nor Charging.
+constexpr int endOfUnlimitedCharge = 99; // %
 
 void put(PropertyTable& table, const char* key, std::optional<std::int64_t> value) {
     if (value) {
@@ -34,7 +34,8 @@ void putCapacity(PropertyTable& table, const BatteryPack& pack) {
     const auto capacity = wholeCapacity(inMilliampereHours(pack.content, pack.referenceVolts));
     put(table, "DesignCapacity", capacity.design);
     put(table, "AppleRawMaxCapacity", capacity.full);
-    put(table, "AppleRawCurrentCapacity", capacity.remaining);
+    put(table, "AppleRawCurrentCapacity",
+        capacity.percent ? capacity.remaining.value_or(0) : capacity.remaining);
     put(table, "CurrentCapacity", capacity.percent);
 }
 
@@ -48,10 +49,12 @@ void putState(PropertyTable& table, const BatteryPack& pack) {
     }
 }
 
+// A battery that a limit holds is not full, however close to full the limit is.
 bool isFull(const BatteryPack& pack, bool isExternalConnected) {
     const bool idle = pack.status == PackStatus::Unknown || pack.status == PackStatus::NotCharging;
-    const bool held = idle && isExternalConnected && pack.content.percent.value_or(0) >= heldAsFullPercent;
-    return pack.status == PackStatus::Full || held;
+    const int end = pack.endThreshold ? 100 : endOfUnlimitedCharge;
+    const bool charged = idle && isExternalConnected && pack.content.percent.value_or(0) >= end;
+    return pack.status == PackStatus::Full || charged;
 }
 
 std::vector<PackStatus> statusesOf(const std::vector<BatteryPack>& packs) {

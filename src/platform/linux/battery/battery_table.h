@@ -10,7 +10,8 @@ namespace quelby {
 
 // The packs and adapters as the one property table that a battery answers with. There is at least one pack.
 // IsCharging, ExternalConnected and FullyCharged are always there. MaxCapacity never is: where the full
-// charge is not known, CurrentCapacity alone is the percentage.
+// charge is not known, CurrentCapacity is the percentage, and AppleRawCurrentCapacity stands beside it so
+// that nobody takes the percentage for a charge; it is 0 where the charge is not known either.
 [[nodiscard]] PropertyTable propertyTable(const std::vector<BatteryPack>& packs,
                                           const std::vector<Adapter>& adapters);
 

@@ -37,6 +37,13 @@ void readTimes(const AttributeFolder& supply, RawPack& pack) {
     }
 }
 
+// A pack that charges, discharges or is full answers already whether something holds it.
+void readEndThreshold(const AttributeFolder& supply, RawPack& pack) {
+    if (!pack.status || pack.status == "not charging" || pack.status == "unknown") {
+        pack.chargeControlEndThreshold = supply.number("charge_control_end_threshold");
+    }
+}
+
 void readVoltages(const AttributeFolder& supply, RawPack& pack) {
     pack.voltageNow = supply.number("voltage_now");
     pack.voltageAvg = supply.number("voltage_avg");
@@ -63,6 +70,7 @@ RawPack readPack(const AttributeFolder& supply) {
     readVoltages(supply, pack);
     readRate(supply, pack);
     readTimes(supply, pack);
+    readEndThreshold(supply, pack);
     return pack;
 }
 

@@ -28,20 +28,21 @@ struct RawCapacity {
 struct RawPack {
     std::optional<std::string> status; // in small letters
     RawCapacity charge;
-    RawCapacity energy;   // not needed beside a charge that is enough
-    RawNumber capacity;   // %
-    RawNumber voltageNow; // µV, as the following
-    RawNumber voltageAvg;
-    RawNumber voltageMinDesign;
-    RawNumber voltageMaxDesign;
-    RawNumber currentNow; // µA
-    RawNumber powerNow;   // µW
-    RawNumber currentAvg; // µA; the averages are not needed beside a present value
-    RawNumber powerAvg;   // µW
-    RawNumber temp;       // tenths of a degree Celsius
+    RawCapacity energy;         // not needed beside a charge that is enough
+    RawNumber capacity;         // %
+    RawNumber voltageNow;       // µV
+    RawNumber voltageAvg;       // µV
+    RawNumber voltageMinDesign; // µV
+    RawNumber voltageMaxDesign; // µV
+    RawNumber currentNow;       // µA
+    RawNumber powerNow;         // µW
+    RawNumber currentAvg;       // µA; the averages are not needed beside a present value
+    RawNumber powerAvg;         // µW
+    RawNumber temp;             // tenths of a degree Celsius
     RawNumber cycleCount;
-    RawNumber timeToEmptyNow; // seconds; needed while discharging only
-    RawNumber timeToFullNow;  // seconds; needed while charging only
+    RawNumber timeToEmptyNow;            // seconds; needed while discharging only
+    RawNumber timeToFullNow;             // seconds; needed while charging only
+    RawNumber chargeControlEndThreshold; // %; needed only of a pack that may be held
 
     // The charge says how much of how much, with the help of the percentage or of the design.
     [[nodiscard]] bool isChargeEnough() const;

@@ -14,9 +14,9 @@
 namespace quelby {
 
 struct WholeCapacity {
-    std::optional<std::int64_t> design;    // mAh, as the following; above 0
-    std::optional<std::int64_t> full;      // above 0
-    std::optional<std::int64_t> remaining; // at least 0
+    std::optional<std::int64_t> design;    // mAh, above 0
+    std::optional<std::int64_t> full;      // mAh, above 0
+    std::optional<std::int64_t> remaining; // mAh, at least 0
 
     // % of full, where full is not known, or so small (below 100 mAh) that no whole remaining charge makes
     // the percentage; full is unknown then.

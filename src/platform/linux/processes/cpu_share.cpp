@@ -14,22 +14,22 @@ double shareOver(double elapsedTicks, double usedTicks, const CpuScale& scale) {
     return std::min(100.0 * usedTicks / elapsedTicks, mostPercent);
 }
 
-double lifetimeAverage(const CpuCounters& counters, const LookTime& look, const CpuScale& scale) {
+double lifetimeAverage(const CpuCounters& counters, const ScanTime& scan, const CpuScale& scale) {
     const double ageTicks =
-        look.uptimeSeconds * scale.ticksPerSecond - static_cast<double>(counters.startTicks);
+        scan.uptimeSeconds * scale.ticksPerSecond - static_cast<double>(counters.startTicks);
     return ageTicks >= 1 ? shareOver(ageTicks, static_cast<double>(counters.usedTicks), scale) : 0;
 }
 
 } // namespace
 
-void CpuShare::update(const CpuCounters& counters, const LookTime& look, const CpuScale& scale) {
+void CpuShare::update(const CpuCounters& counters, const ScanTime& scan, const CpuScale& scale) {
     const bool known = baseline_ && baseline_->counters.startTicks == counters.startTicks;
     if (!known) {
-        percent_ = lifetimeAverage(counters, look, scale);
-        baseline_ = {counters, look.monotonicSeconds};
+        percent_ = lifetimeAverage(counters, scan, scale);
+        baseline_ = {counters, scan.monotonicSeconds};
         return;
     }
-    const double elapsedTicks = (look.monotonicSeconds - baseline_->monotonicSeconds) * scale.ticksPerSecond;
+    const double elapsedTicks = (scan.monotonicSeconds - baseline_->monotonicSeconds) * scale.ticksPerSecond;
     if (elapsedTicks >= 0 && elapsedTicks < leastMeasurableTicks) {
         return;
     }
@@ -37,7 +37,7 @@ void CpuShare::update(const CpuCounters& counters, const LookTime& look, const C
         const auto before = std::min(baseline_->counters.usedTicks, counters.usedTicks);
         percent_ = shareOver(elapsedTicks, static_cast<double>(counters.usedTicks - before), scale);
     }
-    baseline_ = {counters, look.monotonicSeconds};
+    baseline_ = {counters, scan.monotonicSeconds};
 }
 
 } // namespace quelby

@@ -9,7 +9,7 @@
 
 namespace quelby {
 
-struct LookTime {
+struct ScanTime {
     double monotonicSeconds = 0; // stands still while the computer sleeps, so a night does not dilute a share
     double uptimeSeconds = 0;    // since boot, sleep included, as the start times of processes count
 };
@@ -22,12 +22,12 @@ struct CpuScale {
 // One process's share. The share is 0 to 100 times the number of logical processors, and always finite.
 class CpuShare {
 public:
-    // What was used since the previous look. For a process seen for the first time, which a reused pid is as
+    // What was used since the previous scan. For a process seen for the first time, which a reused pid is as
     // well, the average of its lifetime, as ps prints it; 0 in its first clock tick.
     //
-    // Counters that run backwards, as the kernel's scaling can let them by a tick, give 0. A look too close
+    // Counters that run backwards, as the kernel's scaling can let them by a tick, give 0. A scan too close
     // to the previous one to measure anything keeps the share, and what was used since then counts later.
-    void update(const CpuCounters& counters, const LookTime& look, const CpuScale& scale);
+    void update(const CpuCounters& counters, const ScanTime& scan, const CpuScale& scale);
 
     [[nodiscard]] double percent() const { return percent_; }
 

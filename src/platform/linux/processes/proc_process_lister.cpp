@@ -16,17 +16,17 @@ CpuScale thisComputersScale() {
 
 } // namespace
 
-ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::function<LookTime()> lookTime)
-    : scale_(thisComputersScale()), scanner_(std::move(procRoot), scale_, std::move(lookTime)) {}
+ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::function<ScanTime()> scanTime)
+    : scale_(thisComputersScale()), scanner_(std::move(procRoot), scale_, std::move(scanTime)) {}
 
 std::optional<std::string> ProcProcessLister::cpuListing() {
-    hasLook_ = scanner_.look();
-    return hasLook_ ? std::optional(cpuListingText(scanner_.processes())) : std::nullopt;
+    hasScan_ = scanner_.scan();
+    return hasScan_ ? std::optional(cpuListingText(scanner_.processes())) : std::nullopt;
 }
 
 std::optional<std::string> ProcProcessLister::topListing() {
-    hasLook_ = hasLook_ || scanner_.look();
-    return hasLook_ ? std::optional(topListingText(scanner_.processes())) : std::nullopt;
+    hasScan_ = hasScan_ || scanner_.scan();
+    return hasScan_ ? std::optional(topListingText(scanner_.processes())) : std::nullopt;
 }
 
 std::int64_t ProcProcessLister::logicalProcessors() {

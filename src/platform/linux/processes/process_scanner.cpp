@@ -8,10 +8,10 @@
 namespace quelby {
 
 ProcessScanner::ProcessScanner(std::filesystem::path procRoot, CpuScale scale,
-                               std::function<LookTime()> lookTime)
-    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), lookTime_(std::move(lookTime)) {}
+                               std::function<ScanTime()> scanTime)
+    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), scanTime_(std::move(scanTime)) {}
 
-bool ProcessScanner::look() {
+bool ProcessScanner::scan() {
     if (!directory_.listPids(pids_)) {
         table_.clear();
         return false;
@@ -28,8 +28,8 @@ bool ProcessScanner::look() {
     return true;
 }
 
-LookTime ProcessScanner::timeOfLook() {
-    auto time = lookTime_();
+ScanTime ProcessScanner::timeOfLook() {
+    auto time = scanTime_();
     std::array<char, 64> buffer;
     if (const auto text = readBeginning(directory_.open("uptime"), buffer)) {
         time.uptimeSeconds = parseUptime(*text).value_or(time.uptimeSeconds);
@@ -42,7 +42,7 @@ bool ProcessScanner::refresh(Process& process, bool clocksTell) {
         process.clock = CpuClock::of(process.pid);
     }
     // Asked before the files: what the process does between the two answers moves its clock for the next
-    // look.
+    // scan.
     const auto clock = process.clock ? process.clock->nanoseconds() : std::nullopt;
     const bool hasSlept = clock && clock == process.clockNanoseconds;
     process.clockNanoseconds = clock;

@@ -12,10 +12,10 @@
 
 namespace quelby {
 
-// Takes looks at all processes of a /proc.
+// Takes scans at all processes of a /proc.
 class ProcessScanner {
 public:
-    ProcessScanner(std::filesystem::path procRoot, CpuScale scale, std::function<LookTime()> lookTime);
+    ProcessScanner(std::filesystem::path procRoot, CpuScale scale, std::function<ScanTime()> scanTime);
 
     ProcessScanner(const ProcessScanner&) = delete;
     ProcessScanner& operator=(const ProcessScanner&) = delete;
@@ -23,21 +23,21 @@ public:
     ProcessScanner& operator=(ProcessScanner&&) = delete;
     ~ProcessScanner() = default;
 
-    // False where the directory cannot be read; then all is forgotten, and the next look is a first one.
-    [[nodiscard]] bool look();
+    // False where the directory cannot be read; then all is forgotten, and the next scan is a first one.
+    [[nodiscard]] bool scan();
 
-    // What the last look has seen, in ascending order of pid.
+    // What the last scan has seen, in ascending order of pid.
     [[nodiscard]] std::span<const Process> processes() const { return table_.processes(); }
 
 private:
-    [[nodiscard]] LookTime timeOfLook();
+    [[nodiscard]] ScanTime timeOfLook();
     [[nodiscard]] bool refresh(Process& process, bool clocksTell);
     [[nodiscard]] bool readAgain(Process& process);
 
     ProcDirectory directory_;
     StatReader stats_;
     CpuScale scale_;
-    std::function<LookTime()> lookTime_;
+    std::function<ScanTime()> scanTime_;
     std::vector<pid_t> pids_;
     ProcessTable table_;
 };

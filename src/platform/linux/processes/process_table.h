@@ -1,4 +1,4 @@
-// The living processes, and what is known of each from one look to the next.
+// The living processes, and what is known of each from one scan to the next.
 #pragma once
 
 #include <cstdint>
@@ -18,7 +18,7 @@ namespace quelby {
 
 struct Process {
     pid_t pid = 0;
-    FileDescriptor statFile; // closed unless it is kept from one look to the next
+    FileDescriptor statFile; // closed unless it is kept from one scan to the next
     std::optional<CpuClock> clock;
     std::optional<std::uint64_t> clockNanoseconds; // before the counters were read
     CpuCounters counters;
@@ -27,7 +27,7 @@ struct Process {
     std::string name;        // for a listing
 };
 
-// In ascending order of pid, and never more than the last look has seen.
+// In ascending order of pid, and never more than the last scan has seen.
 class ProcessTable {
 public:
     // Forgets whoever is not in the list, which is in ascending order, and adds whoever is new.

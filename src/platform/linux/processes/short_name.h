@@ -14,9 +14,10 @@ namespace quelby {
 // empty text where it does not begin with comm.
 [[nodiscard]] std::string_view nameFromExecutable(std::string_view comm, std::string_view path);
 
-// Likewise from a command line with a NUL byte behind each argument: the program's, or a script's, which
-// follows its interpreter and one option of it at most. Programs rewrite their command lines, arguments
-// included, as one text: a name ends at a blank and at a slash.
+// The name that a program's command line gives to a cut comm, with a NUL byte behind each argument: that of
+// the program, or of a script, which follows its interpreter and one option of it at most. An empty text
+// where neither begins with comm. Programs rewrite their command lines, arguments included, as one text: a
+// name ends at a blank and at a slash.
 [[nodiscard]] std::string_view nameFromCommandLine(std::string_view comm, std::string_view commandLine);
 
 // Fit for a line of a listing: printable, and "?" where there is nothing to be seen.

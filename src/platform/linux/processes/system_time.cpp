@@ -16,7 +16,7 @@ double seconds(clockid_t clock) {
 
 } // namespace
 
-LookTime systemLookTime() {
+ScanTime systemScanTime() {
     return {seconds(CLOCK_MONOTONIC), seconds(CLOCK_BOOTTIME)};
 }
 

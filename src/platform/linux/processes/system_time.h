@@ -8,7 +8,7 @@
 namespace quelby {
 
 // Now, by the system's clocks.
-[[nodiscard]] LookTime systemLookTime();
+[[nodiscard]] ScanTime systemScanTime();
 
 // Seconds since boot, sleep included, from the text of /proc/uptime; nothing where it is malformed.
 [[nodiscard]] std::optional<double> parseUptime(std::string_view text);

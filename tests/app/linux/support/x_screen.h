@@ -6,7 +6,7 @@
 
 #include <QRect>
 
-#include "app/linux/x_connection.h"
+#include "app/linux/session/x_connection.h"
 #include "support/running_program.h"
 
 namespace quelby {

@@ -136,6 +136,22 @@ extern "C" NSArray<NSString*>* NSSearchPathForDirectoriesInDomains(NSSearchPathD
                                                                    NSSearchPathDomainMask domains,
                                                                    BOOL expandTilde);
 
+typedef double NSTimeInterval;
+
+@interface NSDate : NSObject
++ (instancetype)dateWithTimeIntervalSince1970:(NSTimeInterval)seconds;
+@property(readonly) NSTimeInterval timeIntervalSince1970;
+@end
+
+@interface NSCalendar : NSObject
+@property(class, readonly, copy) NSCalendar* currentCalendar;
+- (NSDate*)startOfDayForDate:(NSDate*)date;
+@end
+
+@interface NSRelativeDateTimeFormatter : NSObject
+- (NSString*)localizedStringForDate:(NSDate*)date relativeToDate:(NSDate*)reference;
+@end
+
 @interface NSBundle : NSObject
 @property(class, readonly) NSBundle* mainBundle;
 @property(readonly, copy) NSString* bundlePath;

@@ -40,6 +40,18 @@ TEST(BatteryPack, CyclesThatWereNotCountedAreUnknown) {
     EXPECT_EQ(packFrom(pack).cycles, 236);
 }
 
+TEST(BatteryPack, AChargeThatEndsAtAHundredHasNoLimit) {
+    auto pack = dischargingPack();
+    for (const RawNumber none : {RawNumber(), RawNumber(-1), RawNumber(0), RawNumber(100), RawNumber(255)}) {
+        pack.chargeControlEndThreshold = none;
+        EXPECT_EQ(packFrom(pack).endThreshold, std::nullopt);
+    }
+    for (const std::int64_t limit : {1, 80, 99}) {
+        pack.chargeControlEndThreshold = limit;
+        EXPECT_EQ(packFrom(pack).endThreshold, limit);
+    }
+}
+
 TEST(BatteryPack, TheTemperatureMayBeBelowZeroButNotBeyondBelief) {
     auto pack = dischargingPack();
     for (const std::int64_t tenths : {-2731, -601, 1501, 65'535}) {

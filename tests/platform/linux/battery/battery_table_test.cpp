@@ -26,7 +26,7 @@ BatteryPack packAt(PackStatus status, int percent) {
 }
 
 bool isFull(const std::vector<BatteryPack>& packs, const std::vector<Adapter>& adapters) {
-    return publishedFrom(propertyTable(packs, adapters)).fullyCharged;
+    return PublishedBattery(propertyTable(packs, adapters)).fullyCharged;
 }
 
 TEST(BatteryTable, HoldsEveryKnownFigureInItsUnit) {
@@ -62,24 +62,35 @@ TEST(BatteryTable, WithoutACapacityThePercentageIsCurrentCapacity) {
     BatteryPack pack;
     pack.content.percent = 57;
     const auto table = propertyTable({pack}, {});
-    EXPECT_EQ(publishedFrom(table).percent, 57);
+    EXPECT_EQ(PublishedBattery(table).batteryPercent, 57);
+    EXPECT_EQ(PublishedBattery(table).rawCurrentCapacity, 0) << "not 57 mAh";
     EXPECT_THAT(table, Not(Contains(Key("MaxCapacity"))));
     EXPECT_THAT(table, Not(Contains(Key("AppleRawMaxCapacity"))));
+}
+
+TEST(BatteryTable, AKnownChargeStandsBesideThePercentageOfAnUnknownCapacity) {
+    BatteryPack pack;
+    pack.content.remaining = 756;
+    pack.content.percent = 12;
+    const PublishedBattery battery(propertyTable({pack}, {}));
+    EXPECT_EQ(battery.rawCurrentCapacity, 756);
+    EXPECT_EQ(battery.batteryPercent, 12);
+    EXPECT_EQ(battery.rawMaxCapacity, 0);
 }
 
 TEST(BatteryTable, ACurrentTooGreatForReadersKeepsItsDirection) {
     auto pack = packAt(PackStatus::Charging, 50);
     pack.flow = {38'000, 280};
-    EXPECT_EQ(publishedFrom(propertyTable({pack}, {})).milliamperes, 30'000);
+    EXPECT_EQ(PublishedBattery(propertyTable({pack}, {})).amperage, 30'000);
     pack.flow = {-38'000, -280};
-    EXPECT_EQ(publishedFrom(propertyTable({pack}, {})).milliamperes, -38'000);
+    EXPECT_EQ(PublishedBattery(propertyTable({pack}, {})).amperage, -38'000);
 }
 
 TEST(BatteryTable, OneChargingPackIsEnough) {
     const auto charging = packAt(PackStatus::Charging, 50);
     const auto idle = packAt(PackStatus::NotCharging, 80);
-    EXPECT_TRUE(publishedFrom(propertyTable({idle, charging}, {})).isCharging);
-    EXPECT_FALSE(publishedFrom(propertyTable({idle, idle}, {})).isCharging);
+    EXPECT_TRUE(PublishedBattery(propertyTable({idle, charging}, {})).isCharging);
+    EXPECT_FALSE(PublishedBattery(propertyTable({idle, idle}, {})).isCharging);
 }
 
 TEST(BatteryTable, FullIsWhatTheFirmwareCallsFull) {
@@ -88,12 +99,28 @@ TEST(BatteryTable, FullIsWhatTheFirmwareCallsFull) {
     EXPECT_FALSE(isFull({packAt(PackStatus::Full, 100), packAt(PackStatus::Charging, 50)}, {mainsOn}));
 }
 
-TEST(BatteryTable, HeldCloseToFullOnExternalPowerIsFull) {
+TEST(BatteryTable, WhereNothingLimitsTheChargeItsEndOnExternalPowerIsFull) {
     for (const auto status : {PackStatus::NotCharging, PackStatus::Unknown}) {
-        EXPECT_TRUE(isFull({packAt(status, 90)}, {mainsOn}));
-        EXPECT_FALSE(isFull({packAt(status, 89)}, {mainsOn}));
+        EXPECT_TRUE(isFull({packAt(status, 100)}, {mainsOn}));
+        EXPECT_TRUE(isFull({packAt(status, 99)}, {mainsOn})) << "firmware stops a little early";
+        EXPECT_FALSE(isFull({packAt(status, 98)}, {mainsOn}));
+        EXPECT_FALSE(isFull({packAt(status, 90)}, {mainsOn}));
         EXPECT_FALSE(isFull({packAt(status, 100)}, {mainsOff}));
     }
+}
+
+TEST(BatteryTable, ABatteryHeldAtALimitIsNotFullHoweverHighTheLimit) {
+    for (const int percent : {80, 90, 95, 99}) {
+        auto held = packAt(PackStatus::NotCharging, percent);
+        held.endThreshold = percent;
+        EXPECT_FALSE(isFull({held}, {mainsOn})) << percent;
+    }
+}
+
+TEST(BatteryTable, ABatteryThatWasFullWhenTheLimitCameIsStillFull) {
+    auto pack = packAt(PackStatus::NotCharging, 100);
+    pack.endThreshold = 80;
+    EXPECT_TRUE(isFull({pack}, {mainsOn}));
 }
 
 } // namespace

@@ -1,39 +1,16 @@
 #include "platform/linux/battery/fake_sysfs.h"
 
-#include <fstream>
-#include <stdexcept>
-
-#include <cstdlib>
-
 namespace quelby::fake {
-
-namespace {
 
 namespace fs = std::filesystem;
 
-fs::path temporaryFolder() {
-    auto name = (fs::temp_directory_path() / "quelby-sysfs-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder " + name);
-    }
-    return name;
-}
-
-} // namespace
-
-Sysfs::Sysfs(Unreadable unreadable, Layout layout)
-    : root_(temporaryFolder()), unreadable_(unreadable), layout_(layout) {
+Sysfs::Sysfs(Unreadable unreadable, Layout layout) : unreadable_(unreadable), layout_(layout) {
     fs::create_directories(classFolder());
-}
-
-Sysfs::~Sysfs() {
-    std::error_code error;
-    fs::remove_all(root_, error);
 }
 
 fs::path Sysfs::folderOf(const std::string& supply) const {
     return layout_ == Layout::Folders ? classFolder() / supply
-                                      : root_ / "devices" / "virtual" / "power_supply" / supply;
+                                      : root() / "devices" / "virtual" / "power_supply" / supply;
 }
 
 void Sysfs::plug(const std::string& supply, const Attributes& attributes) const {
@@ -59,7 +36,7 @@ void Sysfs::unplug(const std::string& supply) const {
 void Sysfs::write(const std::string& supply, const std::string& attribute, const std::string& bytes) const {
     const auto file = folderOf(supply) / attribute;
     fs::remove_all(file);
-    std::ofstream(file, std::ios::binary) << bytes;
+    folder_.write(file, bytes);
 }
 
 void Sysfs::makeUnreadable(const std::string& supply, const std::string& attribute) const {

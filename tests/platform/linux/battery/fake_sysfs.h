@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "support/temporary_folder.h"
+
 namespace quelby::fake {
 
 // Attribute names to what their files hold; nothing for an attribute that cannot be read.
@@ -18,19 +20,14 @@ enum class Layout {
     Links, // class/power_supply holds links into devices/, as in the kernel's own tree
 };
 
-// A sysfs root in a temporary folder, removed at the end.
+// A sysfs root in a temporary folder.
 class Sysfs {
 public:
     explicit Sysfs(Unreadable unreadable = Unreadable::FailsToRead, Layout layout = Layout::Links);
-    Sysfs(const Sysfs&) = delete;
-    Sysfs(Sysfs&&) = delete;
-    Sysfs& operator=(const Sysfs&) = delete;
-    Sysfs& operator=(Sysfs&&) = delete;
-    ~Sysfs();
 
-    [[nodiscard]] const std::filesystem::path& root() const { return root_; }
+    [[nodiscard]] const std::filesystem::path& root() const { return folder_.path(); }
 
-    [[nodiscard]] std::filesystem::path classFolder() const { return root_ / "class" / "power_supply"; }
+    [[nodiscard]] std::filesystem::path classFolder() const { return root() / "class" / "power_supply"; }
 
     // Where the attributes of a supply are.
     [[nodiscard]] std::filesystem::path folderOf(const std::string& supply) const;
@@ -44,7 +41,7 @@ public:
     void makeUnreadable(const std::string& supply, const std::string& attribute) const;
 
 private:
-    std::filesystem::path root_;
+    TemporaryFolder folder_;
     Unreadable unreadable_;
     Layout layout_;
 };

@@ -159,5 +159,19 @@ TEST_F(PowerSuppliesTest, WhatIsNotNeededIsNotAskedFor) {
     EXPECT_EQ(pack.timeToFullNow, std::nullopt);
 }
 
+TEST_F(PowerSuppliesTest, TheEndOfAChargeIsAskedForOnlyOfAPackThatMayBeHeld) {
+    sysfs.plug("BAT0", {{"type", "Battery"}, {"charge_control_end_threshold", "80"}});
+    const auto endWhile = [this](const std::string& status) {
+        sysfs.write("BAT0", "status", status);
+        return read().packs.at(0).chargeControlEndThreshold;
+    };
+    EXPECT_EQ(read().packs.at(0).chargeControlEndThreshold, 80) << "without a status";
+    EXPECT_EQ(endWhile("Not charging\n"), 80);
+    EXPECT_EQ(endWhile("Unknown\n"), 80);
+    for (const auto* moving : {"Charging\n", "Discharging\n", "Full\n"}) {
+        EXPECT_EQ(endWhile(moving), std::nullopt) << moving;
+    }
+}
+
 } // namespace
 } // namespace quelby

@@ -1,9 +1,8 @@
 #include "platform/linux/processes/cpu_clock.h"
+#include "support/child_process.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
-
-#include "child_process.h"
 
 namespace quelby {
 namespace {

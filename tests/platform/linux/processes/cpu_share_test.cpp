@@ -11,22 +11,22 @@ constexpr CpuScale fourProcessors{100, 4};
 
 // A process that started 10 s after boot, looked at 60 s after boot.
 constexpr CpuCounters tenSecondsUsed{1000, 1000};
-constexpr LookTime firstLook{40, 60};
+constexpr ScanTime firstLook{40, 60};
 
-LookTime later(double seconds) {
+ScanTime later(double seconds) {
     return {firstLook.monotonicSeconds + seconds, firstLook.uptimeSeconds + seconds};
 }
 
-double shareAtFirstLook(const CpuCounters& counters, const LookTime& look = firstLook) {
+double shareAtFirstLook(const CpuCounters& counters, const ScanTime& scan = firstLook) {
     CpuShare share;
-    share.update(counters, look, fourProcessors);
+    share.update(counters, scan, fourProcessors);
     return share.percent();
 }
 
-double shareAtSecondLook(std::uint64_t usedTicks, const LookTime& look, std::uint64_t startTicks = 1000) {
+double shareAtSecondLook(std::uint64_t usedTicks, const ScanTime& scan, std::uint64_t startTicks = 1000) {
     CpuShare share;
     share.update(tenSecondsUsed, firstLook, fourProcessors);
-    share.update({startTicks, usedTicks}, look, fourProcessors);
+    share.update({startTicks, usedTicks}, scan, fourProcessors);
     return share.percent();
 }
 
@@ -88,7 +88,7 @@ TEST(CpuShare, OfALookTooCloseToThePreviousOneCountsAtTheNext) {
 }
 
 TEST(CpuShare, IsNotDilutedByANightOfSleep) {
-    const LookTime afterWaking{firstLook.monotonicSeconds + 3, firstLook.uptimeSeconds + 8 * 3600};
+    const ScanTime afterWaking{firstLook.monotonicSeconds + 3, firstLook.uptimeSeconds + 8 * 3600};
     EXPECT_DOUBLE_EQ(shareAtSecondLook(1150, afterWaking), 50);
 }
 

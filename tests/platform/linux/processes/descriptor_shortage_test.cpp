@@ -65,7 +65,7 @@ protected:
     }
 
     FakeProc proc_;
-    LookTime time_;
+    ScanTime time_;
     ProcProcessLister lister_{proc_.root(), [this] { return time_; }};
     const std::uint64_t second_ = static_cast<std::uint64_t>(::sysconf(_SC_CLK_TCK));
 };

@@ -2,14 +2,14 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <string_view>
 
-#include <stdlib.h> // NOLINT(modernize-deprecated-headers): mkdtemp() is not in <cstdlib>
 #include <sys/types.h>
 
 #include <fmt/format.h>
+
+#include "support/temporary_folder.h"
 
 namespace quelby {
 
@@ -29,23 +29,12 @@ inline std::string statOf(const FakeProcess& process) {
                        process.startTicks);
 }
 
-// A /proc in a temporary folder, removed at the end.
+// A /proc in a temporary folder.
 class FakeProc {
 public:
-    FakeProc() {
-        auto name = (std::filesystem::temp_directory_path() / "fake-proc-XXXXXX").string();
-        parent_ = ::mkdtemp(name.data());
-        makeRoot();
-    }
+    FakeProc() { makeRoot(); }
 
-    FakeProc(const FakeProc&) = delete;
-    FakeProc& operator=(const FakeProc&) = delete;
-    FakeProc(FakeProc&&) = delete;
-    FakeProc& operator=(FakeProc&&) = delete;
-
-    ~FakeProc() { std::filesystem::remove_all(parent_); }
-
-    [[nodiscard]] std::filesystem::path root() const { return parent_ / "proc"; }
+    [[nodiscard]] std::filesystem::path root() const { return parent_.path() / "proc"; }
 
     void makeRoot() const { std::filesystem::create_directory(root()); }
 
@@ -55,8 +44,7 @@ public:
     void set(const FakeProcess& process) const { write(process.pid, "stat", statOf(process)); }
 
     void write(pid_t pid, std::string_view name, std::string_view text) const {
-        std::filesystem::create_directory(folderOf(pid));
-        std::ofstream(folderOf(pid) / name, std::ios::binary) << text;
+        parent_.write(folderOf(pid) / name, text);
     }
 
     void setExecutable(pid_t pid, const std::string& target) const {
@@ -64,7 +52,7 @@ public:
     }
 
     void setUptime(double seconds) const {
-        std::ofstream(root() / "uptime") << fmt::format("{:.2f} 12.34\n", seconds);
+        parent_.write(root() / "uptime", fmt::format("{:.2f} 12.34\n", seconds));
     }
 
     void remove(pid_t pid) const { std::filesystem::remove_all(folderOf(pid)); }
@@ -72,7 +60,7 @@ public:
     [[nodiscard]] std::filesystem::path folderOf(pid_t pid) const { return root() / fmt::to_string(pid); }
 
 private:
-    std::filesystem::path parent_;
+    TemporaryFolder parent_;
 };
 
 } // namespace quelby

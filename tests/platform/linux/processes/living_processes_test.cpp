@@ -7,9 +7,10 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
-#include "child_process.h"
 #include "listing_lines.h"
 #include "platform/linux/processes/proc_process_lister.h"
+#include "support/child_process.h"
+#include "support/temporary_folder.h"
 
 namespace quelby {
 namespace {
@@ -45,7 +46,7 @@ bool looksUntil(const IsThere& isThere) {
 
 class LivingProcesses : public testing::Test {
 protected:
-    std::vector<ListedLine> look() {
+    std::vector<ListedLine> scan() {
         static_cast<void>(lister_.cpuListing());
         return listed(lister_.topListing());
     }
@@ -56,10 +57,10 @@ protected:
 TEST_F(LivingProcesses, AreListedUntilTheyEnd) {
     const auto name = uniqueName("rest");
     ChildProcess child(restingAs(name));
-    EXPECT_THAT(look(), has(name));
-    EXPECT_THAT(look(), has(name));
+    EXPECT_THAT(scan(), has(name));
+    EXPECT_THAT(scan(), has(name));
     child.end();
-    EXPECT_THAT(look(), Not(has(name)));
+    EXPECT_THAT(scan(), Not(has(name)));
 }
 
 TEST_F(LivingProcesses, HaveTheirShareSinceThePreviousLook) {
@@ -72,7 +73,7 @@ TEST_F(LivingProcesses, HaveTheirShareSinceThePreviousLook) {
         }
     });
     EXPECT_TRUE(looksUntil([&] {
-        look();
+        scan();
         return shareOf(name, lister_.topListing()).value_or(0) > 20;
     }));
 }
@@ -82,61 +83,48 @@ TEST_F(LivingProcesses, StayAtZeroWhileTheySleep) {
     const ChildProcess child(restingAs(name));
     const auto before = std::chrono::steady_clock::now();
     EXPECT_TRUE(looksUntil([&] {
-        look();
+        scan();
         return std::chrono::steady_clock::now() - before > std::chrono::milliseconds(300);
     }));
     EXPECT_EQ(shareOf(name, lister_.topListing()), 0);
 }
 
 TEST_F(LivingProcesses, ChangeTheirNames) {
-    Pipe go;
+    Pipe go = makePipe();
     const auto before = uniqueName("old");
     const auto after = uniqueName("new");
     const ChildProcess child([&](FileDescriptor ready) {
-        go.writing.close();
+        go.writeEnd.close();
         ::prctl(PR_SET_NAME, before.c_str());
         ready.close();
-        waitForEnd(go.reading);
+        waitForEnd(go.readEnd);
         restingAs(after)({});
     });
-    EXPECT_THAT(look(), has(before));
-    go.writing.close();
-    EXPECT_TRUE(looksUntil([&] { return testing::Value(look(), has(after)); }));
-    EXPECT_THAT(look(), Not(has(before)));
+    EXPECT_THAT(scan(), has(before));
+    go.writeEnd.close();
+    EXPECT_TRUE(looksUntil([&] { return testing::Value(scan(), has(after)); }));
+    EXPECT_THAT(scan(), Not(has(before)));
 }
 
 // Runs a copy of `cat`, which waits for input that never comes.
 class LongNamed {
 public:
-    LongNamed() {
-        auto name = (std::filesystem::temp_directory_path() / "long-named-XXXXXX").string();
-        folder_ = ::mkdtemp(name.data());
-        program_ = folder_ / uniqueName("a-program-with-a-name-of-length");
-    }
-
-    LongNamed(const LongNamed&) = delete;
-    LongNamed& operator=(const LongNamed&) = delete;
-    LongNamed(LongNamed&&) = delete;
-    LongNamed& operator=(LongNamed&&) = delete;
-
-    ~LongNamed() { std::filesystem::remove_all(folder_); }
-
-    [[nodiscard]] std::filesystem::path program() const { return program_; }
+    [[nodiscard]] const std::filesystem::path& program() const { return program_; }
 
     [[nodiscard]] std::string name() const { return program_.filename(); }
 
     void run(const char* argument) {
         child_.emplace([&](const FileDescriptor&) {
-            ::dup2(input_.reading.number(), STDIN_FILENO);
+            ::dup2(input_.readEnd.number(), STDIN_FILENO);
             ::execl(program().c_str(), argument, nullptr);
             ::_exit(1);
         });
     }
 
 private:
-    std::filesystem::path folder_;
-    std::filesystem::path program_;
-    Pipe input_; // nothing is ever written
+    TemporaryFolder folder_;
+    std::filesystem::path program_ = folder_.path() / uniqueName("a-program-with-a-name-of-length");
+    Pipe input_ = makePipe(); // nothing is ever written
     std::optional<ChildProcess> child_;
 };
 
@@ -144,14 +132,14 @@ TEST_F(LivingProcesses, HaveTheWholeNameOfTheirProgram) {
     LongNamed longNamed;
     std::filesystem::copy_file("/bin/cat", longNamed.program());
     longNamed.run("cat");
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheWholeNameOfALinkToTheirProgram) {
     LongNamed longNamed;
     std::filesystem::create_symlink("/bin/cat", longNamed.program());
     longNamed.run(longNamed.program().c_str());
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheWholeNameOfAProgramThatWasDeleted) {
@@ -159,17 +147,17 @@ TEST_F(LivingProcesses, HaveTheWholeNameOfAProgramThatWasDeleted) {
     std::filesystem::copy_file("/bin/cat", longNamed.program());
     longNamed.run("cat");
     std::filesystem::remove(longNamed.program());
-    EXPECT_THAT(look(), has(longNamed.name()));
+    EXPECT_THAT(scan(), has(longNamed.name()));
 }
 
 TEST_F(LivingProcesses, HaveTheNameTheyChoseWhereItIsNotTheirPrograms) {
     const std::string fifteenBytes = "my own long nam";
     const ChildProcess child(restingAs(fifteenBytes));
-    EXPECT_THAT(look(), has(fifteenBytes));
+    EXPECT_THAT(scan(), has(fifteenBytes));
 }
 
 TEST_F(LivingProcesses, CountThisProgramToo) {
-    EXPECT_THAT(look(), has("linux_processes_tests"));
+    EXPECT_THAT(scan(), has("linux_processes_tests"));
 }
 
 } // namespace

@@ -26,13 +26,13 @@ protected:
         proc_.setUptime(100 + time_.monotonicSeconds);
     }
 
-    std::vector<ListedLine> look() {
+    std::vector<ListedLine> scan() {
         static_cast<void>(lister_.cpuListing());
         return listed(lister_.topListing());
     }
 
     FakeProc proc_;
-    LookTime time_;
+    ScanTime time_;
     ProcProcessLister lister_{proc_.root(), [this] { return time_; }};
 };
 
@@ -47,10 +47,10 @@ TEST_F(ProcProcessListerTest, ListsEveryProcessInPssManner) {
 TEST_F(ProcProcessListerTest, GivesTheSharesSinceThePreviousLook) {
     proc_.set({2, "editor", ticks(25)});
     proc_.set({3, "idler", ticks(25)});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{25, "editor"}, ListedLine{25, "idler"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{25, "editor"}, ListedLine{25, "idler"}));
     pass(2);
     proc_.set({2, "editor", ticks(26.5)});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{75, "editor"}, ListedLine{0, "idler"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{75, "editor"}, ListedLine{0, "idler"}));
 }
 
 TEST_F(ProcProcessListerTest, AnswersBothListingsFromTheSameLook) {
@@ -69,18 +69,18 @@ TEST_F(ProcProcessListerTest, LooksForTheTopListingWhereNothingWasLookedAtYet) {
 
 TEST_F(ProcProcessListerTest, StartsAnewWhereAPidIsReused) {
     proc_.set({2, "editor"});
-    look();
+    scan();
     pass(100);
     proc_.set({2, "compiler", ticks(50), ticks(100)});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{50, "compiler"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{50, "compiler"}));
 }
 
 TEST_F(ProcProcessListerTest, ForgetsProcessesThatHaveEnded) {
     proc_.set({2, "editor", ticks(25)});
     proc_.set({3, "idler"});
-    look();
+    scan();
     proc_.remove(2);
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "idler"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "idler"}));
 }
 
 TEST_F(ProcProcessListerTest, SkipsProcessesThatCannotBeRead) {
@@ -88,27 +88,27 @@ TEST_F(ProcProcessListerTest, SkipsProcessesThatCannotBeRead) {
     proc_.write(3, "stat", "");
     proc_.write(4, "stat", "4 (cut) S 1 1");
     proc_.write(5, "cmdline", "no stat");
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "editor"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "editor"}));
 }
 
 TEST_F(ProcProcessListerTest, SkipsWhatIsNoProcess) {
     std::filesystem::create_directory(proc_.root() / "12x");
     std::filesystem::create_directory(proc_.root() / "-1");
     std::filesystem::create_directory(proc_.root() / "99999999999");
-    EXPECT_THAT(look(), ElementsAre());
+    EXPECT_THAT(scan(), ElementsAre());
     EXPECT_EQ(lister_.cpuListing(), "%CPU\n");
 }
 
 TEST_F(ProcProcessListerTest, ResolvesANameOnceAndAnewAfterItChanged) {
     proc_.set({2, "network-manager"});
     proc_.setExecutable(2, "/usr/bin/network-manager-applet");
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "network-manager-applet"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "network-manager-applet"}));
     std::filesystem::remove(proc_.folderOf(2) / "exe");
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "network-manager-applet"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "network-manager-applet"}));
     proc_.set({2, "editor"});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "editor"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "editor"}));
     proc_.set({2, "network-manager"});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{0, "network-manager"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{0, "network-manager"}));
 }
 
 TEST_F(ProcProcessListerTest, NeverBreaksALineForAName) {
@@ -121,19 +121,19 @@ TEST_F(ProcProcessListerTest, TakesTheUptimeOfItsOwnClockWhereTheFileIsMissing) 
     std::filesystem::remove(proc_.root() / "uptime");
     time_.uptimeSeconds = 50;
     proc_.set({2, "editor", ticks(25)});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{50, "editor"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{50, "editor"}));
 }
 
 TEST_F(ProcProcessListerTest, IsNothingWithoutTheDirectoryAndRecovers) {
     proc_.set({2, "editor", ticks(25)});
-    look();
+    scan();
     proc_.removeRoot();
     EXPECT_EQ(lister_.cpuListing(), std::nullopt);
     EXPECT_EQ(lister_.topListing(), std::nullopt);
     proc_.makeRoot();
     proc_.setUptime(100);
     proc_.set({2, "compiler", ticks(75)});
-    EXPECT_THAT(look(), ElementsAre(ListedLine{75, "compiler"}));
+    EXPECT_THAT(scan(), ElementsAre(ListedLine{75, "compiler"}));
 }
 
 TEST_F(ProcProcessListerTest, CountsEveryConfiguredProcessor) {

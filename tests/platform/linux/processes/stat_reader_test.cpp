@@ -1,10 +1,11 @@
 #include "platform/linux/processes/stat_reader.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
-#include "child_process.h"
 #include "fake_proc.h"
 #include "platform/linux/processes/stat_text.h"
+#include "support/child_process.h"
 
 namespace quelby {
 namespace {

@@ -1,0 +1,116 @@
+#include "app/linux/popover/linux_popover.h"
+
+#include <chrono>
+
+#include <malloc.h>
+
+#include "console/standard_output.h"
+
+namespace quelby::app {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto keptAfterClosing = 60s;
+
+// A press that closes the popover from outside reaches the item afterwards; hosts take their time.
+constexpr qint64 samePressMilliseconds = 500;
+constexpr int samePressPixels = 32;
+
+} // namespace
+
+LinuxPopover::LinuxPopover(PopoverParts parts) : parts_(std::move(parts)) {
+    givingBack_.setSingleShot(true);
+    givingBack_.setInterval(keptAfterClosing);
+    QObject::connect(&givingBack_, &QTimer::timeout, &givingBack_, [this] { giveBack(); });
+}
+
+LinuxPopover::~LinuxPopover() {
+    giveBack();
+}
+
+bool LinuxPopover::make() {
+    if (window_) {
+        return true;
+    }
+    if (!library_) {
+        library_ = loadQuickLibrary();
+    }
+    if (!library_) {
+        writeToStandardError("quelby: the library with the dashboard is missing\n");
+        return false;
+    }
+    window_ = library_->makeWindow(parts_, form_,
+                                   {.left = [this] { close(); },
+                                    .pressedOutside =
+                                        [this](QPoint where) {
+                                            closingPress_ = where;
+                                            sinceClosingPress_.start();
+                                            close();
+                                        },
+                                    .closedByFrame =
+                                        [this] {
+                                            close();
+                                            if (form_ == PopoverForm::ordinary) {
+                                                parts_.quit();
+                                            }
+                                        }});
+    return true;
+}
+
+void LinuxPopover::giveBack() {
+    givingBack_.stop();
+    if (window_) {
+        window_.reset();
+        malloc_trim(0); // what the allocator would keep for the next opening
+    }
+}
+
+void LinuxPopover::setForm(PopoverForm form) {
+    if (form != form_) {
+        close();
+        giveBack();
+        form_ = form;
+    }
+}
+
+bool LinuxPopover::isShown() const {
+    return window_ && window_->isShown();
+}
+
+void LinuxPopover::show() {
+    givingBack_.stop();
+    if (make()) {
+        window_->show(itemPlace_);
+    }
+}
+
+void LinuxPopover::showSettings() {
+    show();
+    if (window_) {
+        window_->showSettings();
+    }
+}
+
+void LinuxPopover::close() {
+    if (isShown()) {
+        window_->hide();
+        givingBack_.start();
+    }
+}
+
+bool LinuxPopover::closedByThisPress(std::optional<QPoint> place) const {
+    if (!closingPress_ || sinceClosingPress_.elapsed() > samePressMilliseconds) {
+        return false;
+    }
+    return !place || (*place - *closingPress_).manhattanLength() <= samePressPixels;
+}
+
+void LinuxPopover::appearanceChanged() {
+    if (window_) {
+        window_->setAppearance(parts_.appearance());
+    }
+}
+
+} // namespace quelby::app

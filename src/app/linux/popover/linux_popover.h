@@ -1,0 +1,54 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include "app/linux/popover/quick_library.h"
+
+namespace quelby::app {
+
+// The dashboard on a Linux desktop. Its window, with all that the window needs, is loaded and made when it is
+// shown, and given back some time after it was last closed; what has to be remembered meanwhile is here.
+class LinuxPopover final : public Popover {
+public:
+    explicit LinuxPopover(PopoverParts parts);
+    LinuxPopover(const LinuxPopover&) = delete;
+    LinuxPopover& operator=(const LinuxPopover&) = delete;
+    ~LinuxPopover() override;
+
+    [[nodiscard]] bool isShown() const override;
+    void show() override;
+    void showSettings() override;
+    void close() override;
+
+    // Where the item was pressed, in pixels of the screen; nothing where that is not known.
+    void setItemPlace(std::optional<QPoint> place) { itemPlace_ = place; }
+
+    void setForm(PopoverForm form);
+
+    // Whether the press that closed the popover is the one that now asks to open it again.
+    [[nodiscard]] bool closedByThisPress(std::optional<QPoint> place) const;
+
+    // The desktop likes its programs otherwise now.
+    void appearanceChanged();
+
+private:
+    // Whether there is a window now.
+    [[nodiscard]] bool make();
+
+    void giveBack();
+
+    PopoverParts parts_;
+    PopoverForm form_ = PopoverForm::atTheItem;
+    std::optional<QPoint> itemPlace_;
+    std::optional<QPoint> closingPress_;
+    QElapsedTimer sinceClosingPress_;
+    std::unique_ptr<QuickLibrary> library_;   // none before the first showing
+    std::unique_ptr<DashboardWindow> window_; // none while it is not needed
+    QTimer givingBack_;
+};
+
+} // namespace quelby::app

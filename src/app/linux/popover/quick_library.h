@@ -1,0 +1,68 @@
+// Everything of the application that needs Qt Quick. It lies in a library of its own, which is loaded when
+// somebody wants to see the dashboard for the first time: until then the program is little more than its
+// monitor.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QPoint>
+
+#include "app/picture_painter.h"
+#include "app/popover.h"
+#include "ui/view/appearance.h"
+
+namespace quelby::app {
+
+enum class PopoverForm {
+    atTheItem, // frameless, gone with a press elsewhere
+    ordinary,  // a window as any other, for desktops without a tray
+};
+
+// The dashboard in a window of its own.
+class DashboardWindow {
+public:
+    // What happens to the window. It decides nothing by itself: whoever hears of it hides the window.
+    struct Listener {
+        std::function<void()> left;                       // by Escape, or with the focus
+        std::function<void(QPoint where)> pressedOutside; // in pixels of the screen
+        std::function<void()> closedByFrame;
+    };
+
+    virtual ~DashboardWindow() = default;
+
+    [[nodiscard]] virtual bool isShown() const = 0;
+
+    // The cards, in front of everything else and with the keyboard. The place is where the item was pressed,
+    // in pixels of the screen; nothing where that is not known.
+    virtual void show(std::optional<QPoint> itemPlace) = 0;
+
+    // The settings in place of the cards.
+    virtual void showSettings() = 0;
+
+    virtual void hide() = 0;
+
+    virtual void setAppearance(Appearance appearance) = 0;
+};
+
+// What the window is about, and what it asks of the program.
+struct PopoverParts {
+    std::shared_ptr<PowerMonitor> monitor;
+    Ref<Clock> clock; // outlives the window
+    std::function<void()> quit;
+    std::function<void()> openBatterySettings;
+    std::function<Appearance()> appearance;
+};
+
+class QuickLibrary : public PicturePainter {
+public:
+    [[nodiscard]] virtual std::unique_ptr<DashboardWindow>
+    makeWindow(const PopoverParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
+};
+
+// From the file beside the program, which stays loaded then. Null where it is missing, as it is in a damaged
+// installation only.
+[[nodiscard]] std::unique_ptr<QuickLibrary> loadQuickLibrary();
+
+} // namespace quelby::app

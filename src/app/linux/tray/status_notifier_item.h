@@ -1,0 +1,55 @@
+#pragma once
+
+#include <optional>
+
+#include <QPoint>
+#include <QTemporaryDir>
+
+#include "app/linux/session/dbus_object.h"
+#include "app/linux/tray/item_content.h"
+#include "app/linux/tray/tray_host.h"
+#include "app/linux/tray/tray_menu.h"
+
+namespace quelby::app {
+
+// The status item on the session bus, by the StatusNotifierItem protocol with the label that Ayatana's hosts
+// added to it. It offers what its host makes the best of, and signals only what has changed.
+class StatusNotifierItem final : public DBusObject {
+public:
+    // Hears of each press first: where it was, in pixels of the screen, where that is known. Says whether it
+    // is to be acted on.
+    using PressListener = std::function<bool(std::optional<QPoint> where)>;
+
+    // The actions outlive the item, and may change.
+    StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions, PressListener pressed);
+
+    // Whoever shows the item from now on.
+    void setHost(const TrayHost& host);
+
+    void show(const ItemContent& content);
+
+private:
+    [[nodiscard]] QVariantMap properties() const override;
+    [[nodiscard]] QString members() const override;
+    bool call(const QDBusMessage& message) override;
+
+    [[nodiscard]] DBusPictures pictures() const;
+    [[nodiscard]] QString iconName() const;
+    [[nodiscard]] bool drawsTitle() const;
+    void press(const QDBusMessage& message);
+    void scroll(const QDBusMessage& message) const;
+    void announceIcon();
+    void announceLabel();
+    void announceToolTip();
+    void writeIconFile();
+
+    const StatusItemActions& actions_;
+    PressListener pressed_;
+    TrayMenu menu_;
+    TrayHost host_;
+    ItemContent content_;
+    std::optional<QTemporaryDir> iconFolder_; // for hosts that read icons from files
+    int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
+};
+
+} // namespace quelby::app

@@ -1,0 +1,272 @@
+#include "cli/arguments/command_line.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include "base/number_text.h"
+#include "ui/presentation/cards/settings_panel.h"
+
+namespace quelby::cli {
+
+namespace {
+
+constexpr double shortestInterval = 0.01;     // seconds
+constexpr double longestInterval = 1'000'000; // eleven days; a timer counts milliseconds in 32 bits
+
+template <typename Cases>
+std::vector<std::string_view> rawValues(const Cases& cases) {
+    std::vector<std::string_view> values;
+    std::transform(cases.begin(), cases.end(), std::back_inserter(values),
+                   [](auto one) { return rawValue(one); });
+    return values;
+}
+
+// As in "7, 14, 30 or 60".
+template <typename Values>
+std::string oneOf(const Values& values) {
+    const auto last = std::prev(values.end());
+    return fmt::format("{} or {}", fmt::join(values.begin(), last, ", "), *last);
+}
+
+std::int64_t parseCount(const std::string& text) {
+    const auto count = wholeNumber(text);
+    if (!count || *count < 1) {
+        throw CLI::ValidationError(
+            fmt::format("--count takes a whole number of 1 or more, not \"{}\"", text));
+    }
+    return *count;
+}
+
+std::chrono::duration<double> parseInterval(const std::string& text) {
+    const auto seconds = decimalNumber(text);
+    if (!seconds || *seconds < shortestInterval || *seconds > longestInterval) {
+        throw CLI::ValidationError(
+            fmt::format("--interval takes a number of seconds from 0.01 to 1000000, not \"{}\"", text));
+    }
+    return std::chrono::duration<double>(*seconds);
+}
+
+TimeRange parseRange(const std::string& text) {
+    const auto range = timeRange(text);
+    if (!range) {
+        throw CLI::ValidationError(
+            fmt::format("--range takes {}, not \"{}\"", oneOf(rawValues(allTimeRanges)), text));
+    }
+    return *range;
+}
+
+MenuBarDisplay parseDisplay(const std::string& text) {
+    const auto display = menuBarDisplay(text);
+    if (!display) {
+        throw CLI::ValidationError(fmt::format("--display takes one of \"{}\", not \"{}\"",
+                                               fmt::join(rawValues(allMenuBarDisplays), R"(", ")"), text));
+    }
+    return *display;
+}
+
+TitleFormat parseTitleFormat(const std::string& text) {
+    constexpr std::array names{std::pair("plain", TitleFormat::plain), std::pair("json", TitleFormat::json),
+                               std::pair("waybar", TitleFormat::waybar)};
+    for (const auto& [name, format] : names) {
+        if (text == name) {
+            return format;
+        }
+    }
+    throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
+}
+
+// "on" or "off".
+std::optional<bool> switchPosition(const std::string& text) {
+    return text == "on" ? std::optional(true) : text == "off" ? std::optional(false) : std::nullopt;
+}
+
+LimitCommand parseLimit(const std::string& text) {
+    const auto percent = wholeNumber(text);
+    const bool settable = percent && *percent >= stopRange.lowest && *percent <= stopRange.highest &&
+                          *percent % stopRange.step == 0;
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(
+            fmt::format("limit takes show, on, off or a percentage from {} to {} in steps of {}, not \"{}\"",
+                        stopRange.lowest, stopRange.highest, stopRange.step, text));
+    }
+    return {.enable = switchPosition(text), .percent = settable ? percent : std::nullopt};
+}
+
+CalibrationCommand parseCalibration(const std::string& text) {
+    const auto days = wholeNumber(text);
+    const bool settable = days && std::find(calibrationIntervals.begin(), calibrationIntervals.end(),
+                                            *days) != calibrationIntervals.end();
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(fmt::format("calibration takes show, on, off, {}, not \"{}\"",
+                                               oneOf(calibrationIntervals), text));
+    }
+    return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
+}
+
+HelperCommand parseHelper(const std::string& text) {
+    constexpr std::array names{std::pair("status", HelperWish::status),
+                               std::pair("install", HelperWish::install),
+                               std::pair("uninstall", HelperWish::uninstall)};
+    for (const auto& [name, wish] : names) {
+        if (text == name) {
+            return {wish};
+        }
+    }
+    throw CLI::ValidationError(fmt::format("helper takes status, install or uninstall, not \"{}\"", text));
+}
+
+// Numbers are parsed here and not by the option library, which would follow the locale.
+void addRepetition(CLI::App& command, Repetition& repetition) {
+    command
+        .add_option_function<std::string>(
+            "--count", [&](const std::string& text) { repetition.count = parseCount(text); },
+            "End after this many cycles")
+        ->type_name("N");
+    command
+        .add_option_function<std::string>(
+            "--interval", [&](const std::string& text) { repetition.interval = parseInterval(text); },
+            fmt::format("Time between two cycles, {} unless named", cycleInterval.count()))
+        ->type_name("SECONDS");
+}
+
+CLI::Option* addForm(CLI::App& command, const char* name, OutputForm form, OutputForm& chosen,
+                     const char* help) {
+    return command.add_flag_callback(
+        name, [&chosen, form] { chosen = form; }, help);
+}
+
+// The command line as it is being read.
+struct Reading {
+    CLI::App app{"Shows what this computer's power is doing, for terminals, status bars and scripts.",
+                 "quelbyctl"};
+    Request request;
+    StatusCommand status;
+    WatchCommand watch;
+    DashboardCommand dashboard;
+    RecordCommand record;
+    HistoryCommand history;
+    TitleCommand title;
+    LimitCommand limit;
+    CalibrationCommand calibration;
+    HelperCommand helper;
+
+    Reading() {
+        addCommonOptions(app, request.arguments);
+        app.require_subcommand(1);
+        app.footer(
+            "The options of quelbyctl itself (see quelbyctl --help) may stand before and behind a command.");
+        app.fallthrough();
+        addStatus();
+        addWatch();
+        addDashboard();
+        addRecord();
+        addHistory();
+        addTitle();
+        addSetting("limit", "The charge limit: show (unless named otherwise), on, off, or a percentage",
+                   limit, parseLimit);
+        addSetting(
+            "calibration",
+            fmt::format("The battery's calibration: show (unless named otherwise), on, off, or {} days",
+                        oneOf(calibrationIntervals)),
+            calibration, parseCalibration);
+        addSetting("helper", "The charge-limit helper: status (unless named otherwise), install or uninstall",
+                   helper, parseHelper);
+    }
+
+    // A command with one word behind it, which may be missing.
+    template <typename T>
+    void addSetting(const char* name, const std::string& help, T& setting, T (*parse)(const std::string&)) {
+        auto* const command = app.add_subcommand(name, help);
+        command
+            ->add_option_function<std::string>(
+                "VALUE", [&setting, parse](const std::string& text) { setting = parse(text); }, "What to do")
+            ->type_name("");
+        command->final_callback([this, &setting] { request.command = setting; });
+    }
+
+    void addStatus() {
+        auto* const command = app.add_subcommand(
+            "status", "All figures after one cycle; with --replay, after the last line of the recording");
+        addForm(*command, "--json", OutputForm::json, status.form, "As one JSON object");
+        command->final_callback([this] { request.command = status; });
+    }
+
+    void addWatch() {
+        auto* const command = app.add_subcommand(
+            "watch", "The dashboard, renewed in place in a terminal; elsewhere a line for each cycle");
+        addForm(*command, "--json", OutputForm::json, watch.form,
+                "One JSON object for each cycle, a line each");
+        addRepetition(*command, watch.repetition);
+        command->final_callback([this] { request.command = watch; });
+    }
+
+    void addDashboard() {
+        auto* const command = app.add_subcommand("dashboard", "What every card of the dashboard says, once");
+        addForm(*command, "--json", OutputForm::json, dashboard.form, "As one JSON object");
+        command
+            ->add_option_function<std::string>(
+                "--view", [this](const std::string& text) { dashboard.page = parsePage(text); },
+                "dashboard or settings; dashboard unless named")
+            ->type_name("VIEW");
+        command->final_callback([this] { request.command = dashboard; });
+    }
+
+    void addRecord() {
+        auto* const command = app.add_subcommand(
+            "record",
+            "Write a recording of this machine, to be played with --replay, until it is interrupted");
+        command
+            ->add_option_function<std::string>(
+                "FILE", [this](const std::string& text) { record.file = text; }, "The recording")
+            ->required()
+            ->type_name("");
+        addRepetition(*command, record.repetition);
+        command->final_callback([this] { request.command = record; });
+    }
+
+    void addHistory() {
+        auto* const command =
+            app.add_subcommand("history", "The stored power curve with its statistics, and today's energy");
+        command
+            ->add_option_function<std::string>(
+                "--range", [this](const std::string& text) { history.range = parseRange(text); },
+                fmt::format("{}; {} unless named", oneOf(rawValues(allTimeRanges)), rawValue(history.range)))
+            ->type_name("RANGE");
+        auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
+        addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);
+        command->final_callback([this] { request.command = history; });
+    }
+
+    void addTitle() {
+        auto* const command =
+            app.add_subcommand("title", "What the menu bar shows, for status bars and scripts");
+        command
+            ->add_option_function<std::string>(
+                "--display", [this](const std::string& text) { title.display = parseDisplay(text); },
+                "Another figure than the chosen one, such as \"Battery %\"")
+            ->type_name("VALUE");
+        command
+            ->add_option_function<std::string>(
+                "--format", [this](const std::string& text) { title.format = parseTitleFormat(text); },
+                "plain, json or waybar; plain unless named")
+            ->type_name("FORMAT");
+        command->add_flag("--follow", title.follow, "Print a line whenever it changes, until interrupted");
+        command->final_callback([this] { request.command = title; });
+    }
+};
+
+} // namespace
+
+std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv) {
+    Reading reading;
+    if (auto answer = parseArguments(reading.app, reading.request.arguments, argc, argv)) {
+        return *std::move(answer);
+    }
+    return reading.request;
+}
+
+} // namespace quelby::cli

@@ -1,0 +1,83 @@
+// What a person asked quelbyctl for.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <variant>
+
+#include "base/cycle_interval.h"
+#include "console/machine_arguments.h"
+#include "history/time_range.h"
+#include "monitor/menu_bar_display.h"
+
+namespace quelby::cli {
+
+enum class OutputForm { text, json, csv };
+
+struct StatusCommand {
+    OutputForm form = OutputForm::text;
+};
+
+struct Repetition {
+    std::optional<std::int64_t> count;                      // cycles, 1 or more; none: until it is ended
+    std::chrono::duration<double> interval = cycleInterval; // 0.01 s or more
+};
+
+struct WatchCommand {
+    OutputForm form = OutputForm::text;
+    Repetition repetition;
+};
+
+struct DashboardCommand {
+    OutputForm form = OutputForm::text;
+    Page page = Page::dashboard;
+};
+
+struct RecordCommand {
+    std::filesystem::path file;
+    Repetition repetition;
+};
+
+struct HistoryCommand {
+    TimeRange range = TimeRange::thirtyMinutes;
+    OutputForm form = OutputForm::text;
+};
+
+enum class TitleFormat { plain, json, waybar };
+
+struct TitleCommand {
+    std::optional<MenuBarDisplay> display; // none: the user's choice
+    TitleFormat format = TitleFormat::plain;
+    bool follow = false; // a line whenever it changes, instead of one
+};
+
+// Shows the setting unless it says what to change.
+struct LimitCommand {
+    std::optional<bool> enable;
+    std::optional<std::int64_t> percent; // % of full charge, within stopRange
+};
+
+struct CalibrationCommand {
+    std::optional<bool> enable;
+    std::optional<std::int64_t> days; // one of calibrationIntervals
+};
+
+enum class HelperWish { status, install, uninstall };
+
+struct HelperCommand {
+    HelperWish wish = HelperWish::status;
+};
+
+using Command = std::variant<StatusCommand, WatchCommand, DashboardCommand, RecordCommand, HistoryCommand,
+                             TitleCommand, LimitCommand, CalibrationCommand, HelperCommand>;
+
+struct Request {
+    MachineArguments arguments;
+    Command command;
+};
+
+[[nodiscard]] std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv);
+
+} // namespace quelby::cli

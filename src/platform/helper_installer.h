@@ -1,0 +1,28 @@
+#pragma once
+
+#include "base/problem.h"
+
+namespace quelby {
+
+// Brings the charge-limit helper to this computer, and takes it away again.
+class HelperInstaller {
+public:
+    virtual ~HelperInstaller() = default;
+
+    // Whether the helper is loaded; false also where the system cannot be asked. Waits for the answer.
+    [[nodiscard]] virtual bool isLoaded() = 0;
+
+    // Each of these asks for the administrator's password, and waits for the user and for what is then done
+    // as root. The problem is that the user did not agree, or that it failed.
+
+    // Installs and starts the helper that came with this program. Nobody is asked where none did.
+    [[nodiscard]] virtual Result<void> install() = 0;
+
+    // Stops and removes the helper and its folder.
+    [[nodiscard]] virtual Result<void> uninstall() = 0;
+
+    // The same, and removes this program itself.
+    [[nodiscard]] virtual Result<void> uninstallEverything() = 0;
+};
+
+} // namespace quelby

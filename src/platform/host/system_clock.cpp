@@ -1,0 +1,18 @@
+#include "platform/host/system_clock.h"
+
+#include <chrono>
+
+#include "platform/local_day.h"
+
+namespace quelby {
+
+Date SystemClock::now() {
+    const auto sinceEpoch = std::chrono::system_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(sinceEpoch).count();
+}
+
+Date SystemClock::startOfDay() {
+    return startOfLocalDay(now());
+}
+
+} // namespace quelby

@@ -1,0 +1,55 @@
+#include "platform/installer/linux_helper_scripts.h"
+
+#include <fmt/format.h>
+
+#include "platform/helper_names.h"
+#include "platform/installer/shell_quoting.h"
+#include "platform/installer/systemd_unit.h"
+
+namespace quelby {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string quoted(const fs::path& path) {
+    return shellQuoted(path.native());
+}
+
+fs::path below(const fs::path& root, const fs::path& path) {
+    return root / path.relative_path();
+}
+
+} // namespace
+
+std::string linuxInstallScript(const fs::path& resourceFolder, const fs::path& root) {
+    const auto executable = below(root, linux_helper::executable);
+    // The umask is that of whoever asked, and could open to everybody what root is to run. cp -f replaces an
+    // executable that is running, which cannot be written to.
+    return fmt::format("umask 022\n"
+                       "mkdir -p {executableFolder} {folder} && cp -f {source} {executable}"
+                       " && chmod 755 {executable} && chmod 777 {folder} && cat > {unit} << 'UNIT'\n"
+                       "{content}"
+                       "UNIT\n"
+                       "systemctl daemon-reload && systemctl enable --now {service}",
+                       fmt::arg("executableFolder", quoted(executable.parent_path())),
+                       fmt::arg("folder", quoted(below(root, linux_helper::folder))),
+                       fmt::arg("source", quoted(resourceFolder / helperExecutableName)),
+                       fmt::arg("executable", quoted(executable)),
+                       fmt::arg("unit", quoted(below(root, linux_helper::unit))),
+                       fmt::arg("content", systemdUnit()), fmt::arg("service", linux_helper::service));
+}
+
+std::string linuxUninstallScript(const fs::path& root) {
+    return fmt::format(
+        "systemctl disable --now {} 2>/dev/null; rm -f {}; systemctl daemon-reload 2>/dev/null;"
+        " rm -f {}; rm -rf {}",
+        linux_helper::service, quoted(below(root, linux_helper::unit)),
+        quoted(below(root, linux_helper::executable)), quoted(below(root, linux_helper::folder)));
+}
+
+std::string linuxFullUninstallScript(const fs::path& program, const fs::path& root) {
+    return fmt::format("{}; rm -rf {}", linuxUninstallScript(root), quoted(program));
+}
+
+} // namespace quelby

@@ -1,0 +1,9 @@
+#include "platform/system_words.h"
+
+namespace quelby {
+
+const SystemWords& systemWords() {
+    return linuxWords;
+}
+
+} // namespace quelby

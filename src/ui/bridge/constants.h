@@ -1,0 +1,48 @@
+// What the presentation says in constants, for the layout.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <qqmlintegration.h>
+
+#include "ui/presentation/elements/metrics.h"
+#include "ui/presentation/text/words.h"
+
+namespace quelby {
+
+class Metrics : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(int viewWidth READ width CONSTANT)   // points
+    Q_PROPERTY(int viewHeight READ height CONSTANT) // points
+    Q_PROPERTY(QString fontFamily READ family CONSTANT)
+
+public:
+    [[nodiscard]] static int width() { return viewWidth; }
+
+    [[nodiscard]] static int height() { return viewHeight; }
+
+    [[nodiscard]] static QString family() { return QString::fromUtf8(fontFamily); }
+};
+
+class Words : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(QString program READ program CONSTANT)
+    Q_PROPERTY(QString settings READ settings CONSTANT)
+    Q_PROPERTY(QString back READ back CONSTANT)
+    Q_PROPERTY(QString closeSettings READ closeSettings CONSTANT)
+
+public:
+    [[nodiscard]] static QString program() { return QString::fromUtf8(words::program); }
+
+    [[nodiscard]] static QString settings() { return QString::fromUtf8(words::settings); }
+
+    [[nodiscard]] static QString back() { return QString::fromUtf8(words::back); }
+
+    [[nodiscard]] static QString closeSettings() { return QString::fromUtf8(words::closeSettings); }
+};
+
+} // namespace quelby

@@ -1,0 +1,57 @@
+// A part of a whole: a fill over a track.
+import QtQuick
+import Quelby
+import Quelby.Bridge
+
+Item {
+    id: bar
+
+    required property inkedBar content
+    required property string name // for those who cannot see it
+    property bool graded: false // from a pale beginning
+    property bool muted: false // in a paler shade of its colour
+
+    readonly property color full: Theme.translucent(Theme.fill(content.color), muted ? Theme.mutedOpacity : 1)
+    readonly property color pale: graded ? Theme.translucent(full, Theme.paleOpacity) : full
+    property real fraction: content.fraction // on its way to the content's
+
+    implicitHeight: Theme.barHeight
+    Accessible.role: Accessible.ProgressBar
+    Accessible.name: name
+    Accessible.ignored: !enabled
+    Accessible.description: content.percent
+    LayoutMirroring.childrenInherit: true
+
+    Behavior on fraction {
+        enabled: Theme.animated
+
+        NumberAnimation {
+            duration: Theme.glide
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: height / 2
+        color: Theme.track
+    }
+
+    Rectangle {
+        id: fill
+
+        anchors.left: parent.left
+        anchors.top: parent.top
+        anchors.bottom: parent.bottom
+        width: bar.width * bar.fraction
+        radius: Math.min(height, width) / 2
+        visible: width > 0
+
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+
+            GradientStop { position: 0; color: fill.LayoutMirroring.enabled ? bar.full : bar.pale }
+            GradientStop { position: 1; color: fill.LayoutMirroring.enabled ? bar.pale : bar.full }
+        }
+    }
+}

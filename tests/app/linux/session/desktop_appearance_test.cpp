@@ -1,0 +1,155 @@
+#include "app/linux/session/desktop_appearance.h"
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "app/linux/support/eventually.h"
+#include "app/linux/support/private_bus.h"
+#include "support/temporary_folder.h"
+
+namespace quelby {
+
+static void PrintTo(const Appearance& appearance, std::ostream* stream) {
+    *stream << (appearance.dark ? "dark" : "light") << (appearance.animated ? ", animated" : ", still");
+}
+
+} // namespace quelby
+
+namespace quelby::app {
+namespace {
+
+constexpr Appearance light{.dark = false, .animated = true};
+constexpr Appearance dark{.dark = true, .animated = true};
+constexpr Appearance still{.dark = false, .animated = false};
+
+Appearance gtkFile(const std::string& content, Appearance otherwise = light) {
+    const TemporaryFolder folder;
+    const auto file = folder.write("settings.ini", content);
+    return gtkAppearance(QString::fromStdString(file.string()), otherwise);
+}
+
+TEST(GtkAppearance, IsDarkByTheWishOfTheUserOrByTheNameOfTheTheme) {
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=1\n"), dark);
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=true\n"), dark);
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Adwaita-dark\n"), dark);
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Arc-Dark\ngtk-application-prefer-dark-theme=0\n"), dark);
+}
+
+TEST(GtkAppearance, IsLightWhereTheFileSaysSo) {
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=0\n", dark), light);
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Darkroom\n", dark), light);
+}
+
+TEST(GtkAppearance, IsStillWhereTheFileSaysSo) {
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-enable-animations=0\n"), still);
+    EXPECT_EQ(gtkFile("[Settings]\ngtk-enable-animations=1\n", still), light);
+}
+
+TEST(GtkAppearance, StaysAsItIsWhereTheFileSaysNothing) {
+    for (const auto* const content : {"", "[Settings]\ngtk-font-name=Sans 10\n",
+                                      "[Other]\ngtk-theme-name=a-dark\n", "no settings at all"}) {
+        EXPECT_EQ(gtkFile(content, dark), dark) << content;
+        EXPECT_EQ(gtkFile(content, still), still) << content;
+    }
+    EXPECT_EQ(gtkAppearance("/nonexistent/settings.ini", dark), dark);
+}
+
+// The desktop's portal, as far as it is asked.
+class FakePortal final : public QDBusVirtualObject {
+public:
+    explicit FakePortal(std::map<QString, QVariant> settings) : settings_(std::move(settings)) {
+        bus_->registerVirtualObject("/org/freedesktop/portal/desktop", this);
+        bus_->registerService("org.freedesktop.portal.Desktop");
+    }
+
+    FakePortal(const FakePortal&) = delete;
+    FakePortal& operator=(const FakePortal&) = delete;
+
+    ~FakePortal() override { bus_->unregisterObject("/org/freedesktop/portal/desktop"); }
+
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        ++questions;
+        const auto found = settings_.find(message.arguments().value(1).toString());
+        if (message.member() != "Read" || found == settings_.end()) {
+            return false;
+        }
+        const auto wrapped = QVariant::fromValue(QDBusVariant(found->second)); // twice, as the portal does
+        return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(wrapped))));
+    }
+
+    void change(const QString& group, const QString& key, const QVariant& value) {
+        auto signal = QDBusMessage::createSignal("/org/freedesktop/portal/desktop",
+                                                 "org.freedesktop.portal.Settings", "SettingChanged");
+        signal.setArguments({group, key, QVariant::fromValue(QDBusVariant(value))});
+        EXPECT_TRUE(bus_->send(signal));
+    }
+
+    int questions = 0;
+
+private:
+    BusConnection bus_;
+    std::map<QString, QVariant> settings_;
+};
+
+class DesktopAppearanceTest : public testing::Test {
+protected:
+    [[nodiscard]] bool becomes(const Appearance& expected) const {
+        return eventually([&] { return appearance.current() == expected; });
+    }
+
+    TemporaryFolder folder;
+    PrivateBus bus;
+    BusConnection connection;
+    int changes = 0;
+    DesktopAppearance appearance{QString::fromStdString(folder.path().string()), [this] { ++changes; }};
+};
+
+TEST_F(DesktopAppearanceTest, IsWhatThePortalSays) {
+    FakePortal portal({{"color-scheme", 1U}, {"enable-animations", false}});
+    appearance.setBus(*connection);
+    ASSERT_TRUE(becomes({.dark = true, .animated = false}));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(DesktopAppearanceTest, FollowsThePortal) {
+    FakePortal portal({{"color-scheme", 1U}});
+    appearance.setBus(*connection);
+    ASSERT_TRUE(becomes(dark));
+    portal.change("org.freedesktop.appearance", "color-scheme", 2U);
+    ASSERT_TRUE(becomes(light));
+    portal.change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0");
+    ASSERT_TRUE(becomes(still));
+    portal.change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0.5");
+    ASSERT_TRUE(becomes(light));
+    portal.change("org.gnome.desktop.interface", "enable-animations", false);
+    ASSERT_TRUE(becomes(still));
+    EXPECT_EQ(changes, 5);
+}
+
+TEST_F(DesktopAppearanceTest, PassesOverWhatItDoesNotKnow) {
+    FakePortal portal({{"color-scheme", 1U}});
+    appearance.setBus(*connection);
+    ASSERT_TRUE(becomes(dark));
+    portal.change("org.freedesktop.appearance", "accent-color", 2U);
+    portal.change("org.example", "color-scheme", 2U);
+    portal.change("org.freedesktop.appearance", "color-scheme", 0U); // does not care
+    portal.change("org.gnome.desktop.interface", "enable-animations", false);
+    ASSERT_TRUE(becomes({.dark = true, .animated = false})); // and what came before it changed nothing
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(DesktopAppearanceTest, IsThatOfTheSettingsFileWithoutAPortal) {
+    folder.write("gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Adwaita-dark\n");
+    const DesktopAppearance other(QString::fromStdString(folder.path().string()), [] {});
+    EXPECT_EQ(other.current(), dark);
+    EXPECT_EQ(appearance.current(), light);
+    appearance.setBus(std::nullopt);
+    EXPECT_EQ(appearance.current(), light);
+}
+
+} // namespace
+} // namespace quelby::app
