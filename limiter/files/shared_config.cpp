@@ -5,6 +5,7 @@ namespace quelby::limiter {
 namespace {
 
 constexpr int mostExchanges = 4;
+constexpr int callsAfterFailure = 64;
 
 } // namespace
 
@@ -18,21 +19,27 @@ void SharedConfig::read(const Folder& folder) {
 }
 
 void SharedConfig::correct(const Folder& folder, double lastCalibration) {
-    if (!config_ || config_->lastCalibrationTimestamp == lastCalibration || text_ == refused_) {
+    if (!config_ || config_->lastCalibrationTimestamp == lastCalibration) {
+        return;
+    }
+    if (callsToSkip_ > 0) {
+        --callsToSkip_;
         return;
     }
     for (int count = 0; count < mostExchanges; ++count) {
-        config_->lastCalibrationTimestamp = lastCalibration;
-        const auto corrected = encode(*config_);
+        auto config = *config_;
+        config.lastCalibrationTimestamp = lastCalibration;
+        const auto corrected = encode(config);
         const auto displaced = corrected ? folder.exchange(name, *corrected, everybodysFile)
                                          : std::optional<Folder::Displaced>();
         if (!displaced) {
-            refused_ = text_;
+            callsToSkip_ = callsAfterFailure;
             return;
         }
         const auto theirs = displaced->content.value_or("");
         const auto decoded = decodeDaemonConfig(theirs);
         if (theirs == text_ || !decoded) {
+            config_ = config;
             text_ = *corrected;
             return;
         }

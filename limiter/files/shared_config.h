@@ -20,7 +20,7 @@ public:
     [[nodiscard]] const std::optional<DaemonConfig>& last() const { return config_; }
 
     // Puts the true time of the last calibration into the file that was read last; nothing is done where it
-    // stands there already, and where an attempt with the same content failed before.
+    // stands there already. After a failure the next calls leave it alone for some minutes.
     //
     // No setting that the application writes meanwhile is lost:
     //
@@ -34,7 +34,7 @@ public:
 private:
     std::string text_; // of the last file that could be understood
     std::optional<DaemonConfig> config_;
-    std::string refused_; // the text that could not be replaced
+    int callsToSkip_ = 0;
 };
 
 } // namespace quelby::limiter
