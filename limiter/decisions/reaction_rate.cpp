@@ -9,7 +9,9 @@ double ReactionRate::spentAt(double time) const {
 }
 
 double ReactionRate::wait(double time) const {
-    return std::max(0.0, spentAt(time) - (burst - 1)) * recovery;
+    constexpr double rounding = 1e-6;
+    const double rest = (spentAt(time) - (burst - 1)) * recovery;
+    return rest > rounding ? rest : 0;
 }
 
 void ReactionRate::react(double time) {

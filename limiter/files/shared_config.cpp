@@ -26,6 +26,7 @@ void SharedConfig::correct(const Folder& folder, double lastCalibration) {
         --callsToSkip_;
         return;
     }
+    auto expected = text_;
     for (int count = 0; count < mostExchanges; ++count) {
         auto config = *config_;
         config.lastCalibrationTimestamp = lastCalibration;
@@ -38,13 +39,14 @@ void SharedConfig::correct(const Folder& folder, double lastCalibration) {
         }
         const auto theirs = displaced->content.value_or("");
         const auto decoded = decodeDaemonConfig(theirs);
-        if (theirs == text_ || !decoded) {
+        if (theirs == expected || !decoded) {
             config_ = config;
             text_ = *corrected;
             return;
         }
         config_ = decoded;
         text_ = theirs;
+        expected = *corrected;
     }
     static_cast<void>(folder.replace(name, text_, everybodysFile, Durability::afterCrash));
 }

@@ -7,7 +7,6 @@
 #include "limiter/files/instance_lock.h"
 #include "limiter/kernel/rivals.h"
 #include "limiter/kernel/sysfs_attributes.h"
-#include "limiter/program/kernel_wakeups.h"
 #include "limiter/program/service.h"
 #include "limiter/records/status_text.h"
 
@@ -62,9 +61,7 @@ void release(const Options& options, Limiter& limiter, Clock& clock) {
     }
 }
 
-} // namespace
-
-Result<void> carryOut(const Options& options, Clock& clock) {
+Result<void> carryOut(const Options& options, const Time& time) {
     if (auto refused = refuseOrdinaryUsers(options); !refused) {
         return refused;
     }
@@ -81,15 +78,15 @@ Result<void> carryOut(const Options& options, Clock& clock) {
         return tl::make_unexpected(attributes.error());
     }
     state->removeLeftovers();
-    KernelWakeups wakeups;
-    Limiter limiter(surroundingsFor(options, **attributes, *state, wakeups),
+    const auto wakeups = time.wakeups();
+    Limiter limiter(surroundingsFor(options, **attributes, *state, *wakeups),
                     decodeLimiterState(state->read(stateFile).value_or("")));
-    Service service(limiter, options.folder, clock, wakeups);
+    Service service(limiter, options.folder, time.clock, *wakeups);
     switch (options.task) {
     case Task::restore:
         return limiter.restore();
     case Task::release:
-        release(options, limiter, clock);
+        release(options, limiter, time.clock);
         return {};
     case Task::once:
         openToEverybody(options);
@@ -101,7 +98,9 @@ Result<void> carryOut(const Options& options, Clock& clock) {
     return service.run();
 }
 
-int runProgram(const std::vector<std::string>& words, Clock& clock) {
+} // namespace
+
+int runProgram(const std::vector<std::string>& words, const Time& time) {
     constexpr int couldNotBeDone = 1;
     constexpr int wrongUsage = 2;
     const auto parsed = parseOptions(words);
@@ -114,7 +113,7 @@ int runProgram(const std::vector<std::string>& words, Clock& clock) {
                    ? 0
                    : couldNotBeDone;
     }
-    if (const auto done = carryOut(std::get<Options>(*parsed), clock); !done) {
+    if (const auto done = carryOut(std::get<Options>(*parsed), time); !done) {
         std::fprintf(stderr, "pwr_limiter: %s\n", done.error().sentence.c_str());
         return couldNotBeDone;
     }
