@@ -18,7 +18,7 @@ enum class Task {
 
 struct Options {
     std::filesystem::path folder{linux_helper::folder};
-    std::filesystem::path state{"/var/lib/quelby-limiter"};
+    std::filesystem::path state{linux_helper::stateFolder};
     std::filesystem::path sysfsRoot{"/sys"};
     bool isElsewhere = false; // the folder or the state is a named one, and may be any user's
     Task task = Task::serve;

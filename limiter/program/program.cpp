@@ -7,6 +7,7 @@
 #include "limiter/files/instance_lock.h"
 #include "limiter/kernel/rivals.h"
 #include "limiter/kernel/sysfs_attributes.h"
+#include "limiter/program/readiness.h"
 #include "limiter/program/service.h"
 #include "limiter/records/status_text.h"
 
@@ -95,7 +96,7 @@ Result<void> carryOut(const Options& options, const Time& time) {
         break;
     }
     openToEverybody(options);
-    return service.run();
+    return service.run(tellReadiness);
 }
 
 } // namespace

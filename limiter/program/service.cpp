@@ -108,16 +108,19 @@ Wake Service::pause() {
     }
 }
 
-Result<void> Service::run() {
-    int failures = 0;
-    do {
+Result<void> Service::run(const std::function<void()>& whenReady) {
+    int failures = round() ? 0 : 1;
+    if (whenReady) {
+        whenReady();
+    }
+    while (pause() != Wake::stop) {
         failures = round() ? 0 : failures + 1;
         if (failures >= mostFailures && !haveFolder()) {
             // Whoever starts it again does so in a place where the folder can be made.
             limiter_.letGo();
             return problem("cannot write to " + path_.string());
         }
-    } while (pause() != Wake::stop);
+    }
     limiter_.letGo();
     sayGoodbye();
     return {};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 
 #include "limiter/decisions/reaction_rate.h"
@@ -19,8 +20,9 @@ public:
 
     Service(Limiter& limiter, std::filesystem::path folder, Clock& clock, Wakeups& wakeups);
 
-    // The problem says that the folder is lost and cannot be had again.
-    [[nodiscard]] Result<void> run();
+    // Calls back once, after the first round. The problem says that the folder is lost and cannot be had
+    // again.
+    [[nodiscard]] Result<void> run(const std::function<void()>& whenReady = {});
 
     // One round, and another one where only that tells whether the battery is held. The problem says which
     // file could not be written.
