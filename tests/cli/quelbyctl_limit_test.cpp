@@ -81,7 +81,12 @@ TEST_F(QuelbyctlLimit, SaysWhereTheSettingsCannotBeWritten) {
 TEST_F(QuelbyctlLimit, InstallsNothingForARecordingNorWhatDidNotComeWithTheProgram) {
     EXPECT_EQ(ctl({"helper", "install"}).errors,
               "quelbyctl: a recorded machine has no helper that could be installed or removed\n");
-    const auto missing = quelbyctl({"helper", "install", "--config-dir", folder.path() / "helper"});
+    // A program that was copied away from what belongs to it.
+    const auto alone = folder.path() / "bin" / "quelbyctl";
+    std::filesystem::create_directories(alone.parent_path());
+    std::filesystem::copy_file(QUELBY_BINARY_DIR "/quelbyctl", alone);
+    const auto missing = runProgram({alone, "helper", "install", "--config-dir", folder.path() / "helper"},
+                                    plainEnvironment());
     EXPECT_EQ(missing.exitStatus, 1);
     EXPECT_EQ(
         missing.errors,
