@@ -147,13 +147,11 @@ std::optional<Folder::Displaced> Folder::exchange(const char* name, std::string_
     }
     const int folder = directory_.number();
     if (::renameat2(folder, neighbour.c_str(), folder, name, RENAME_EXCHANGE) == 0) {
-        Displaced displaced{read(neighbour.c_str())};
-        remove(neighbour);
-        return displaced;
+        return Displaced{.name = neighbour, .content = read(neighbour.c_str())};
     }
     // A file system that cannot do it in one step leaves a moment between these two.
     if (errno == EINVAL || errno == ENOSYS) {
-        Displaced displaced{read(name)};
+        Displaced displaced{.content = read(name)};
         if (::renameat(folder, neighbour.c_str(), folder, name) == 0) {
             return displaced;
         }
@@ -168,21 +166,43 @@ void Folder::remove(const std::string& name) const {
     }
 }
 
-void Folder::removeLeftovers() const {
-    constexpr int mostEntries = 4096; // a full folder must not keep the helper from its work
-    const int again = ::openat(directory_.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::fdopendir(again), ::closedir);
-    if (!entries) {
-        return;
+void Folder::discard(const Displaced& displaced) const {
+    if (!displaced.name.empty()) {
+        remove(displaced.name);
     }
-    for (int count = 0; count < mostEntries; ++count) {
+}
+
+std::vector<std::string> Folder::leftoverNames() const {
+    constexpr int mostEntries = 4096; // a full folder must not keep the helper from its work
+    std::vector<std::string> names;
+    const int again = ::openat(directory_.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(again < 0 ? nullptr : ::fdopendir(again), ::closedir);
+    for (int count = 0; entries && count < mostEntries; ++count) {
         const auto* const entry = ::readdir(entries.get());
         if (entry == nullptr) {
-            return;
+            break;
         }
         if (const std::string name = entry->d_name; name.rfind(neighbourPrefix, 0) == 0) {
-            remove(name);
+            names.push_back(name);
         }
+    }
+    return names;
+}
+
+std::vector<std::string> Folder::leftovers() const {
+    constexpr std::size_t most = 8; // one sudden end leaves two
+    std::vector<std::string> contents;
+    for (const auto& name : leftoverNames()) {
+        if (auto content = read(name.c_str()); content && contents.size() < most) {
+            contents.push_back(std::move(*content));
+        }
+    }
+    return contents;
+}
+
+void Folder::removeLeftovers() const {
+    for (const auto& name : leftoverNames()) {
+        remove(name);
     }
 }
 

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -50,16 +51,20 @@ public:
     [[nodiscard]] bool replace(const char* name, std::string_view content, mode_t mode,
                                Durability durability) const;
 
-    // The same, in one step with taking away what was there: nothing that others write meanwhile is lost
-    // without being handed over.
+    // The same, in one step with laying aside what was there: nothing that others write meanwhile is lost.
+    // What was laid aside stays in the folder, also after a sudden end, until it is discarded.
     struct Displaced {
+        std::string name;                   // empty where it is gone
         std::optional<std::string> content; // as read() gives it
     };
 
     [[nodiscard]] std::optional<Displaced> exchange(const char* name, std::string_view content,
                                                     mode_t mode) const;
+    void discard(const Displaced& displaced) const;
 
-    // Takes away what a process that was killed in the middle of replace() or exchange() left behind.
+    // The contents of what a process that was killed in the middle of replace() or exchange() left behind, so
+    // far as they can be read; a few at the most.
+    [[nodiscard]] std::vector<std::string> leftovers() const;
     void removeLeftovers() const;
 
     // Somebody removed the folder; all that is written from now on would be lost.
@@ -71,6 +76,8 @@ private:
     explicit Folder(FileDescriptor directory) : directory_(std::move(directory)) {}
 
     static Result<Folder> open(const std::filesystem::path& path, mode_t mode);
+
+    [[nodiscard]] std::vector<std::string> leftoverNames() const;
 
     // The name of a new file with the content, or an empty text.
     [[nodiscard]] std::string writeNeighbour(std::string_view content, mode_t mode,

@@ -26,6 +26,15 @@ void SharedConfig::correct(const Folder& folder, double lastCalibration) {
         --callsToSkip_;
         return;
     }
+    std::vector<Folder::Displaced> laidAside;
+    exchangeUntilTrue(folder, lastCalibration, laidAside);
+    for (const auto& displaced : laidAside) {
+        folder.discard(displaced);
+    }
+}
+
+void SharedConfig::exchangeUntilTrue(const Folder& folder, double lastCalibration,
+                                     std::vector<Folder::Displaced>& laidAside) {
     auto expected = text_;
     for (int count = 0; count < mostExchanges; ++count) {
         auto config = *config_;
@@ -37,6 +46,7 @@ void SharedConfig::correct(const Folder& folder, double lastCalibration) {
             callsToSkip_ = callsAfterFailure;
             return;
         }
+        laidAside.push_back(*displaced);
         const auto theirs = displaced->content.value_or("");
         const auto decoded = decodeDaemonConfig(theirs);
         if (theirs == expected || !decoded) {
@@ -49,6 +59,20 @@ void SharedConfig::correct(const Folder& folder, double lastCalibration) {
         expected = *corrected;
     }
     static_cast<void>(folder.replace(name, text_, everybodysFile, Durability::afterCrash));
+}
+
+void SharedConfig::recover(const Folder& folder, double lastCalibration) {
+    const auto present = decodeDaemonConfig(folder.read(name).value_or(""));
+    if (!present || present->lastCalibrationTimestamp != lastCalibration) {
+        return;
+    }
+    for (const auto& text : folder.leftovers()) {
+        const auto laidAside = decodeDaemonConfig(text);
+        if (laidAside && laidAside->lastCalibrationTimestamp != lastCalibration) {
+            static_cast<void>(folder.replace(name, text, everybodysFile, Durability::afterCrash));
+            return;
+        }
+    }
 }
 
 } // namespace quelby::limiter

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "helper/daemon_config.h"
 #include "limiter/files/folder.h"
@@ -27,11 +28,19 @@ public:
     // 1. The corrected text and the file change places, in one step.
     // 2. If what came out is not what was read, somebody has written in between: their text, corrected, goes
     //    the same way.
-    // 3. Should somebody write all the time, what came out last goes back as it is; the next call corrects
-    // it.
+    // 3. Should somebody write all the time, what came out last goes back as it is, for the next call.
+    // 4. What came out is discarded only in the end: after a sudden end in between, recover() finds it.
     void correct(const Folder& folder, double lastCalibration);
 
+    // Puts back a setting that a helper which ended suddenly had laid aside. The file is then its own
+    // corrected text, with the true time; a setting has an application's time, and one that was written later
+    // has its place already.
+    static void recover(const Folder& folder, double lastCalibration);
+
 private:
+    void exchangeUntilTrue(const Folder& folder, double lastCalibration,
+                           std::vector<Folder::Displaced>& laidAside);
+
     std::string text_; // of the last file that could be understood
     std::optional<DaemonConfig> config_;
     int callsToSkip_ = 0;

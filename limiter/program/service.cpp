@@ -34,6 +34,7 @@ bool Service::haveFolder() {
         return false;
     }
     folder_ = std::move(*opened);
+    SharedConfig::recover(*folder_, limiter_.lastCalibration());
     folder_->removeLeftovers();
     wakeups_.watch(*folder_);
     return true;

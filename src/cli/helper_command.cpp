@@ -3,16 +3,27 @@
 #include <fmt/format.h>
 
 #include "cli/cycle_run.h"
+#include "cli/helper_state.h"
 #include "console/standard_output.h"
+#include "helper/json_record.h"
 #include "platform/helper_names.h"
+#include "platform/posix/shared_file.h"
 
 namespace quelby::cli {
 
 namespace {
 
-Result<void> printState(const PowerMonitor& monitor) {
-    return writeToStandardOutput(monitor.daemonInstalled ? "the helper is installed and running\n"
-                                                         : "the helper is not installed\n");
+Result<void> printState(const Platform& platform, OutputForm form) {
+    const HelperState state{
+        .isLoaded = platform.serviceManager.isHelperLoaded(),
+        .status = platform.helperFolder.status(),
+        .details = readSharedFile(platform.folders.helper() / "details.json", JsonRecord::longestText)};
+    return writeToStandardOutput(form == OutputForm::json ? helperStateAsJson(state)
+                                                          : helperStateAsText(state));
+}
+
+Result<void> say(const char* sentence) {
+    return writeToStandardOutput(std::string(sentence) + '\n');
 }
 
 // A recording shows another machine than the one that would be changed.
@@ -32,13 +43,15 @@ Result<void> install(const Platform& platform, PowerMonitor& monitor) {
     }
     monitor.daemonInstalled = false; // so that what happens now can be told
     monitor.installDaemon();
-    return monitor.daemonInstalled ? printState(monitor) : problem("the helper was not installed");
+    return monitor.daemonInstalled ? say("the helper is installed and running")
+                                   : problem("the helper was not installed");
 }
 
 Result<void> uninstall(PowerMonitor& monitor) {
     monitor.daemonInstalled = true;
     monitor.uninstallDaemon();
-    return monitor.daemonInstalled ? problem("the helper was not removed") : printState(monitor);
+    return monitor.daemonInstalled ? problem("the helper was not removed")
+                                   : say("the helper is not installed");
 }
 
 } // namespace
@@ -47,7 +60,7 @@ Result<void> runHelper(Machine& machine, const HelperCommand& command) {
     const auto platform = machine.platform();
     return runCycles(machine, platform, untilTheEnd(machine, [&](PowerMonitor& monitor) -> Result<void> {
                          if (command.wish == HelperWish::status) {
-                             return printState(monitor);
+                             return printState(platform, command.form);
                          }
                          if (auto refused = refuseForRecording(machine); !refused) {
                              return refused;

@@ -60,6 +60,38 @@ TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
     EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\n");
 }
 
+TEST_F(QuelbyctlLimit, TellsWhatTheHelperExplains) {
+    const std::string status = R"({"daemonRunning":true,"chargingInhibited":true,"calibrationActive":false,)"
+                               R"("batteryPercent":80,"lastUpdate":0})";
+    const std::string details = R"({"mechanism":"thresholds","explanation":"Charging stops at 80%."})";
+    EXPECT_EQ(ctl({"helper", "--json"}).output,
+              R"({"installed":false,"running":false,"status":null,"details":null})"
+              "\n");
+    folder.write("helper/status.json", status);
+    folder.write("helper/details.json", details);
+    EXPECT_EQ(ctl({"helper", "status"}).output,
+              "the helper is installed and running\nCharging stops at 80%.\n");
+    EXPECT_EQ(ctl({"helper", "status", "--json"}).output,
+              R"({"installed":true,"running":true,"status":)" + status + R"(,"details":)" + details + "}\n");
+    EXPECT_EQ(ctl({"helper", "install", "--json"}).exitStatus, 2);
+}
+
+TEST_F(QuelbyctlLimit, TakesNothingFromTheHelpersFolderThatIsNotWhole) {
+    folder.write("helper/status.json", R"({"daemonRunning":true})");
+    for (const auto& rotten : {std::string("{"), std::string("[]"), std::string(60'000, '['),
+                               "{\"a\":" + std::string(30'000, '[') + std::string(30'000, ']') + '}'}) {
+        folder.write("helper/details.json", rotten);
+        EXPECT_EQ(ctl({"helper", "--json"}).output,
+                  R"({"installed":false,"running":false,"status":null,"details":null})"
+                  "\n");
+    }
+    folder.write("helper/status.json",
+                 R"({"daemonRunning":true,"chargingInhibited":true,"calibrationActive":false,)"
+                 R"("batteryPercent":80,"lastUpdate":0})");
+    folder.write("helper/details.json", R"({"explanation":"one\u001b[31m\nline"})");
+    EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\none?[31m?line\n");
+}
+
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {
     for (const auto* value : {"15", "101", "83", "80.0", "-80", "yes", ""}) {
         EXPECT_EQ(ctl({"limit", value}).exitStatus, 2) << value;

@@ -243,6 +243,9 @@ TEST_F(FolderTest, HandsOverWhatItTakesTheExchangedFilesPlace) {
     EXPECT_EQ(displaced->content, "theirs");
     EXPECT_EQ(content("file"), "ours");
     EXPECT_EQ(modeOf(at("file")), 0666U);
+    EXPECT_EQ(names().size(), 2U);
+    EXPECT_THAT(folder.leftovers(), testing::ElementsAre("theirs")); // not lost before it is discarded
+    folder.discard(*displaced);
     EXPECT_THAT(names(), UnorderedElementsAre("file"));
     EXPECT_FALSE(folder.exchange("missing", "ours", everybodysFile));
     EXPECT_THAT(names(), UnorderedElementsAre("file"));

@@ -112,6 +112,7 @@ protected:
     HostileUser() {
         fs::permissions(outer.write("secret", encode(limitOn).value()), fs::perms(0600));
         secretBefore = outer.read("secret");
+        setAttribute("BAT0/status", "Charging"); // so that one look is enough
     }
 
     void expectTheSecretUntouched() const {
@@ -125,9 +126,7 @@ protected:
 TEST_P(HostileUser, CannotStopAHelperThatIsAtWork) {
     wish(limitOn);
     RunningProgram helper(words());
-    for (int count = 0; count < 2000 && !fs::exists(shared / "status.json"); ++count) {
-        ::usleep(10'000);
-    }
+    waitUntilItRuns();
     ASSERT_EQ(attribute(bat0End), "60");
     ASSERT_TRUE(asOrdinaryUser([&] { return GetParam().carryOut(shared, outer.path() / "secret"); }));
     helper.signal(SIGTERM); // it reads and writes once more, or at least once more
@@ -158,7 +157,7 @@ INSTANTIATE_TEST_SUITE_P(By, HostileUser,
                                          Attack{"unreadableFiles", makeUnreadableFiles},
                                          Attack{"manyFiles", makeManyFiles},
                                          Attack{"namesOfOtherPlaces", nameOtherPlaces}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& attack) { return std::string(attack.param.name); });
 
 class HostileUserTest : public HostileUser {};
 
@@ -177,16 +176,14 @@ std::int64_t wakeups(pid_t process) {
 TEST_F(HostileUserTest, CannotKeepItBusyWithAFloodOfChanges) {
     wish(limitOn);
     const RunningProgram helper(words());
-    for (int count = 0; count < 2000 && !fs::exists(shared / "status.json"); ++count) {
-        ::usleep(10'000);
-    }
+    waitUntilItRuns();
     const auto before = wakeups(helper.process());
     timespec begin{};
     timespec end{};
     ::clock_gettime(CLOCK_MONOTONIC, &begin);
     ASSERT_TRUE(asOrdinaryUser([&] {
         const auto text = encode(limitOn).value();
-        for (int count = 0; count < 20'000; ++count) {
+        for (int count = 0; count < 5000; ++count) {
             const auto made = shared / "new.json";
             const FileDescriptor file(::open(made.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
             if (::write(file.number(), text.data(), text.size()) < 0 ||
@@ -206,9 +203,7 @@ TEST_F(HostileUserTest, CannotKeepItBusyWithAFloodOfChanges) {
 TEST_F(HostileUserTest, CannotForgeTheKernelsMessages) {
     wish(limitOn);
     const RunningProgram helper(words());
-    for (int count = 0; count < 2000 && !fs::exists(shared / "status.json"); ++count) {
-        ::usleep(10'000);
-    }
+    waitUntilItRuns();
     const auto process = static_cast<std::uint32_t>(helper.process());
     EXPECT_FALSE(asOrdinaryUser([&] {
         const FileDescriptor socket(::socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC, NETLINK_KOBJECT_UEVENT));
@@ -256,16 +251,11 @@ TEST_F(HostileUserTest, DecidesAtMostAboutTheLevelWithinItsBounds) {
 TEST_F(HostileUserTest, CannotMakeItLoseItsWayByTakingTheFolderItselfAway) {
     wish(limitOn);
     RunningProgram helper(words());
-    for (int count = 0; count < 2000 && !fs::exists(shared / "status.json"); ++count) {
-        ::usleep(10'000);
-    }
+    waitUntilItRuns();
     fs::remove_all(shared); // that only the owner of the folder above can
     fs::create_directory(shared);
     wish({.chargeLimitEnabled = true, .chargeLimitPercent = 70});
-    for (int count = 0; count < 3000 && attribute(bat0End) != "70"; ++count) {
-        ::usleep(10'000);
-    }
-    EXPECT_EQ(attribute(bat0End), "70");
+    waitForLevel("70");
     EXPECT_FALSE(helper.hasEnded());
 }
 

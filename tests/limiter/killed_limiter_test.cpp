@@ -85,15 +85,15 @@ TEST_F(KilledLimiter, LosesNothingOfItsCalibrationNorOfTheSettings) {
         ASSERT_EQ(helper.end().exitStatus, 128 + SIGKILL);
         EXPECT_TRUE(settingsAreWhole()) << outer.read("shared/config.json");
         if (fs::exists(state / "state.json")) {
-            const auto state = kept();
-            if (attribute(bat0End) != "100" || state.calibration) {
-                EXPECT_EQ(state.found.at("BAT0").end, 100);
+            const auto left = kept();
+            if (attribute(bat0End) != "100" || left.calibration) {
+                EXPECT_EQ(left.found.at("BAT0").end, 100);
             }
-            hasFinished = hasFinished || state.lastCalibration > longAgo;
-            EXPECT_EQ(hasFinished, state.lastCalibration > longAgo);
-            if (!hasFinished && state.calibration) {
-                EXPECT_GE(state.calibration->heldSeconds, held);
-                held = state.calibration->heldSeconds;
+            hasFinished = hasFinished || left.lastCalibration > longAgo;
+            EXPECT_EQ(hasFinished, left.lastCalibration > longAgo);
+            if (!hasFinished && left.calibration) {
+                EXPECT_GE(left.calibration->heldSeconds, held);
+                held = left.calibration->heldSeconds;
             }
         }
         if (fs::exists(shared / "status.json")) {
@@ -103,10 +103,7 @@ TEST_F(KilledLimiter, LosesNothingOfItsCalibrationNorOfTheSettings) {
     // And in the end, undisturbed, it finishes what it began.
     change(70);
     RunningProgram helper(words(), variables);
-    for (int count = 0; count < 6000 && attribute(bat0End) != "70"; ++count) {
-        ::usleep(10'000);
-    }
-    EXPECT_EQ(attribute(bat0End), "70");
+    waitForLevel("70");
     helper.signal(SIGTERM);
     EXPECT_EQ(helper.end().exitStatus, 0);
     EXPECT_GT(kept().lastCalibration, longAgo);

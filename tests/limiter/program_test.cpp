@@ -23,16 +23,7 @@ using testing::HasSubstr;
 using testing::StartsWith;
 using Json = nlohmann::json;
 
-class Program : public testing::Test, protected LimiterProgram {
-protected:
-    // Returns once the helper has taken a wish of this test's, or fails the test after some seconds.
-    void waitForLevel(const std::string& level) const {
-        for (int count = 0; count < 2000 && attribute(bat0End) != level; ++count) {
-            ::usleep(10'000);
-        }
-        EXPECT_EQ(attribute(bat0End), level);
-    }
-};
+class Program : public testing::Test, protected LimiterProgram {};
 
 TEST_F(Program, SaysWhatItCanAndItsVersion) {
     const auto help = runProgram({program, "--help"});
@@ -125,8 +116,9 @@ TEST_F(Program, RestoresWhatItFoundEvenAfterASuddenEnd) {
 TEST_F(Program, EndsWhenItIsAskedToAndLeavesTheLevelToTheHardware) {
     wish({.chargeLimitEnabled = true, .chargeLimitPercent = 60});
     for (const int signal : {SIGTERM, SIGINT}) {
+        fs::remove(shared / "status.json");
         RunningProgram helper(words());
-        waitForLevel("60");
+        waitUntilItRuns();
         helper.signal(signal);
         const auto ended = helper.end();
         EXPECT_EQ(ended.exitStatus, 0);
@@ -146,10 +138,7 @@ TEST_F(Program, ReleasesChargingThatItHeldItself) {
     EXPECT_EQ(attribute("BAT0/charge_behaviour"), "auto");
     EXPECT_FALSE(status()->daemonRunning);
     RunningProgram helper(words());
-    for (int count = 0; count < 2000 && attribute("BAT0/charge_behaviour") != "inhibit-charge"; ++count) {
-        ::usleep(10'000);
-    }
-    EXPECT_EQ(attribute("BAT0/charge_behaviour"), "inhibit-charge");
+    waitUntil([&] { return attribute("BAT0/charge_behaviour") == "inhibit-charge"; });
     helper.signal(SIGTERM);
     EXPECT_EQ(helper.end().exitStatus, 0);
     EXPECT_EQ(attribute("BAT0/charge_behaviour"), "auto");

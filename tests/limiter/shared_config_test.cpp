@@ -111,6 +111,23 @@ TEST_F(SharedConfigTest, LosesNoSettingToItsCorrectionsWhoeverComesFirst) {
     EXPECT_EQ(written()->lastCalibrationTimestamp, time);
 }
 
+TEST_F(SharedConfigTest, PutsBackASettingThatASuddenEndHasLaidAside) {
+    auto ours = limitOn;
+    ours.lastCalibrationTimestamp = 1'700'000'000;
+    auto theirs = limitOn;
+    theirs.chargeLimitPercent = 60;
+    outer.write(".pwr_limiter-1", encode(theirs).value());
+    outer.write(".pwr_limiter-2", encode(ours).value());
+    write(ours);
+    SharedConfig::recover(folder, 1'700'000'000);
+    EXPECT_EQ(written(), theirs);
+    auto later = limitOn; // written since then, with the application's own time
+    later.chargeLimitPercent = 50;
+    write(later);
+    SharedConfig::recover(folder, 1'700'000'000);
+    EXPECT_EQ(written(), later);
+}
+
 TEST_F(SharedConfigTest, LeavesAFileThatItCannotReplaceAloneForAWhile) {
     write(limitOn);
     config.read(folder);

@@ -1,6 +1,13 @@
 #include "limiter/support/limiter_program.h"
 
-#include <sys/stat.h>
+#include <array>
+
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include "platform/posix/file_descriptor.h"
 
 namespace quelby::limiter {
 
@@ -9,6 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string supplyFolder = "sys/class/power_supply/";
+constexpr int patience = 30'000; // milliseconds; far more than anything here takes, also under a sanitizer
 
 } // namespace
 
@@ -52,6 +60,30 @@ std::string LimiterProgram::attribute(const std::string& path) const {
 
 void LimiterProgram::setAttribute(const std::string& path, const std::string& value) const {
     outer.write(supplyFolder + path, value + '\n');
+}
+
+void LimiterProgram::waitUntil(const std::function<bool()>& holds) const {
+    const FileDescriptor changes(::inotify_init1(IN_CLOEXEC));
+    for (const auto& folder : {shared, sysfs / "class/power_supply/BAT0"}) {
+        ::inotify_add_watch(changes.number(), folder.c_str(), IN_CLOSE_WRITE | IN_MOVED_TO);
+    }
+    while (!holds()) {
+        pollfd waiting{changes.number(), POLLIN, 0};
+        if (::poll(&waiting, 1, patience) <= 0) {
+            ADD_FAILURE() << "nothing changes any more";
+            return;
+        }
+        std::array<char, 4096> events{};
+        static_cast<void>(::read(changes.number(), events.data(), events.size()));
+    }
+}
+
+void LimiterProgram::waitUntilItRuns() const {
+    waitUntil([&] { return status() && status()->daemonRunning; });
+}
+
+void LimiterProgram::waitForLevel(const std::string& level) const {
+    waitUntil([&] { return attribute(bat0End) == level; });
 }
 
 } // namespace quelby::limiter

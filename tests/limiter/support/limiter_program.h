@@ -1,6 +1,7 @@
 // The built helper on a tree of plain files.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,14 @@ public:
     // Relative to the power supplies, without the newline.
     [[nodiscard]] std::string attribute(const std::string& path) const;
     void setAttribute(const std::string& path, const std::string& value) const;
+
+    // Returns once it holds, which is looked at whenever a file has changed; fails the test after some
+    // seconds.
+    void waitUntil(const std::function<bool()>& holds) const;
+
+    // Returns once a helper that was just started has written its status.
+    void waitUntilItRuns() const;
+    void waitForLevel(const std::string& level) const;
 
     TemporaryFolder outer;
     std::filesystem::path shared = outer.path() / "shared";
