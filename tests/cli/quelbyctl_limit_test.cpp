@@ -72,6 +72,38 @@ TEST_F(QuelbyctlLimit, TakesTheSettingsOfARecordingWhereTheFolderHasNone) {
         << "the folder goes before";
 }
 
+TEST_F(QuelbyctlLimit, TellsWhatTheHelperExplains) {
+    const std::string status = R"({"daemonRunning":true,"chargingInhibited":true,"calibrationActive":false,)"
+                               R"("batteryPercent":80,"lastUpdate":0})";
+    const std::string details = R"({"mechanism":"thresholds","explanation":"Charging stops at 80%."})";
+    EXPECT_EQ(ctl({"helper", "--json"}).output,
+              R"({"installed":false,"running":false,"status":null,"details":null})"
+              "\n");
+    folder.write("helper/status.json", status);
+    folder.write("helper/details.json", details);
+    EXPECT_EQ(ctl({"helper", "status"}).output,
+              "the helper is installed and running\nCharging stops at 80%.\n");
+    EXPECT_EQ(ctl({"helper", "status", "--json"}).output,
+              R"({"installed":true,"running":true,"status":)" + status + R"(,"details":)" + details + "}\n");
+    EXPECT_EQ(ctl({"helper", "install", "--json"}).exitStatus, 2);
+}
+
+TEST_F(QuelbyctlLimit, TakesNothingFromTheHelpersFolderThatIsNotWhole) {
+    folder.write("helper/status.json", R"({"daemonRunning":true})");
+    for (const auto& rotten : {std::string("{"), std::string("[]"), std::string(60'000, '['),
+                               "{\"a\":" + std::string(30'000, '[') + std::string(30'000, ']') + '}'}) {
+        folder.write("helper/details.json", rotten);
+        EXPECT_EQ(ctl({"helper", "--json"}).output,
+                  R"({"installed":false,"running":false,"status":null,"details":null})"
+                  "\n");
+    }
+    folder.write("helper/status.json",
+                 R"({"daemonRunning":true,"chargingInhibited":true,"calibrationActive":false,)"
+                 R"("batteryPercent":80,"lastUpdate":0})");
+    folder.write("helper/details.json", R"({"explanation":"one\u001b[31m\nline"})");
+    EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\none?[31m?line\n");
+}
+
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {
     for (const auto* value : {"15", "101", "83", "80.0", "-80", "yes", ""}) {
         EXPECT_EQ(ctl({"limit", value}).exitStatus, 2) << value;
@@ -93,7 +125,12 @@ TEST_F(QuelbyctlLimit, SaysWhereTheSettingsCannotBeWritten) {
 TEST_F(QuelbyctlLimit, InstallsNothingForARecordingNorWhatDidNotComeWithTheProgram) {
     EXPECT_EQ(ctl({"helper", "install"}).errors,
               "quelbyctl: a recorded machine has no helper that could be installed or removed\n");
-    const auto missing = quelbyctl({"helper", "install", "--config-dir", folder.path() / "helper"});
+    // A program that was copied away from what belongs to it.
+    const auto alone = folder.path() / "bin" / "quelbyctl";
+    std::filesystem::create_directories(alone.parent_path());
+    std::filesystem::copy_file(QUELBY_BINARY_DIR "/quelbyctl", alone);
+    const auto missing = runProgram({alone, "helper", "install", "--config-dir", folder.path() / "helper"},
+                                    plainEnvironment());
     EXPECT_EQ(missing.exitStatus, 1);
     EXPECT_EQ(
         missing.errors,

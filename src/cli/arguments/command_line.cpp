@@ -107,13 +107,13 @@ CalibrationCommand parseCalibration(const std::string& text) {
     return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
 }
 
-HelperCommand parseHelper(const std::string& text) {
+HelperWish parseHelperWish(const std::string& text) {
     constexpr std::array names{std::pair("status", HelperWish::status),
                                std::pair("install", HelperWish::install),
                                std::pair("uninstall", HelperWish::uninstall)};
     for (const auto& [name, wish] : names) {
         if (text == name) {
-            return {wish};
+            return wish;
         }
     }
     throw CLI::ValidationError(fmt::format("helper takes status, install or uninstall, not \"{}\"", text));
@@ -173,8 +173,7 @@ struct Reading {
             fmt::format("The battery's calibration: show (unless named otherwise), on, off, or {} days",
                         oneOf(calibrationIntervals)),
             calibration, parseCalibration);
-        addSetting("helper", "The charge-limit helper: status (unless named otherwise), install or uninstall",
-                   helper, parseHelper);
+        addHelper();
     }
 
     // A command with one word behind it, which may be missing.
@@ -186,6 +185,23 @@ struct Reading {
                 "VALUE", [&setting, parse](const std::string& text) { setting = parse(text); }, "What to do")
             ->type_name("");
         command->final_callback([this, &setting] { request.command = setting; });
+    }
+
+    void addHelper() {
+        auto* const command = app.add_subcommand(
+            "helper", "The charge-limit helper: status (unless named otherwise), install or uninstall");
+        command
+            ->add_option_function<std::string>(
+                "VALUE", [this](const std::string& text) { helper.wish = parseHelperWish(text); },
+                "What to do")
+            ->type_name("");
+        addForm(*command, "--json", OutputForm::json, helper.form, "The status as one JSON object");
+        command->final_callback([this] {
+            if (helper.form == OutputForm::json && helper.wish != HelperWish::status) {
+                throw CLI::ValidationError("only the status of the helper is printed with --json");
+            }
+            request.command = helper;
+        });
     }
 
     void addStatus() {
