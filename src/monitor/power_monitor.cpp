@@ -91,6 +91,7 @@ void PowerMonitor::collectAllData() {
     readTopProcesses();
     sampleBattery();
     predictBattery();
+    noticeDaemonConfig();
     readDaemonStatus();
     recordReading();
     if (onUpdate) {

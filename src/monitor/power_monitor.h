@@ -47,8 +47,8 @@ public:
     // No further cycles; the fields keep their values. Harmless when nothing runs.
     void stopMonitoring();
 
-    // Each of the next three keeps the setting and tells the helper. The problem is that it could not be
-    // told; the setting holds nevertheless.
+    // Each of the next three keeps the setting and tells the helper; what another program has told it in the
+    // meantime stays, and is shown. The problem is that it could not be told; the setting holds nevertheless.
 
     // The first time that the limit is switched on, ever, the charging tip is to be shown.
     [[nodiscard]] Result<void> toggleChargeLimit(bool enabled);
@@ -84,6 +84,7 @@ public:
 private:
     void restorePreferences();
     void loadDaemonConfig();
+    void noticeDaemonConfig();
     void checkDaemonInstalled();
     [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();

@@ -70,6 +70,31 @@ TEST_F(QuelbyctlLimit, TakesTheSettingsOfARecordingWhereTheFolderHasNone) {
     EXPECT_EQ(ctl({"limit", "off"}).output, "charge limit off, 90%\n") << "the folder goes before";
 }
 
+TEST_F(QuelbyctlLimit, FollowsSettingsThatChangeWithinARecording) {
+    std::string lines;
+    for (int number = 0; number < 3; ++number) {
+        auto cycle = laptopCycle(number);
+        cycle.config =
+            R"({"chargeLimitEnabled":true,"chargeLimitPercent":)" + std::to_string(80 + 5 * number) +
+            R"(,"calibrationEnabled":false,"calibrationIntervalDays":30,"lastCalibrationTimestamp":0})";
+        lines += recordingLine(cycle) + '\n';
+    }
+    recording = folder.write("changing.jsonl", lines);
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 90%, but the helper is not installed\n");
+    EXPECT_EQ(ctl({"limit", "60"}).exitStatus, 0);
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 60%, but the helper is not installed\n");
+}
+
+TEST_F(QuelbyctlLimit, KeepsWhatItDoesNotKnowInTheFile) {
+    folder.write("helper/config.json",
+                 R"({"chargeLimitEnabled":false,"chargeLimitPercent":85.0,"calibrationEnabled":false,)"
+                 R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":0,"note":{"by":"me"}})");
+    EXPECT_EQ(ctl({"limit", "on"}).exitStatus, 0);
+    EXPECT_EQ(folder.read("helper/config.json"),
+              R"({"chargeLimitEnabled":true,"chargeLimitPercent":85,"calibrationEnabled":false,)"
+              R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":0,"note":{"by":"me"}})");
+}
+
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {
     for (const auto* value : {"15", "101", "83", "80.0", "-80", "yes", ""}) {
         EXPECT_EQ(ctl({"limit", value}).exitStatus, 2) << value;
