@@ -5,6 +5,7 @@
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
 #include "support/temporary_folder.h"
+#include "ui/presentation/cards/dialogs.h"
 
 namespace quelby {
 namespace {
@@ -50,6 +51,23 @@ TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {
     EXPECT_EQ(ctl({"calibration", "off"}).output, "calibration off, every 60 days, never done\n");
     EXPECT_EQ(config()["calibrationIntervalDays"], 60);
     EXPECT_EQ(config()["chargeLimitPercent"], 95);
+}
+
+TEST_F(QuelbyctlLimit, SaysTheChargingTipOnceBesideItsData) {
+    EXPECT_THAT(ctl({"limit", "90"}).errors, IsEmpty());
+    const auto first = ctl({"limit", "on"});
+    EXPECT_EQ(first.errors, std::string(chargingTip().message) + '\n');
+    EXPECT_EQ(first.output, "charge limit on, 90%, but the helper is not installed\n");
+    EXPECT_THAT(ctl({"limit", "off"}).errors, IsEmpty());
+    EXPECT_THAT(ctl({"limit", "on"}).errors, IsEmpty());
+}
+
+TEST_F(QuelbyctlLimit, LeavesTheChargingTipToTheNextTimeWhereTheLimitCannotBeSwitchedOn) {
+    const auto refused = quelbyctl({"limit", "on", "--replay", recording, "--config-dir", recording,
+                                    "--preferences", folder.path() / "preferences.conf"});
+    EXPECT_EQ(refused.exitStatus, 1);
+    EXPECT_EQ(refused.errors, "quelbyctl: cannot write the helper's settings to \"" + recording + "\"\n");
+    EXPECT_EQ(ctl({"limit", "on"}).errors, std::string(chargingTip().message) + '\n');
 }
 
 TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
