@@ -94,6 +94,9 @@ void PowerMonitor::collectAllData() {
     noticeDaemonConfig();
     readDaemonStatus();
     recordReading();
+    if (options_.renewsShownHistory) {
+        loadHistory();
+    }
     if (onUpdate) {
         onUpdate();
     }

@@ -24,6 +24,10 @@ struct MonitorOptions {
 
     // Asked once a cycle while the history is only read: whether to record from now on. None: never.
     std::function<bool()> mayRecordNow;
+
+    // Each cycle loads the shown range again, so that its curve fills before one's eyes. For a demonstration,
+    // whose history begins with nothing; otherwise the cycles never do it.
+    bool renewsShownHistory = false;
 };
 
 class PowerMonitor : public PublishedFields, public std::enable_shared_from_this<PowerMonitor> {
@@ -75,7 +79,7 @@ public:
     // Starts the program at login, or no longer. The choice is kept also where the system does not follow it.
     void setLaunchAtLogin(bool enabled);
 
-    // Shows another range of the history, or the same one renewed, which the cycles never do.
+    // Shows another range of the history, or the same one renewed.
     void selectHistoryRange(TimeRange range);
 
     // Called at the end of every cycle.
