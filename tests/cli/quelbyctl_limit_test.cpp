@@ -5,6 +5,7 @@
 #include "support/laptop_recording.h"
 #include "support/quelbyctl.h"
 #include "support/temporary_folder.h"
+#include "ui/presentation/cards/dialogs.h"
 
 namespace quelby {
 namespace {
@@ -51,6 +52,23 @@ TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {
     EXPECT_EQ(ctl({"calibration", "off"}).output, "calibration off, every 60 days, never done\n");
     EXPECT_EQ(config()["calibrationIntervalDays"], 60);
     EXPECT_EQ(config()["chargeLimitPercent"], 95);
+}
+
+TEST_F(QuelbyctlLimit, SaysTheChargingTipOnceBesideItsData) {
+    EXPECT_THAT(ctl({"limit", "90"}).errors, IsEmpty());
+    const auto first = ctl({"limit", "on"});
+    EXPECT_EQ(first.errors, std::string(chargingTip().message) + '\n');
+    EXPECT_EQ(first.output, "charge limit on, 90%, but the helper is not installed\n");
+    EXPECT_THAT(ctl({"limit", "off"}).errors, IsEmpty());
+    EXPECT_THAT(ctl({"limit", "on"}).errors, IsEmpty());
+}
+
+TEST_F(QuelbyctlLimit, LeavesTheChargingTipToTheNextTimeWhereTheLimitCannotBeSwitchedOn) {
+    const auto refused = quelbyctl({"limit", "on", "--replay", recording, "--config-dir", recording,
+                                    "--preferences", folder.path() / "preferences.conf"});
+    EXPECT_EQ(refused.exitStatus, 1);
+    EXPECT_EQ(refused.errors, "quelbyctl: cannot write the helper's settings to \"" + recording + "\"\n");
+    EXPECT_EQ(ctl({"limit", "on"}).errors, std::string(chargingTip().message) + '\n');
 }
 
 TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {
@@ -102,6 +120,31 @@ TEST_F(QuelbyctlLimit, TakesNothingFromTheHelpersFolderThatIsNotWhole) {
                  R"("batteryPercent":80,"lastUpdate":0})");
     folder.write("helper/details.json", R"({"explanation":"one\u001b[31m\nline"})");
     EXPECT_EQ(ctl({"helper"}).output, "the helper is installed and running\none?[31m?line\n");
+}
+
+TEST_F(QuelbyctlLimit, FollowsSettingsThatChangeWithinARecording) {
+    std::string lines;
+    for (int number = 0; number < 3; ++number) {
+        auto cycle = laptopCycle(number);
+        cycle.config =
+            R"({"chargeLimitEnabled":true,"chargeLimitPercent":)" + std::to_string(80 + 5 * number) +
+            R"(,"calibrationEnabled":false,"calibrationIntervalDays":30,"lastCalibrationTimestamp":0})";
+        lines += recordingLine(cycle) + '\n';
+    }
+    recording = folder.write("changing.jsonl", lines);
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 90%, but the helper is not installed\n");
+    EXPECT_EQ(ctl({"limit", "60"}).exitStatus, 0);
+    EXPECT_EQ(ctl({"limit"}).output, "charge limit on, 60%, but the helper is not installed\n");
+}
+
+TEST_F(QuelbyctlLimit, KeepsWhatItDoesNotKnowInTheFile) {
+    folder.write("helper/config.json",
+                 R"({"chargeLimitEnabled":false,"chargeLimitPercent":85.0,"calibrationEnabled":false,)"
+                 R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":0,"note":{"by":"me"}})");
+    EXPECT_EQ(ctl({"limit", "on"}).exitStatus, 0);
+    EXPECT_EQ(folder.read("helper/config.json"),
+              R"({"chargeLimitEnabled":true,"chargeLimitPercent":85,"calibrationEnabled":false,)"
+              R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":0,"note":{"by":"me"}})");
 }
 
 TEST_F(QuelbyctlLimit, RefusesWhatTheDashboardCouldNotSet) {

@@ -8,6 +8,8 @@
 #include <fmt/ranges.h>
 
 #include "base/number_text.h"
+#include "base/utf8.h"
+#include "cli/arguments/nearest_word.h"
 #include "ui/presentation/cards/settings_panel.h"
 
 namespace quelby::cli {
@@ -275,12 +277,31 @@ struct Reading {
     }
 };
 
+// The word that stands where a command should, if no command was found.
+std::optional<std::string> unknownCommand(const CLI::App& app) {
+    const auto left = app.remaining();
+    const auto word = std::find_if(left.begin(), left.end(),
+                                   [](const std::string& text) { return !text.starts_with('-'); });
+    return app.get_subcommands().empty() && word != left.end() ? std::optional(*word) : std::nullopt;
+}
+
+std::string unknownCommandText(const CLI::App& app, const std::string& word) {
+    const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+    std::vector<std::string> names;
+    std::transform(commands.begin(), commands.end(), std::back_inserter(names),
+                   [](const CLI::App* command) { return command->get_name(); });
+    return fmt::format(R"(there is no command "{}"; the nearest is "{}")", printable(word),
+                       nearestWord(word, {names.begin(), names.end()}));
+}
+
 } // namespace
 
 std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv) {
     Reading reading;
     if (auto answer = parseArguments(reading.app, reading.request.arguments, argc, argv)) {
-        return *std::move(answer);
+        const auto unknown = answer->exitStatus == 0 ? std::nullopt : unknownCommand(reading.app);
+        return unknown ? wrongUsage(reading.app, unknownCommandText(reading.app, *unknown))
+                       : *std::move(answer);
     }
     return reading.request;
 }
