@@ -57,7 +57,7 @@ TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {
 TEST_F(QuelbyctlLimit, SaysTheChargingTipOnceBesideItsData) {
     EXPECT_THAT(ctl({"limit", "90"}).errors, IsEmpty());
     const auto first = ctl({"limit", "on"});
-    EXPECT_EQ(first.errors, std::string(chargingTip().message) + '\n');
+    EXPECT_EQ(first.errors, std::string(chargingTip(linuxWords).message) + '\n');
     EXPECT_EQ(first.output, "charge limit on, 90%, but the helper is not installed\n");
     EXPECT_THAT(ctl({"limit", "off"}).errors, IsEmpty());
     EXPECT_THAT(ctl({"limit", "on"}).errors, IsEmpty());
@@ -68,7 +68,7 @@ TEST_F(QuelbyctlLimit, LeavesTheChargingTipToTheNextTimeWhereTheLimitCannotBeSwi
                                     "--preferences", folder.path() / "preferences.conf"});
     EXPECT_EQ(refused.exitStatus, 1);
     EXPECT_EQ(refused.errors, "quelbyctl: cannot write the helper's settings to \"" + recording + "\"\n");
-    EXPECT_EQ(ctl({"limit", "on"}).errors, std::string(chargingTip().message) + '\n');
+    EXPECT_EQ(ctl({"limit", "on"}).errors, std::string(chargingTip(linuxWords).message) + '\n');
 }
 
 TEST_F(QuelbyctlLimit, TellsWhatTheHelperSays) {

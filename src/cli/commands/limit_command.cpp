@@ -69,7 +69,7 @@ Result<void> switchLimit(PowerMonitor& monitor, Preferences& preferences, bool e
         return told;
     }
     if (told) {
-        writeToStandardError(fmt::format("{}\n", chargingTip().message));
+        writeToStandardError(fmt::format("{}\n", chargingTip(systemWords()).message));
     } else {
         preferences.remove(preference_keys::hasShownChargingTip);
     }
