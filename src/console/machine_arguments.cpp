@@ -8,7 +8,7 @@ namespace quelby {
 
 namespace {
 
-constexpr int wrongUsage = 2;
+constexpr int usedWrongly = 2;
 
 void addRoot(CLI::App& parser, const char* name, std::filesystem::path& root, const char* help) {
     parser
@@ -53,6 +53,10 @@ void addCommonOptions(CLI::App& parser, MachineArguments& arguments) {
     addRoot(parser, "--proc-root", machine.roots.proc, "Takes the place of /proc");
 }
 
+Answer wrongUsage(const CLI::App& parser, std::string_view sentence) {
+    return {usedWrongly, fmt::format("{0}: {1} ({0} --help tells more)\n", parser.get_name(), sentence)};
+}
+
 std::optional<Answer> parseArguments(CLI::App& parser, const MachineArguments& arguments, int argc,
                                      const char* const* argv) {
     try {
@@ -66,8 +70,7 @@ std::optional<Answer> parseArguments(CLI::App& parser, const MachineArguments& a
     } catch (const CLI::CallForVersion& version) {
         return Answer{0, std::string(version.what()) + '\n'};
     } catch (const CLI::ParseError& error) {
-        const auto& name = parser.get_name();
-        return Answer{wrongUsage, fmt::format("{}: {} ({} --help tells more)\n", name, error.what(), name)};
+        return wrongUsage(parser, error.what());
     }
 }
 

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include <CLI/CLI.hpp>
 
@@ -33,6 +34,9 @@ struct Answer {
 
 // Help, version and the options of MachineArguments, which live as long as the parser.
 void addCommonOptions(CLI::App& parser, MachineArguments& arguments);
+
+// One sentence for whoever used the program wrongly, and where to read more.
+[[nodiscard]] Answer wrongUsage(const CLI::App& parser, std::string_view sentence);
 
 // Parses what the system handed to main(). Nothing if the words were understood and the program is to do its
 // work.

@@ -8,7 +8,7 @@
 
 namespace quelby {
 
-// The content of `config.json`: one JSON object with these five keys.
+// The content of `config.json`: one JSON object with these five keys. Other keys are other programs' business.
 struct DaemonConfig {
     bool chargeLimitEnabled = false;
     std::int64_t chargeLimitPercent = 80; // % of full charge
@@ -23,8 +23,9 @@ struct DaemonConfig {
 // their types. The order does not matter, and other keys are passed over.
 [[nodiscard]] std::optional<DaemonConfig> decodeDaemonConfig(std::string_view text);
 
-// Compact, in the order above, without a final newline. Nothing where the time is not finite: JSON has no
-// such number.
-[[nodiscard]] std::optional<std::string> encode(const DaemonConfig& config);
+// Compact, in the order above, without a final newline. Then come the other keys of the text that is to be
+// replaced, if JsonRecord accepts it, and as long as it accepts the new text with them. Nothing where the
+// time is not finite: JSON has no such number.
+[[nodiscard]] std::optional<std::string> encode(const DaemonConfig& config, std::string_view replaced = {});
 
 } // namespace quelby

@@ -1,5 +1,6 @@
 #include "helper/json_record.h"
 
+#include <cmath>
 #include <limits>
 #include <set>
 #include <utility>
@@ -110,12 +111,15 @@ std::optional<std::string> JsonRecord::text(std::string_view key) const {
 }
 
 std::optional<double> JsonRecord::number(std::string_view key) const {
-    const auto whole = integer(key);
+    const auto whole = valueOf<std::int64_t>(key);
     return whole ? static_cast<double>(*whole) : valueOf<double>(key);
 }
 
 std::optional<std::int64_t> JsonRecord::integer(std::string_view key) const {
-    return valueOf<std::int64_t>(key);
+    constexpr double beyondExactness = 9007199254740992.0; // 2^53
+    const auto other = valueOf<double>(key);
+    const bool isWhole = other && std::abs(*other) < beyondExactness && std::trunc(*other) == *other;
+    return isWhole ? static_cast<std::int64_t>(*other) : valueOf<std::int64_t>(key);
 }
 
 bool JsonRecord::lacks(std::string_view key) const {

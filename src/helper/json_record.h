@@ -32,7 +32,8 @@ public:
     [[nodiscard]] std::optional<std::string> text(std::string_view key) const;
     [[nodiscard]] std::optional<double> number(std::string_view key) const; // finite
 
-    // Within 64 bits, and written as an integer: 80.0 and 8e1 are none.
+    // Written as an integer within 64 bits, or in another way that has a whole value of less than 2^53: 80.0
+    // and 8e1. From there on a double may be another number than the one that was written.
     [[nodiscard]] std::optional<std::int64_t> integer(std::string_view key) const;
 
     // There is no such member, or it is null.

@@ -11,6 +11,7 @@ Result<void> PowerMonitor::installDaemon() {
         return installed;
     }
     daemonInstalled = true;
+    noticeDaemonConfig(); // the question may have been open for long
     return writeDaemonConfig();
 }
 

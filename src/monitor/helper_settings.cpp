@@ -24,12 +24,22 @@ void PowerMonitor::loadDaemonConfig() {
     }
 }
 
+// The file has other writers. One of them is this program itself: what it wrote is read again as well, so
+// that nothing is missed which came right behind.
+void PowerMonitor::noticeDaemonConfig() {
+    if (platform_.helperFolder->configChanged()) {
+        loadDaemonConfig();
+    }
+}
+
 Result<void> PowerMonitor::writeDaemonConfig() {
+    const auto replaced = platform_.helperFolder->config();
     const auto text = encode(DaemonConfig{.chargeLimitEnabled = chargeLimitEnabled,
                                           .chargeLimitPercent = truncated(chargeLimitPercent),
                                           .calibrationEnabled = calibrationEnabled,
                                           .calibrationIntervalDays = calibrationIntervalDays,
-                                          .lastCalibrationTimestamp = lastCalibrationDate.get().value_or(0)});
+                                          .lastCalibrationTimestamp = lastCalibrationDate.get().value_or(0)},
+                             replaced.value_or(""));
     return text ? platform_.helperFolder->replaceConfig(*text)
                 : problem("the last calibration has no time that the helper could be told");
 }
@@ -58,6 +68,7 @@ void PowerMonitor::readDaemonStatus() {
 }
 
 Result<void> PowerMonitor::toggleChargeLimit(bool enabled) {
+    noticeDaemonConfig();
     chargeLimitEnabled = enabled;
     auto told = writeDaemonConfig();
     if (enabled && !platform_.preferences->flag(preference_keys::hasShownChargingTip)) {
@@ -68,11 +79,13 @@ Result<void> PowerMonitor::toggleChargeLimit(bool enabled) {
 }
 
 Result<void> PowerMonitor::setChargeLimit(double percent) {
+    noticeDaemonConfig();
     chargeLimitPercent = percent;
     return writeDaemonConfig();
 }
 
 Result<void> PowerMonitor::updateCalibrationSettings(bool enabled, Int days) {
+    noticeDaemonConfig();
     calibrationEnabled = enabled;
     calibrationIntervalDays = days;
     return writeDaemonConfig();

@@ -91,8 +91,12 @@ void PowerMonitor::collectAllData() {
     readTopProcesses();
     sampleBattery();
     predictBattery();
+    noticeDaemonConfig();
     readDaemonStatus();
     recordReading();
+    if (options_.renewsShownHistory) {
+        loadHistory();
+    }
     if (onUpdate) {
         onUpdate();
     }

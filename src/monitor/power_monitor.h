@@ -24,6 +24,10 @@ struct MonitorOptions {
 
     // Asked once a cycle while the history is only read: whether to record from now on. None: never.
     std::function<bool()> mayRecordNow;
+
+    // Each cycle loads the shown range again, so that its curve fills before one's eyes. For a demonstration,
+    // whose history begins with nothing; otherwise the cycles never do it.
+    bool renewsShownHistory = false;
 };
 
 class PowerMonitor : public PublishedFields, public std::enable_shared_from_this<PowerMonitor> {
@@ -47,8 +51,8 @@ public:
     // No further cycles; the fields keep their values. Harmless when nothing runs.
     void stopMonitoring();
 
-    // Each of the next three keeps the setting and tells the helper. The problem is that it could not be
-    // told; the setting holds nevertheless.
+    // Each of the next three keeps the setting and tells the helper; what another program has told it in the
+    // meantime stays, and is shown. The problem is that it could not be told; the setting holds nevertheless.
 
     // The first time that the limit is switched on, ever, the charging tip is to be shown.
     [[nodiscard]] Result<void> toggleChargeLimit(bool enabled);
@@ -75,7 +79,7 @@ public:
     // Starts the program at login, or no longer. The choice is kept also where the system does not follow it.
     void setLaunchAtLogin(bool enabled);
 
-    // Shows another range of the history, or the same one renewed, which the cycles never do.
+    // Shows another range of the history, or the same one renewed.
     void selectHistoryRange(TimeRange range);
 
     // Called at the end of every cycle.
@@ -84,6 +88,7 @@ public:
 private:
     void restorePreferences();
     void loadDaemonConfig();
+    void noticeDaemonConfig();
     void checkDaemonInstalled();
     [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();

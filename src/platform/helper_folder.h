@@ -8,8 +8,9 @@
 
 namespace quelby {
 
-// The two files that the program shares with the charge-limit helper. The helper replaces status.json at any
-// time, so a text may be torn; whoever decodes it finds out.
+// The two files that the program shares with the charge-limit helper, and with its own kind: any of them may
+// replace config.json, and the helper status.json, at any time. So a text may be torn; whoever decodes it
+// finds out.
 class HelperFolder {
 public:
     virtual ~HelperFolder() = default;
@@ -17,6 +18,10 @@ public:
     // Nothing where there is no such file, or it cannot be read.
     [[nodiscard]] virtual std::optional<std::string> config() = 0;
     [[nodiscard]] virtual std::optional<std::string> status() = 0;
+
+    // Whether config.json is another file than config() saw last, judged by its time and size without opening
+    // it. True also after replaceConfig(), and as long as config() has not been called.
+    [[nodiscard]] virtual bool configChanged() = 0;
 
     // Makes the folder where it is missing. The problem names the folder that cannot be written to.
     [[nodiscard]] virtual Result<void> replaceConfig(std::string_view text) = 0;

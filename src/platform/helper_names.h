@@ -22,6 +22,7 @@ namespace linux_helper {
 
 inline constexpr std::string_view service = "com.quelby.limiter.service"; // for systemd
 inline constexpr std::string_view folder = "/var/lib/quelby";
+inline constexpr std::string_view stateFolder = "/var/lib/quelby-limiter"; // the helper's own
 inline constexpr std::string_view executable = "/usr/local/libexec/pwr_limiter";
 inline constexpr std::string_view unit = "/etc/systemd/system/com.quelby.limiter.service";
 

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "helper/json_record.h"
 #include "record_texts.h"
 
 namespace quelby {
@@ -62,6 +63,39 @@ TEST(DaemonConfig, IsEncodedCompactlyInTheOrderOfItsKeys) {
     EXPECT_EQ(encode(DaemonConfig{}),
               R"({"chargeLimitEnabled":false,"chargeLimitPercent":80,"calibrationEnabled":false,)"
               R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":0})");
+}
+
+TEST(DaemonConfig, TakesAWholeNumberHoweverItIsWritten) {
+    for (const auto* number : {"85.0", "8.5e1", "850e-1"}) {
+        EXPECT_EQ(decodeDaemonConfig(with(configText, "85", number)), configOfText) << number;
+    }
+    EXPECT_EQ(decodeDaemonConfig(with(configText, "14", "14.0")), configOfText);
+}
+
+TEST(DaemonConfig, KeepsTheOtherKeysOfTheTextThatItReplaces) {
+    const std::string others = R"("later":[{"deep":null}],"a \"word\"":"ä\n","share":0.25,"count":-3)";
+    const auto whole = configText.substr(0, configText.size() - 1) + ',' + others + '}';
+    EXPECT_EQ(encode(configOfText, whole), whole);
+    EXPECT_EQ(encode(configOfText, '{' + others + '}'), whole);
+    EXPECT_EQ(encode(configOfText, with(whole, "85", "60")), whole) << "its own are its own";
+    EXPECT_EQ(encode(configOfText, "{ " + with(others, "[{", "[ {") + " }"), whole);
+}
+
+TEST(DaemonConfig, KeepsNothingOfATextThatIsRefused) {
+    for (const auto* text : {"", "{\"x\":1", "[1]", R"({"x":1,"x":2})", R"({"x":1e999})"}) {
+        EXPECT_EQ(encode(configOfText, text), configText) << text;
+    }
+}
+
+TEST(DaemonConfig, KeepsNoMoreThanCanBeReadAgain) {
+    const auto withNote = [](std::size_t length) {
+        return configText.substr(0, configText.size() - 1) + R"(,"x":")" + std::string(length, 'x') + R"("})";
+    };
+    const auto longest = withNote(JsonRecord::longestText - withNote(0).size());
+    EXPECT_EQ(encode(configOfText, longest), longest);
+    auto later = configOfText;
+    later.chargeLimitPercent = 100;
+    EXPECT_EQ(encode(later, longest), with(configText, "85", "100"));
 }
 
 TEST(DaemonConfig, ComesBackFromItsTextWhateverItsNumbers) {

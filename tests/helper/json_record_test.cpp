@@ -54,16 +54,31 @@ TEST(JsonRecord, GivesNothingOfAnotherType) {
 TEST(JsonRecord, TellsIntegersFromOtherNumbers) {
     const auto record = JsonRecord::read(
         R"({"lowest": -9223372036854775808, "highest": 9223372036854775807, "above": 9223372036854775808,
-            "far": 18446744073709551616, "fraction": 80.0, "exponent": 8e1})");
+            "far": 18446744073709551616, "below": -9223372036854775809, "large": 9007199254740992.0,
+            "part": 80.5, "small": 1e-9})");
     ASSERT_TRUE(record);
     EXPECT_EQ(record->integer("lowest"), std::numeric_limits<std::int64_t>::min());
     EXPECT_EQ(record->integer("highest"), std::numeric_limits<std::int64_t>::max());
-    for (const auto* key : {"above", "far", "fraction", "exponent"}) {
+    for (const auto* key : {"above", "far", "below", "large", "part", "small"}) {
         EXPECT_EQ(record->integer(key), std::nullopt) << key;
         EXPECT_TRUE(record->number(key)) << key;
     }
     EXPECT_EQ(record->number("above"), 9223372036854775808.0);
-    EXPECT_EQ(record->number("exponent"), 80.0);
+    EXPECT_EQ(record->number("part"), 80.5);
+}
+
+TEST(JsonRecord, TakesAWholeNumberForAnIntegerHoweverItIsWritten) {
+    const auto record = JsonRecord::read(
+        R"({"fraction": 80.0, "exponent": 8e1, "shifted": -805e-1, "tens": -800e-1, "none": -0.0,
+            "largest": 9007199254740991.0})");
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->integer("fraction"), 80);
+    EXPECT_EQ(record->integer("exponent"), 80);
+    EXPECT_EQ(record->integer("shifted"), std::nullopt);
+    EXPECT_EQ(record->integer("tens"), -80);
+    EXPECT_EQ(record->integer("none"), 0);
+    EXPECT_EQ(record->integer("largest"), 9007199254740991);
+    EXPECT_EQ(record->number("fraction"), 80.0);
 }
 
 TEST(JsonRecord, TakesAMemberOfAMemberForNothingOfItsOwn) {

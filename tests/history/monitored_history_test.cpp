@@ -92,6 +92,23 @@ TEST_F(MonitoredHistory, IsShownAfterTheFirstCycleAndWhenARangeIsSelected) {
     EXPECT_EQ(monitor->historyAvg, 12.0);
 }
 
+TEST_F(MonitoredHistory, FillsWithEachCycleOfADemonstration) {
+    monitor = PowerMonitor::create(computer.platform(),
+                                   {.history = HistoryAccess::recording, .renewsShownHistory = true});
+    std::size_t pointsAtTheUpdate = 0;
+    monitor->onUpdate = [&] { pointsAtTheUpdate = monitor->historyData.get().size(); };
+    monitor->startMonitoring();
+    for (const std::size_t points : {2U, 3U, 4U}) {
+        cycle();
+        EXPECT_EQ(pointsAtTheUpdate, points);
+    }
+    EXPECT_DOUBLE_EQ(monitor->todayWh, 4 * 12 * 3.0 / 3600);
+    monitor->selectHistoryRange(TimeRange::oneHour);
+    cycle();
+    EXPECT_EQ(monitor->historyRange, TimeRange::oneHour);
+    EXPECT_EQ(monitor->historyData.get().size(), 5U);
+}
+
 TEST_F(MonitoredHistory, RenewsItsFieldsInOrder) {
     startMonitoring();
     EXPECT_THAT(

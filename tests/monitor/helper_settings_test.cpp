@@ -80,6 +80,68 @@ TEST_F(HelperSettings, AreWrittenWholeAtEveryChange) {
     EXPECT_EQ(computer.helper.writes, 4);
 }
 
+TEST_F(HelperSettings, AreReadAgainOnlyWhereTheFileChanged) {
+    computer.helper.configText = encode(DaemonConfig{});
+    monitor->startMonitoring();
+    cycle();
+    cycle();
+    EXPECT_EQ(computer.helper.reads, 1);
+    computer.helper.configText = encode(DaemonConfig{.chargeLimitEnabled = true,
+                                                     .chargeLimitPercent = 85,
+                                                     .calibrationEnabled = true,
+                                                     .calibrationIntervalDays = 7,
+                                                     .lastCalibrationTimestamp = 5});
+    computer.helper.statusText = helperHolds;
+    cycle();
+    EXPECT_TRUE(monitor->chargeLimitEnabled);
+    EXPECT_EQ(monitor->chargeLimitPercent, 85.0);
+    EXPECT_TRUE(monitor->calibrationEnabled);
+    EXPECT_EQ(monitor->calibrationIntervalDays, 7);
+    EXPECT_EQ(monitor->lastCalibrationDate.get(), 5.0);
+    EXPECT_EQ(monitor->chargeLimitStatus.get(), "Holding at 85%") << "in the same cycle";
+    cycle();
+    EXPECT_EQ(computer.helper.reads, 2);
+    EXPECT_EQ(computer.helper.writes, 0);
+}
+
+TEST_F(HelperSettings, StayWhereTheFileBecomesUnreadable) {
+    computer.helper.configText = encode(DaemonConfig{.chargeLimitEnabled = true, .chargeLimitPercent = 85});
+    monitor->startMonitoring();
+    for (const auto& text : {std::optional<std::string>(), std::optional<std::string>("{\"chargeLim")}) {
+        computer.helper.configText = text;
+        cycle();
+        EXPECT_TRUE(monitor->chargeLimitEnabled);
+        EXPECT_EQ(monitor->chargeLimitPercent, 85.0);
+    }
+    EXPECT_TRUE(monitor->setChargeLimit(90));
+    EXPECT_EQ(written(), (DaemonConfig{.chargeLimitEnabled = true, .chargeLimitPercent = 90}));
+}
+
+TEST_F(HelperSettings, ChangeOnlyWhatTheyAreAskedToInAFileOfSomebodyElse) {
+    monitor->startMonitoring();
+    computer.helper.configText =
+        R"({"note":"mine","chargeLimitPercent":90.0,"chargeLimitEnabled":true,"calibrationEnabled":false,)"
+        R"("calibrationIntervalDays":14,"lastCalibrationTimestamp":1700000000.5})";
+    EXPECT_TRUE(monitor->updateCalibrationSettings(true, 60));
+    EXPECT_EQ(computer.helper.configText,
+              R"({"chargeLimitEnabled":true,"chargeLimitPercent":90,"calibrationEnabled":true,)"
+              R"("calibrationIntervalDays":60,"lastCalibrationTimestamp":1700000000.5,"note":"mine"})");
+    EXPECT_EQ(monitor->chargeLimitPercent, 90.0);
+    EXPECT_EQ(monitor->lastCalibrationDate.get(), 1700000000.5);
+}
+
+TEST_F(HelperSettings, AreWrittenWithTheNextChangeWhereOneCouldNotBe) {
+    computer.helper.configText = encode(DaemonConfig{});
+    monitor->startMonitoring();
+    computer.helper.writable = false;
+    EXPECT_FALSE(monitor->setChargeLimit(90));
+    cycle();
+    EXPECT_EQ(monitor->chargeLimitPercent, 90.0) << "the file is as it was";
+    computer.helper.writable = true;
+    EXPECT_TRUE(monitor->toggleChargeLimit(true));
+    EXPECT_EQ(written(), (DaemonConfig{.chargeLimitEnabled = true, .chargeLimitPercent = 90}));
+}
+
 TEST_F(HelperSettings, RaiseTheChargingTipTheFirstTimeThatTheLimitIsSwitchedOn) {
     EXPECT_TRUE(monitor->toggleChargeLimit(false));
     EXPECT_FALSE(monitor->shouldShowChargingTip);

@@ -61,8 +61,15 @@ struct Helper final : HelperFolder {
     std::optional<std::string> statusText;
     bool writable = true;
     int writes = 0; // that were tried
+    int reads = 0;  // of the config
+    std::optional<std::string> lastRead;
 
-    std::optional<std::string> config() override { return configText; }
+    std::optional<std::string> config() override {
+        ++reads;
+        return lastRead = configText;
+    }
+
+    bool configChanged() override { return reads == 0 || lastRead != configText; }
 
     std::optional<std::string> status() override { return statusText; }
 

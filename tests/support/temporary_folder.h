@@ -15,8 +15,8 @@ namespace quelby {
 // An empty folder that goes with this object.
 class TemporaryFolder {
 public:
-    TemporaryFolder() {
-        std::string name = (std::filesystem::temp_directory_path() / "quelby-test-XXXXXX").string();
+    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+        std::string name = (parent / "quelby-test-XXXXXX").string();
         if (::mkdtemp(name.data()) == nullptr) {
             throw std::runtime_error("cannot make a temporary folder");
         }

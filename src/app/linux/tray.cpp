@@ -58,7 +58,8 @@ public:
         delegate = AppDelegate::create(platform_,
                                        {.interval = interval_,
                                         .history = historyAccess(lock),
-                                        .mayRecordNow = [&lock] { return lock.tryAgain(); }},
+                                        .mayRecordNow = [&lock] { return lock.tryAgain(); },
+                                        .renewsShownHistory = kind_ == MachineKind::recorded},
                                        desktop);
         delegate->applicationDidFinishLaunching();
         desktop.start();

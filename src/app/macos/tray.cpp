@@ -18,10 +18,11 @@ namespace quelby::app {
 namespace {
 
 // The lock outlives the monitor.
-MonitorOptions monitorOptions(Pace pace, RecorderLock& lock) {
+MonitorOptions monitorOptions(MachineKind kind, Pace pace, RecorderLock& lock) {
     return {.interval = std::chrono::seconds(pace == Pace::withoutWaiting ? 0 : 3),
             .history = historyAccess(lock),
-            .mayRecordNow = [&lock] { return lock.tryAgain(); }};
+            .mayRecordNow = [&lock] { return lock.tryAgain(); },
+            .renewsShownHistory = kind == MachineKind::recorded};
 }
 
 void runApplication(const Platform& platform, const MonitorOptions& options) {
@@ -43,7 +44,7 @@ Result<void> run(const MachineArguments& arguments) {
     }
     const auto platform = (*machine)->platform();
     RecorderLock lock(platform.folders->applicationSupport());
-    runApplication(platform, monitorOptions(arguments.pace, lock));
+    runApplication(platform, monitorOptions((*machine)->kind(), arguments.pace, lock));
     return {};
 }
 

@@ -8,6 +8,8 @@
 #include <fmt/ranges.h>
 
 #include "base/number_text.h"
+#include "base/utf8.h"
+#include "cli/arguments/nearest_word.h"
 #include "ui/presentation/cards/settings_panel.h"
 
 namespace quelby::cli {
@@ -107,13 +109,13 @@ CalibrationCommand parseCalibration(const std::string& text) {
     return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
 }
 
-HelperCommand parseHelper(const std::string& text) {
+HelperWish parseHelperWish(const std::string& text) {
     constexpr std::array names{std::pair("status", HelperWish::status),
                                std::pair("install", HelperWish::install),
                                std::pair("uninstall", HelperWish::uninstall)};
     for (const auto& [name, wish] : names) {
         if (text == name) {
-            return {wish};
+            return wish;
         }
     }
     throw CLI::ValidationError(fmt::format("helper takes status, install or uninstall, not \"{}\"", text));
@@ -173,8 +175,7 @@ struct Reading {
             fmt::format("The battery's calibration: show (unless named otherwise), on, off, or {} days",
                         oneOf(calibrationIntervals)),
             calibration, parseCalibration);
-        addSetting("helper", "The charge-limit helper: status (unless named otherwise), install or uninstall",
-                   helper, parseHelper);
+        addHelper();
     }
 
     // A command with one word behind it, which may be missing.
@@ -186,6 +187,23 @@ struct Reading {
                 "VALUE", [&setting, parse](const std::string& text) { setting = parse(text); }, "What to do")
             ->type_name("");
         command->final_callback([this, &setting] { request.command = setting; });
+    }
+
+    void addHelper() {
+        auto* const command = app.add_subcommand(
+            "helper", "The charge-limit helper: status (unless named otherwise), install or uninstall");
+        command
+            ->add_option_function<std::string>(
+                "VALUE", [this](const std::string& text) { helper.wish = parseHelperWish(text); },
+                "What to do")
+            ->type_name("");
+        addForm(*command, "--json", OutputForm::json, helper.form, "The status as one JSON object");
+        command->final_callback([this] {
+            if (helper.form == OutputForm::json && helper.wish != HelperWish::status) {
+                throw CLI::ValidationError("only the status of the helper is printed with --json");
+            }
+            request.command = helper;
+        });
     }
 
     void addStatus() {
@@ -259,12 +277,31 @@ struct Reading {
     }
 };
 
+// The word that stands where a command should, if no command was found.
+std::optional<std::string> unknownCommand(const CLI::App& app) {
+    const auto left = app.remaining();
+    const auto word = std::find_if(left.begin(), left.end(),
+                                   [](const std::string& text) { return !text.starts_with('-'); });
+    return app.get_subcommands().empty() && word != left.end() ? std::optional(*word) : std::nullopt;
+}
+
+std::string unknownCommandText(const CLI::App& app, const std::string& word) {
+    const auto commands = app.get_subcommands([](const CLI::App*) { return true; });
+    std::vector<std::string> names;
+    std::transform(commands.begin(), commands.end(), std::back_inserter(names),
+                   [](const CLI::App* command) { return command->get_name(); });
+    return fmt::format(R"(there is no command "{}"; the nearest is "{}")", printable(word),
+                       nearestWord(word, {names.begin(), names.end()}));
+}
+
 } // namespace
 
 std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv) {
     Reading reading;
     if (auto answer = parseArguments(reading.app, reading.request.arguments, argc, argv)) {
-        return *std::move(answer);
+        const auto unknown = answer->exitStatus == 0 ? std::nullopt : unknownCommand(reading.app);
+        return unknown ? wrongUsage(reading.app, unknownCommandText(reading.app, *unknown))
+                       : *std::move(answer);
     }
     return reading.request;
 }

@@ -68,6 +68,7 @@ enum class HelperWish { status, install, uninstall };
 
 struct HelperCommand {
     HelperWish wish = HelperWish::status;
+    OutputForm form = OutputForm::text; // of the status
 };
 
 using Command = std::variant<StatusCommand, WatchCommand, DashboardCommand, RecordCommand, HistoryCommand,

@@ -3,14 +3,26 @@
 #include <fmt/format.h>
 
 #include "cli/commands/cycle_run.h"
+#include "cli/output/helper_state.h"
 #include "console/standard_output.h"
+#include "helper/json_record.h"
 #include "platform/helper_names.h"
+#include "platform/posix/shared_file.h"
 
 namespace quelby::cli {
 
 namespace {
 
-Result<void> printState(const PowerMonitor& monitor) {
+Result<void> printState(const Platform& platform, OutputForm form) {
+    const HelperState state{
+        .isLoaded = platform.helperInstaller->isLoaded(),
+        .status = platform.helperFolder->status(),
+        .details = readSharedFile(platform.folders->helper() / "details.json", JsonRecord::longestText)};
+    return writeToStandardOutput(form == OutputForm::json ? helperStateAsJson(state)
+                                                          : helperStateAsText(state));
+}
+
+Result<void> printChange(const PowerMonitor& monitor) {
     return writeToStandardOutput(monitor.daemonInstalled ? "the helper is installed and running\n"
                                                          : "the helper is not installed\n");
 }
@@ -30,18 +42,18 @@ Result<void> runHelper(Machine& machine, const HelperCommand& command) {
     const bool install = command.wish == HelperWish::install;
     const auto change = [&](PowerMonitor& monitor) -> Result<void> {
         if (command.wish == HelperWish::status) {
-            return {};
+            return printState(platform, command.form);
         }
         if (install && isMissing(machine, *platform.folders)) {
             return problem(
                 fmt::format("cannot install the helper: its program \"{}\" did not come with this one",
                             helperExecutableName));
         }
-        return install ? monitor.installDaemon() : monitor.uninstallDaemon();
+        return (install ? monitor.installDaemon() : monitor.uninstallDaemon()).and_then([&] {
+            return printChange(monitor);
+        });
     };
-    return runCycles(machine, platform, untilTheEnd(machine, [&](PowerMonitor& monitor) {
-                         return change(monitor).and_then([&] { return printState(monitor); });
-                     }));
+    return runCycles(machine, platform, untilTheEnd(machine, change));
 }
 
 } // namespace quelby::cli

@@ -8,6 +8,8 @@
 #include "base/utf8.h"
 #include "cli/commands/cycle_run.h"
 #include "console/standard_output.h"
+#include "monitor/preference_keys.h"
+#include "ui/presentation/cards/dialogs.h"
 
 namespace quelby::cli {
 
@@ -59,12 +61,29 @@ Result<void> changeAndPrint(Machine& machine, const Change& change, Describe des
                      }));
 }
 
+// The tip comes only once, so it is shown where it is raised. A limit that could not be switched on leaves it
+// to the next time.
+Result<void> switchLimit(PowerMonitor& monitor, Preferences& preferences, bool enabled) {
+    auto told = monitor.toggleChargeLimit(enabled);
+    if (!monitor.shouldShowChargingTip) {
+        return told;
+    }
+    if (told) {
+        writeToStandardError(fmt::format("{}\n", chargingTip(systemWords()).message));
+    } else {
+        preferences.remove(preference_keys::hasShownChargingTip);
+    }
+    return told;
+}
+
 } // namespace
 
 Result<void> runLimit(Machine& machine, const LimitCommand& command) {
     Change change = leaveAsItIs;
     if (command.enable) {
-        change = [&](PowerMonitor& monitor) { return monitor.toggleChargeLimit(*command.enable); };
+        change = [&](PowerMonitor& monitor) {
+            return switchLimit(monitor, *machine.platform().preferences, *command.enable);
+        };
     } else if (command.percent) {
         change = [&](PowerMonitor& monitor) {
             return monitor.setChargeLimit(static_cast<double>(*command.percent));

@@ -76,8 +76,13 @@ public:
         : machine_(machine), files_(std::move(folder)) {}
 
     [[nodiscard]] std::optional<std::string> config() override {
+        recordedConfig_ = machine_.helperConfig();
         const auto present = files_.config();
-        return present ? present : machine_.helperConfig();
+        return present ? present : recordedConfig_;
+    }
+
+    [[nodiscard]] bool configChanged() override {
+        return files_.configChanged() || machine_.helperConfig() != recordedConfig_;
     }
 
     [[nodiscard]] std::optional<std::string> status() override {
@@ -91,6 +96,7 @@ public:
 private:
     const ReplayedMachine& machine_;
     HelperFiles files_;
+    std::optional<std::string> recordedConfig_; // of the line that was looked at last
 };
 
 class NoLoginItem final : public LoginItem {

@@ -31,7 +31,7 @@ std::string linuxInstallScript(const fs::path& resourceFolder, const fs::path& r
                        " && chmod 755 {executable} && chmod 777 {folder} && cat > {unit} << 'UNIT'\n"
                        "{content}"
                        "UNIT\n"
-                       "systemctl daemon-reload && systemctl enable --now {service}",
+                       "systemctl daemon-reload && systemctl enable {service} && systemctl restart {service}",
                        fmt::arg("executableFolder", quoted(executable.parent_path())),
                        fmt::arg("folder", quoted(below(root, linux_helper::folder))),
                        fmt::arg("source", quoted(resourceFolder / helperExecutableName)),
@@ -41,11 +41,15 @@ std::string linuxInstallScript(const fs::path& resourceFolder, const fs::path& r
 }
 
 std::string linuxUninstallScript(const fs::path& root) {
-    return fmt::format(
-        "systemctl disable --now {} 2>/dev/null; rm -f {}; systemctl daemon-reload 2>/dev/null;"
-        " rm -f {}; rm -rf {}",
-        linux_helper::service, quoted(below(root, linux_helper::unit)),
-        quoted(below(root, linux_helper::executable)), quoted(below(root, linux_helper::folder)));
+    // The levels come back before anything is removed, and once nobody sets them again.
+    return fmt::format("systemctl disable --now {service} 2>/dev/null; {executable} --restore 2>/dev/null;"
+                       " rm -f {unit}; systemctl daemon-reload 2>/dev/null;"
+                       " rm -f {executable}; rm -rf {state}; rm -rf {folder}",
+                       fmt::arg("service", linux_helper::service),
+                       fmt::arg("executable", quoted(below(root, linux_helper::executable))),
+                       fmt::arg("unit", quoted(below(root, linux_helper::unit))),
+                       fmt::arg("state", quoted(below(root, linux_helper::stateFolder))),
+                       fmt::arg("folder", quoted(below(root, linux_helper::folder))));
 }
 
 std::string linuxFullUninstallScript(const fs::path& program, const fs::path& root) {

@@ -12,12 +12,12 @@ namespace quelby {
 
 // Copies the helper from the program's resources, opens its folder to everybody and has systemd start it, now
 // and at every boot, which is tried also after one of these failed, and whose exit status is the script's. A
-// helper that is running already keeps running as it is.
+// helper that is running already gives way to the new one.
 [[nodiscard]] std::string linuxInstallScript(const std::filesystem::path& resourceFolder,
                                              const std::filesystem::path& root = "/");
 
-// Stops the helper and removes all that installing made, each part whatever became of the others. The exit
-// status is that of removing the helper's folder.
+// Stops the helper, has it put back what it found, and removes all that installing made, each part whatever
+// became of the others. The exit status is that of removing the helper's folder.
 [[nodiscard]] std::string linuxUninstallScript(const std::filesystem::path& root = "/");
 
 // The same, and then the program itself, a file or a folder, whose removal decides about the exit status.

@@ -6,12 +6,22 @@
 
 namespace quelby {
 
-bool runWithPkexec(const std::string& script) {
-    std::vector<std::string> words{"/bin/sh", "-c", script};
-    if (::geteuid() != 0) {
-        words.insert(words.begin(), "pkexec");
+std::vector<std::string> pkexecWords(const std::string& script, bool isRoot,
+                                     const std::filesystem::path& root) {
+    const std::filesystem::path action = "usr/share/polkit-1/actions/com.quelby.limiter.policy";
+    const std::filesystem::path program = "usr/libexec/quelby/run_as_root";
+    std::error_code ignored;
+    if (isRoot) {
+        return {"/bin/sh", "-c", script};
     }
-    return runToTheEnd(words) == 0;
+    if (std::filesystem::exists(root / action, ignored) && std::filesystem::exists(root / program, ignored)) {
+        return {"pkexec", root / program, script};
+    }
+    return {"pkexec", "/bin/sh", "-c", script};
+}
+
+bool runWithPkexec(const std::string& script) {
+    return runToTheEnd(pkexecWords(script, ::geteuid() == 0)) == 0;
 }
 
 } // namespace quelby

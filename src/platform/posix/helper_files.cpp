@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include "platform/posix/shared_file.h"
-
 namespace quelby {
 
 namespace {
@@ -22,7 +20,12 @@ void makeOpenFolder(const fs::path& folder) {
 } // namespace
 
 std::optional<std::string> HelperFiles::config() {
+    configSeen_ = stateOf(configFile()); // first: what is written while it is read is read again
     return readSharedFile(configFile(), longestText);
+}
+
+bool HelperFiles::configChanged() {
+    return configSeen_ != stateOf(configFile());
 }
 
 std::optional<std::string> HelperFiles::status() {

@@ -1,15 +1,17 @@
 // The folder through which this program and the charge-limit helper talk, any number of users with one helper
 // that runs as root:
 //
-//   config.json   what the helper is to do; written by this program
+//   config.json   what the helper is to do; written by this program, of which several may run
 //   status.json   what it is doing; written by the helper alone
 //
 // Nobody locks anything. Whoever reads a file that is not whole passes over it, and reads again in time.
+// Whoever changes config.json reads it just before, and leaves what it was not asked to change.
 #pragma once
 
 #include <filesystem>
 
 #include "platform/helper_folder.h"
+#include "platform/posix/shared_file.h"
 
 namespace quelby {
 
@@ -21,6 +23,9 @@ public:
     [[nodiscard]] std::optional<std::string> config() override;
     [[nodiscard]] std::optional<std::string> status() override;
 
+    // One `stat`.
+    [[nodiscard]] bool configChanged() override;
+
     // A folder that it makes is open to everybody, and so is the file, whatever the process's umask.
     [[nodiscard]] Result<void> replaceConfig(std::string_view text) override;
 
@@ -28,6 +33,7 @@ private:
     [[nodiscard]] std::filesystem::path configFile() const { return folder_ / "config.json"; }
 
     std::filesystem::path folder_;
+    std::optional<FileState> configSeen_; // none before the first look
 };
 
 } // namespace quelby

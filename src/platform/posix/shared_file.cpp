@@ -26,6 +26,16 @@ FileDescriptor openRegular(const std::filesystem::path& file, int access) {
     return isRegular ? std::move(opened) : FileDescriptor();
 }
 
+// The systems have another name each for the same member.
+template <typename Status>
+timespec lastChange(const Status& status) {
+    if constexpr (requires { status.st_mtimespec; }) {
+        return status.st_mtimespec;
+    } else {
+        return status.st_mtim;
+    }
+}
+
 // Cut only after it is written: on a full disk the old content stays.
 bool rewriteInPlace(const std::filesystem::path& file, std::string_view text) {
     const auto opened = openRegular(file, O_WRONLY | O_NOFOLLOW);
@@ -38,6 +48,19 @@ bool rewriteInPlace(const std::filesystem::path& file, std::string_view text) {
 }
 
 } // namespace
+
+FileState stateOf(const std::filesystem::path& file) {
+    struct stat status {};
+
+    if (::stat(file.c_str(), &status) != 0) {
+        return {};
+    }
+    const auto changed = lastChange(status);
+    return {.identity = status.st_ino,
+            .size = status.st_size,
+            .seconds = changed.tv_sec,
+            .nanoseconds = changed.tv_nsec};
+}
 
 std::optional<std::string> readSharedFile(const std::filesystem::path& file, std::size_t longest) {
     const auto opened = openRegular(file, O_RDONLY);

@@ -7,7 +7,22 @@
 #include <string>
 #include <string_view>
 
+#include <sys/types.h>
+
 namespace quelby {
+
+// What tells a file from the one that lay in its place before, and from itself before it was rewritten.
+struct FileState {
+    ino_t identity = 0; // of the file system; a file that takes another's place has its own
+    off_t size = 0;     // bytes
+    time_t seconds = 0; // of the last change of its content, with the nanoseconds
+    long nanoseconds = 0;
+
+    bool operator==(const FileState&) const = default;
+};
+
+// Of the file that a symbolic link leads to, too. All zero where there is none. Costs one `stat`.
+[[nodiscard]] FileState stateOf(const std::filesystem::path& file);
 
 // The whole content of a regular file, or of one that a symbolic link leads to. Nothing where there is none,
 // where it cannot be read, and where it is longer (in bytes). Never waits, whatever lies there. A file that

@@ -41,6 +41,8 @@ private:
     std::optional<std::string> config() override;
     std::optional<std::string> status() override;
 
+    bool configChanged() override { return real_.helperFolder->configChanged(); }
+
     Result<void> replaceConfig(std::string_view text) override {
         return real_.helperFolder->replaceConfig(text);
     }
@@ -57,7 +59,7 @@ private:
 
     Platform real_;
     RecordedCycle cycle_;
-    // As they were told last, mostly at the start, which holds for every cycle from then on.
+    // As they were told last, which holds for every cycle until they are asked for again.
     bool helperLoaded_ = false;
     std::optional<std::string> config_;
 };

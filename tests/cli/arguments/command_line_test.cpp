@@ -11,6 +11,7 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 std::variant<Request, Answer> parse(std::vector<const char*> words) {
@@ -103,6 +104,21 @@ TEST(CommandLine, RefusesWrongUsageWithOneSentence) {
     }
     EXPECT_THAT(answer({"watch", "--count", "-1"}).text,
                 HasSubstr("--count takes a whole number of 1 or more, not \"-1\""));
+}
+
+TEST(CommandLine, NamesACommandThatDoesNotExistAndTheNearestThatDoes) {
+    const std::string more = " (quelbyctl --help tells more)\n";
+    EXPECT_EQ(answer({"statsu"}).text,
+              R"(quelbyctl: there is no command "statsu"; the nearest is "status")" + more);
+    EXPECT_THAT(answer({"foo"}).text, HasSubstr(R"(there is no command "foo"; the nearest is ")"));
+    for (const auto& words : {std::vector{"hist", "--json"}, std::vector{"--data-dir", "d", "hist"},
+                              std::vector{"--jsn", "hist", "x"}, std::vector{"hist", "--data-dir"}}) {
+        EXPECT_THAT(answer(words).text, HasSubstr(R"("hist"; the nearest is "history")"));
+    }
+    EXPECT_THAT(answer({"\x1b[2J"}).text, Not(HasSubstr("\x1b")));
+    EXPECT_THAT(answer({"status", "foo"}).text, HasSubstr("foo"));
+    EXPECT_THAT(answer({"--bogus"}).text, Not(HasSubstr("there is no command")));
+    EXPECT_EQ(answer({"foo", "--help"}).exitStatus, 0);
 }
 
 TEST(CommandLine, AnswersHelpAndVersionEverywhere) {

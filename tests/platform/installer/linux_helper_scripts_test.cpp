@@ -29,7 +29,8 @@ protected:
         const auto path = (folder.path() / "bin").string() + ':' + std::getenv("PATH");
         return runProgram({"/bin/sh", "-c", script}, {{"PATH", path},
                                                       {"SYSTEMCTL_CALLS", folder.path() / "calls"},
-                                                      {"SYSTEMCTL_STATUS", std::to_string(systemctlStatus)}});
+                                                      {"SYSTEMCTL_STATUS", std::to_string(systemctlStatus)},
+                                                      {"TEST_ROOT", root}});
     }
 
     [[nodiscard]] ProgramResult install() const { return run(linuxInstallScript(resources, root)); }
@@ -43,11 +44,13 @@ protected:
     fs::path root = folder.path() / "it's \"a\" $HOME `root`;\\\n\t*";
     fs::path resources = folder.path() / "what's within";
     fs::path shared = root / "var/lib/quelby";
+    fs::path own = root / "var/lib/quelby-limiter";
     fs::path executable = root / "usr/local/libexec/pwr_limiter";
     fs::path unit = root / "etc/systemd/system/com.quelby.limiter.service";
 };
 
-const std::string installCalls = "daemon-reload\nenable --now com.quelby.limiter.service\n";
+const std::string installCalls =
+    "daemon-reload\nenable com.quelby.limiter.service\nrestart com.quelby.limiter.service\n";
 const std::string uninstallCalls = "disable --now com.quelby.limiter.service\ndaemon-reload\n";
 
 TEST(LinuxHelperScripts, UseTheSystemsOwnPaths) {
@@ -59,12 +62,15 @@ TEST(LinuxHelperScripts, UseTheSystemsOwnPaths) {
               "cat > '/etc/systemd/system/com.quelby.limiter.service' << 'UNIT'\n" +
                   systemdUnit() +
                   "UNIT\n"
-                  "systemctl daemon-reload && systemctl enable --now com.quelby.limiter.service");
+                  "systemctl daemon-reload && systemctl enable com.quelby.limiter.service && "
+                  "systemctl restart com.quelby.limiter.service");
     EXPECT_EQ(linuxFullUninstallScript("/opt/quelby"),
               "systemctl disable --now com.quelby.limiter.service 2>/dev/null; "
+              "'/usr/local/libexec/pwr_limiter' --restore 2>/dev/null; "
               "rm -f '/etc/systemd/system/com.quelby.limiter.service'; "
               "systemctl daemon-reload 2>/dev/null; "
-              "rm -f '/usr/local/libexec/pwr_limiter'; rm -rf '/var/lib/quelby'; rm -rf '/opt/quelby'");
+              "rm -f '/usr/local/libexec/pwr_limiter'; rm -rf '/var/lib/quelby-limiter'; "
+              "rm -rf '/var/lib/quelby'; rm -rf '/opt/quelby'");
     EXPECT_EQ(linuxFullUninstallScript("/opt/quelby"), linuxUninstallScript() + "; rm -rf '/opt/quelby'");
 }
 
@@ -148,6 +154,25 @@ TEST_F(LinuxHelperScriptsTest, UninstallWhatWasInstalledAndNothingElse) {
     EXPECT_TRUE(fs::exists(neighbour));
     EXPECT_TRUE(fs::exists(resources / "pwr_limiter"));
     EXPECT_EQ(folder.read("calls"), uninstallCalls);
+}
+
+TEST_F(LinuxHelperScriptsTest, HaveTheHelperPutBackWhatItFoundOnceItIsStoppedAndBeforeAnythingIsGone) {
+    folder.write(resources.filename() / "pwr_limiter",
+                 "#!/bin/sh\n"
+                 "printf 'pwr_limiter %s, ' \"$*\" >>\"$SYSTEMCTL_CALLS\"\n"
+                 "for path in /usr/local/libexec/pwr_limiter /var/lib/quelby /var/lib/quelby-limiter; do\n"
+                 "    [ -e \"$TEST_ROOT$path\" ] && printf 'with %s ' \"$path\" >>\"$SYSTEMCTL_CALLS\"\n"
+                 "done\n"
+                 "echo >>\"$SYSTEMCTL_CALLS\"\n");
+    ASSERT_EQ(install().exitStatus, 0);
+    fs::create_directory(own);
+    fs::remove(folder.path() / "calls");
+    EXPECT_EQ(run(linuxUninstallScript(root)).exitStatus, 0);
+    EXPECT_EQ(folder.read("calls"), "disable --now com.quelby.limiter.service\n"
+                                    "pwr_limiter --restore, with /usr/local/libexec/pwr_limiter "
+                                    "with /var/lib/quelby with /var/lib/quelby-limiter \n"
+                                    "daemon-reload\n");
+    EXPECT_FALSE(fs::exists(own));
 }
 
 TEST_F(LinuxHelperScriptsTest, UninstallTheRestWhereTheServiceCannotBeStopped) {

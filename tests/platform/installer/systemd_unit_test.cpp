@@ -1,5 +1,7 @@
 #include "platform/installer/systemd_unit.h"
 
+#include <iostream>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -21,9 +23,14 @@ std::string withLine(const std::string& text, const std::string& beginning, cons
 }
 
 // systemd wants to see the executable where the unit says, so another one stands in for it.
+std::string runnable(const std::string& unit) {
+    return withLine(withLine(unit, "ExecStart=", "ExecStart=/bin/sh"),
+                    "ExecStopPost=", "ExecStopPost=/bin/sh");
+}
+
 ProgramResult verified(const std::string& unit) {
     const TemporaryFolder folder;
-    const auto file = folder.write(linux_helper::service, withLine(unit, "ExecStart=", "ExecStart=/bin/sh"));
+    const auto file = folder.write(linux_helper::service, runnable(unit));
     return runProgram(
         {"/usr/bin/env", "systemd-analyze", "verify", "--man=no", "--recursive-errors=no", file});
 }
@@ -43,11 +50,29 @@ TEST(SystemdUnit, StartsTheInstalledHelperAtBootAndWheneverItExits) {
     EXPECT_THAT(unit, HasSubstr("\nStartLimitIntervalSec=0\n"));
 }
 
+TEST(SystemdUnit, ReleasesChargingAfterAnyEnd) {
+    EXPECT_THAT(systemdUnit(), HasSubstr("\nExecStopPost=/usr/local/libexec/pwr_limiter --release\n"));
+}
+
+// What keeps it from less: the helper is root (0.4), /sys has to be writable (0.2), and it listens to the
+// kernel and speaks to the service manager (0.2).
+TEST(SystemdUnit, IsExposedAsLittleAsItsTaskAllows) {
+    const TemporaryFolder folder;
+    const auto file = folder.write(linux_helper::service, runnable(systemdUnit()));
+    const auto checked = runProgram({"/usr/bin/env", "systemd-analyze", "security", "--offline=true",
+                                     "--no-pager", "--threshold=10", file}); // tenths
+    EXPECT_EQ(checked.exitStatus, 0) << checked.output << checked.errors;
+    const auto verdict = checked.output.find("Overall exposure level");
+    ASSERT_NE(verdict, std::string::npos);
+    std::cout << checked.output.substr(verdict);
+}
+
 TEST(SystemdUnit, LeavesOnlyTheHelpersFolderAndTheBatteriesWritable) {
     const auto unit = systemdUnit();
     EXPECT_THAT(unit, HasSubstr("\nProtectSystem=strict\n"));
-    EXPECT_THAT(unit, HasSubstr("\nStateDirectory=quelby\nStateDirectoryMode=0777\n"));
+    EXPECT_THAT(unit, HasSubstr("\nStateDirectory=quelby quelby-limiter\nStateDirectoryMode=0700\n"));
     EXPECT_EQ(linux_helper::folder, "/var/lib/quelby");
+    EXPECT_EQ(linux_helper::stateFolder, "/var/lib/quelby-limiter");
     EXPECT_THAT(unit, Not(HasSubstr("ReadWritePaths")));
     EXPECT_THAT(unit, Not(HasSubstr("ProtectKernelTunables"))); // would make /sys read-only
     EXPECT_THAT(unit, HasSubstr("\nCapabilityBoundingSet=\n"));

@@ -73,6 +73,45 @@ TEST_F(HelperFilesTest, GiveNothingLongerThanARecord) {
     EXPECT_EQ(files.status(), std::nullopt);
 }
 
+TEST_F(HelperFilesTest, TellAConfigThatChangedSinceItWasRead) {
+    EXPECT_TRUE(files.configChanged()) << "it was not looked at";
+    EXPECT_EQ(files.config(), std::nullopt);
+    EXPECT_FALSE(files.configChanged());
+    folder.write("config.json", "text");
+    EXPECT_TRUE(files.configChanged());
+    EXPECT_TRUE(files.configChanged()) << "until it is read";
+    EXPECT_EQ(files.config(), "text");
+    EXPECT_FALSE(files.configChanged());
+    EXPECT_TRUE(HelperFiles(folder.path()).replaceConfig("news")); // as long
+    EXPECT_TRUE(files.configChanged());
+    EXPECT_EQ(files.config(), "news");
+    EXPECT_TRUE(files.replaceConfig("mine"));
+    EXPECT_TRUE(files.configChanged());
+    EXPECT_EQ(files.config(), "mine");
+    fs::remove(config);
+    EXPECT_TRUE(files.configChanged());
+}
+
+TEST_F(HelperFilesTest, TellAConfigThatWasRewrittenInPlaceByItsTimeAndItsSize) {
+    folder.write("config.json", "text");
+    fs::last_write_time(config, fs::file_time_type(std::chrono::seconds(1)));
+    EXPECT_EQ(files.config(), "text");
+    folder.write("config.json", "longer text");
+    fs::last_write_time(config, fs::file_time_type(std::chrono::seconds(1)));
+    EXPECT_TRUE(files.configChanged());
+    EXPECT_EQ(files.config(), "longer text");
+    fs::last_write_time(config, fs::file_time_type(std::chrono::nanoseconds(1'000'000'001)));
+    EXPECT_TRUE(files.configChanged());
+}
+
+TEST_F(HelperFilesTest, TellAConfigThatChangedBehindALink) {
+    folder.write("elsewhere", "text");
+    fs::create_symlink("elsewhere", config);
+    EXPECT_EQ(files.config(), "text");
+    folder.write("elsewhere", "longer text");
+    EXPECT_TRUE(files.configChanged());
+}
+
 TEST_F(HelperFilesTest, GiveNothingThatMayNotBeRead) {
     folder.write("status.json", "secret");
     fs::permissions(folder.path() / "status.json", fs::perms(0));

@@ -40,6 +40,9 @@ TEST(MachineRecorder, NotesTheHelpersSettingsWithEveryCycle) {
     EXPECT_EQ(recorder.takeCycle().config, "{}");
     computer.runLoop.fireTimers();
     EXPECT_EQ(recorder.takeCycle().config, "{}") << "asked for at the start only";
+    computer.helper.configText = R"({"another": 1})";
+    computer.runLoop.fireTimers();
+    EXPECT_EQ(recorder.takeCycle().config, R"({"another": 1})");
 }
 
 TEST(MachineRecorder, NotesNoDrawWhereNothingWasDrawn) {
