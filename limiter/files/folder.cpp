@@ -173,11 +173,13 @@ void Folder::discard(const Displaced& displaced) const {
 }
 
 std::vector<std::string> Folder::leftoverNames() const {
-    constexpr int mostEntries = 4096; // a full folder must not keep the helper from its work
+    // A full folder must not keep the helper from its work; a sudden end leaves two.
+    constexpr int mostEntries = 4096;
+    constexpr std::size_t mostNames = 64;
     std::vector<std::string> names;
     const int again = ::openat(directory_.number(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(again < 0 ? nullptr : ::fdopendir(again), ::closedir);
-    for (int count = 0; entries && count < mostEntries; ++count) {
+    for (int count = 0; entries && count < mostEntries && names.size() < mostNames; ++count) {
         const auto* const entry = ::readdir(entries.get());
         if (entry == nullptr) {
             break;
@@ -190,10 +192,9 @@ std::vector<std::string> Folder::leftoverNames() const {
 }
 
 std::vector<std::string> Folder::leftovers() const {
-    constexpr std::size_t most = 8; // one sudden end leaves two
     std::vector<std::string> contents;
     for (const auto& name : leftoverNames()) {
-        if (auto content = read(name.c_str()); content && contents.size() < most) {
+        if (auto content = read(name.c_str())) {
             contents.push_back(std::move(*content));
         }
     }

@@ -87,7 +87,7 @@ bool makeUnreadableFiles(const fs::path& folder, const fs::path&) {
 
 bool makeManyFiles(const fs::path& folder, const fs::path&) {
     bool made = true;
-    for (int count = 0; count < 5000; ++count) {
+    for (int count = 0; count < 1000; ++count) {
         const auto name = folder / (".pwr_limiter-" + std::to_string(count));
         made = made && FileDescriptor(::open(name.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666)).isOpen();
     }
