@@ -28,7 +28,7 @@ TEST(Pkexec, AsksForItsOwnProgramWhereTheActionThatNamesItIsInstalled) {
     EXPECT_THAT(pkexecWords("true", false, root.path()), ElementsAre("pkexec", "/bin/sh", "-c", "true"));
     root.write("usr/share/polkit-1/actions/com.quelby.limiter.policy", "");
     EXPECT_THAT(pkexecWords("true", false, root.path()),
-                ElementsAre("pkexec", root.path() / "usr/libexec/quelby/run_as_root", "true"));
+                ElementsAre("pkexec", (root.path() / "usr/libexec/quelby/run_as_root").string(), "true"));
     EXPECT_THAT(pkexecWords("true", true, root.path()), ElementsAre("/bin/sh", "-c", "true"));
 }
 
