@@ -9,7 +9,8 @@ public:
 
     [[nodiscard]] virtual bool isShown() const = 0;
 
-    // At the status item, in front of everything else, and with the keyboard.
+    // At the status item, in front of everything else, and with the keyboard. Shows the cards where the
+    // dashboard is made for it, and otherwise what it showed last.
     virtual void show() = 0;
 
     // Shows it the same way, with the settings in place of the cards.

@@ -90,7 +90,7 @@ void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
 bool LinuxDesktop::itemPressed(std::optional<QPoint> where) {
     const auto place = where ? where : pointer();
     popover_->setItemPlace(place);
-    return !popover_->closedByThisPress(place);
+    return !popover_->wasClosedByThisPress(place);
 }
 
 void LinuxDesktop::itemShown(bool shown) {

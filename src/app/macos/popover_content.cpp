@@ -32,7 +32,6 @@ void PopoverContent::open(Appearance appearance) {
         make(appearance);
     }
     setAppearance(appearance);
-    view_->showSettings(false);
     view_->setWatched(true);
     view_->item().forceActiveFocus();
     show();

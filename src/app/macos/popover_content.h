@@ -19,7 +19,7 @@ public:
     PopoverContent(ModelMaker makeModel, std::function<void()> leave);
     ~PopoverContent() override;
 
-    // Shows the cards.
+    // Shows the cards the first time, and later what was shown last.
     void open(Appearance appearance);
 
     // Only while it is open.

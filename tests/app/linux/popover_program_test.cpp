@@ -3,7 +3,6 @@
 #include <fstream>
 
 #include <QDBusVariant>
-#include <QElapsedTimer>
 #include <gmock/gmock.h>
 
 #include "app/linux/session/dbus_types.h"
@@ -84,15 +83,13 @@ TEST_F(PopoverProgram, ClosesWithAPressElsewhere) {
 }
 
 // The popover sees the press before the host of the item hands it on.
-TEST_F(PopoverProgram, DoesNotOpenAgainWithThePressThatClosedIt) {
+TEST_F(PopoverProgram, DoesNotOpenAgainWithThePressThatClosedItButWithTheNext) {
     pressItem(place);
     static_cast<void>(opened());
     screen->press(place);
     EXPECT_TRUE(closed());
-    pressItem(place);
-    QElapsedTimer sincePress;
-    sincePress.start();
-    EXPECT_TRUE(eventually([&] { return sincePress.hasExpired(600); })); // longer than one press takes
+    pressItem(place); // the same press, by way of the host
+    screen->press(place);
     pressItem(place); // this one would close it, had the one before opened it
     static_cast<void>(opened());
     expectCleanEnd();

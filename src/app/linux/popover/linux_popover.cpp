@@ -14,10 +14,6 @@ using namespace std::chrono_literals;
 
 constexpr auto keptAfterClosing = 60s;
 
-// A press that closes the popover from outside reaches the item afterwards; hosts take their time.
-constexpr qint64 samePressMilliseconds = 500;
-constexpr int samePressPixels = 32;
-
 } // namespace
 
 LinuxPopover::LinuxPopover(PopoverParts parts) : parts_(std::move(parts)) {
@@ -45,8 +41,7 @@ bool LinuxPopover::make() {
                                    {.left = [this] { close(); },
                                     .pressedOutside =
                                         [this](QPoint where) {
-                                            closingPress_ = where;
-                                            sinceClosingPress_.start();
+                                            closingPress_.happened(where, std::chrono::steady_clock::now());
                                             close();
                                         },
                                     .closedByFrame =
@@ -100,11 +95,8 @@ void LinuxPopover::close() {
     }
 }
 
-bool LinuxPopover::closedByThisPress(std::optional<QPoint> place) const {
-    if (!closingPress_ || sinceClosingPress_.elapsed() > samePressMilliseconds) {
-        return false;
-    }
-    return !place || (*place - *closingPress_).manhattanLength() <= samePressPixels;
+bool LinuxPopover::wasClosedByThisPress(std::optional<QPoint> place) {
+    return closingPress_.isThePressOfTheItem(place, std::chrono::steady_clock::now());
 }
 
 void LinuxPopover::appearanceChanged() {

@@ -3,9 +3,9 @@
 #include <memory>
 #include <optional>
 
-#include <QElapsedTimer>
 #include <QTimer>
 
+#include "app/linux/popover/closing_press.h"
 #include "app/linux/popover/quick_library.h"
 
 namespace quelby::app {
@@ -29,8 +29,9 @@ public:
 
     void setForm(PopoverForm form);
 
-    // Whether the press that closed the popover is the one that now asks to open it again.
-    [[nodiscard]] bool closedByThisPress(std::optional<QPoint> place) const;
+    // Whether the press of the item, told of now, is the one that has already closed the popover from
+    // outside. To be asked once for each press.
+    [[nodiscard]] bool wasClosedByThisPress(std::optional<QPoint> place);
 
     // The desktop likes its programs otherwise now.
     void appearanceChanged();
@@ -44,8 +45,7 @@ private:
     PopoverParts parts_;
     PopoverForm form_ = PopoverForm::atTheItem;
     std::optional<QPoint> itemPlace_;
-    std::optional<QPoint> closingPress_;
-    QElapsedTimer sinceClosingPress_;
+    ClosingPress closingPress_;
     std::unique_ptr<QuickLibrary> library_;   // none before the first showing
     std::unique_ptr<DashboardWindow> window_; // none while it is not needed
     QTimer givingBack_;

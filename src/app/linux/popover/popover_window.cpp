@@ -87,7 +87,6 @@ PopoverWindow::~PopoverWindow() {
 }
 
 void PopoverWindow::show(std::optional<QPoint> itemPlace) {
-    view_.showSettings(false);
     view_.setWatched(true);
     if (form_ == PopoverForm::atTheItem) {
         window_->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);

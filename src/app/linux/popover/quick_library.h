@@ -34,8 +34,9 @@ public:
 
     [[nodiscard]] virtual bool isShown() const = 0;
 
-    // The cards, in front of everything else and with the keyboard. The place is where the item was pressed,
-    // in pixels of the screen; nothing where that is not known.
+    // In front of everything else and with the keyboard: the cards the first time, later the side that was
+    // shown last. The place is where the item was pressed, in pixels of the screen; nothing where that is not
+    // known.
     virtual void show(std::optional<QPoint> itemPlace) = 0;
 
     // The settings in place of the cards.
