@@ -142,6 +142,7 @@ void AppDelegate::updateMenuBar() {
         return;
     }
     statusItem_->setImage(menuBarSymbol(*monitor_), words::program);
+    statusItem_->setLevel(monitor_->batteryPercent);
     statusItem_->setTitle(menuBarTitle(*monitor_, monitor_->menuBarDisplay));
     statusItem_->setToolTip(menuBarToolTip(*monitor_));
     statusItem_->setDisplay(monitor_->menuBarDisplay);

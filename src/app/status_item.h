@@ -1,6 +1,7 @@
 // The program's place in the menu bar, or in the tray of a desktop that has one.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,10 @@ public:
     // A symbol by its name. One that cannot be made leaves the one before. The description is what a screen
     // reader says of it; on Linux, whose hosts take none, it is ignored.
     virtual void setImage(std::string_view symbolName, std::string_view accessibilityDescription) = 0;
+
+    // The battery's charge in percent, for desktops whose own icons say how full a battery is; others take no
+    // notice.
+    virtual void setLevel(std::int64_t percent) = 0;
 
     // With a leading blank, which keeps it off the image, or empty.
     virtual void setTitle(std::string_view title) = 0;

@@ -109,6 +109,13 @@ TEST_F(AppDelegateTest, SharesItsMonitorWithThePopover) {
     EXPECT_EQ(desktop.item->toolTip, menuBarToolTip(*desktop.monitor));
 }
 
+TEST_F(AppDelegateTest, TellsTheStatusItemHowFullTheBatteryIs) {
+    launch();
+    desktop.monitor->batteryPercent = 72;
+    delegate->updateMenuBar();
+    EXPECT_EQ(desktop.item->level, 72);
+}
+
 TEST_F(AppDelegateTest, WiresNothingWhereThereIsNoButton) {
     desktop.givesButton = false;
     delegate->applicationDidFinishLaunching();

@@ -19,6 +19,7 @@ struct Item final : app::StatusItem {
     app::StatusItemActions actions;
     std::string symbol;
     std::string description;
+    std::int64_t level = 0;
     std::string title;
     std::string toolTip;
     MenuBarDisplay display = MenuBarDisplay::watts;
@@ -37,6 +38,8 @@ struct Item final : app::StatusItem {
         symbol = symbolName;
         description = accessibilityDescription;
     }
+
+    void setLevel(std::int64_t percent) override { level = percent; }
 
     void setTitle(std::string_view text) override {
         log.emplace_back("set the title");

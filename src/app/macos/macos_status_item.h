@@ -19,6 +19,9 @@ public:
     [[nodiscard]] bool hasButton() const override;
     void setActions(StatusItemActions actions) override;
     void setImage(std::string_view symbolName, std::string_view accessibilityDescription) override;
+
+    void setLevel(std::int64_t /*percent*/) override {}
+
     void setTitle(std::string_view title) override;
     void setToolTip(std::string_view text) override;
     void setDisplay(MenuBarDisplay display) override;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "monitor/menu_bar_display.h"
@@ -9,7 +10,8 @@ namespace quelby::app {
 // What a status item shows.
 struct ItemContent {
     std::string symbol;
-    std::string title; // trimmed
+    std::int64_t level = 0; // of the battery, in percent
+    std::string title;      // trimmed
     std::string toolTip;
     MenuBarDisplay display = MenuBarDisplay::watts; // chosen in its menu
 

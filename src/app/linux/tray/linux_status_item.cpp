@@ -81,6 +81,13 @@ void LinuxStatusItem::setImage(std::string_view symbolName, std::string_view /*a
     }
 }
 
+void LinuxStatusItem::setLevel(std::int64_t percent) {
+    if (percent != content_.level) {
+        content_.level = percent;
+        showSoon();
+    }
+}
+
 void LinuxStatusItem::setTitle(std::string_view title) {
     if (auto text = trimmed(title); text != content_.title) {
         content_.title = std::move(text);

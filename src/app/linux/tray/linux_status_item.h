@@ -32,6 +32,7 @@ public:
     void setActions(StatusItemActions actions) override { actions_ = std::move(actions); }
 
     void setImage(std::string_view symbolName, std::string_view accessibilityDescription) override;
+    void setLevel(std::int64_t percent) override;
     void setTitle(std::string_view title) override;
     void setToolTip(std::string_view text) override;
     void setDisplay(MenuBarDisplay display) override;

@@ -1,11 +1,13 @@
 #include "app/linux/tray/status_icon.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPainterPath>
+#include <fmt/format.h>
 
 #include "ui/presentation/elements/metrics.h"
 #include "ui/symbols/symbol_picture.h"
@@ -42,6 +44,11 @@ void drawTitle(QPainter& painter, QPointF baseline, const QFont& font, const QSt
     path.addText(baseline, font, title);
     painter.strokePath(path, QPen(edge, 1.6));
     painter.fillPath(path, ink);
+}
+
+// Themes have no full battery that is still charging.
+std::int64_t tenthBelowFull(std::int64_t percent) {
+    return std::clamp<std::int64_t>(percent / 10 * 10, 0, 90);
 }
 
 } // namespace
@@ -88,23 +95,27 @@ QImage compactIcon(std::string_view symbolName, std::string_view title, int side
     return image;
 }
 
-std::string_view themeIconName(std::string_view symbolName) {
-    constexpr std::array<std::pair<std::string_view, std::string_view>, 8> names{{
+std::string themeIconName(std::string_view symbolName, std::int64_t level) {
+    constexpr std::array<std::pair<std::string_view, std::string_view>, 6> names{{
         {"desktopcomputer", "computer-symbolic"},
-        {"battery.100percent.bolt", "battery-full-charged-symbolic"},
-        {"bolt.fill", "battery-good-charging-symbolic"},
-        {"bolt.badge.checkmark.fill", "battery-full-charged-symbolic"},
-        {"battery.75percent", "battery-full-symbolic"},
-        {"battery.50percent", "battery-good-symbolic"},
-        {"battery.25percent", "battery-low-symbolic"},
-        {"battery.0percent", "battery-caution-symbolic"},
+        {"battery.100percent.bolt", "battery-level-100-charged-symbolic"},
+        {"battery.75percent", "battery-level-80-symbolic"},
+        {"battery.50percent", "battery-level-50-symbolic"},
+        {"battery.25percent", "battery-level-30-symbolic"},
+        {"battery.0percent", "battery-level-0-symbolic"},
     }};
     for (const auto& [symbol, icon] : names) {
         if (symbol == symbolName) {
-            return icon;
+            return std::string(icon);
         }
     }
-    return {};
+    if (symbolName == "bolt.fill") {
+        return fmt::format("battery-level-{}-charging-symbolic", tenthBelowFull(level));
+    }
+    // Held at the limit: desktops show a battery that does not charge without the bolt.
+    return symbolName == "bolt.badge.checkmark.fill"
+               ? fmt::format("battery-level-{}-symbolic", tenthBelowFull(level))
+               : std::string();
 }
 
 } // namespace quelby::app

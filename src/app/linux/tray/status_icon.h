@@ -2,6 +2,8 @@
 // what is drawn is light with a dark edge around it.
 #pragma once
 
+#include <cstdint>
+#include <string>
 #include <string_view>
 
 #include <QImage>
@@ -18,7 +20,9 @@ namespace quelby::app {
 // A square: the symbol above, the title below. Without a title it is the symbol's alone.
 [[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, int side);
 
-// The name of the desktop's icon theme that means the same as the symbol.
-[[nodiscard]] std::string_view themeIconName(std::string_view symbolName);
+// The name of the desktop's icon theme that means the same as the symbol, in tenths as the themes have them.
+// The level is the battery's in percent, and counts where the symbol itself says nothing of it. Only a battery
+// that is full looks full. Empty for a symbol that nobody knows.
+[[nodiscard]] std::string themeIconName(std::string_view symbolName, std::int64_t level);
 
 } // namespace quelby::app

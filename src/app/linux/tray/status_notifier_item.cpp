@@ -34,12 +34,13 @@ void StatusNotifierItem::setHost(const TrayHost& host) {
 }
 
 void StatusNotifierItem::show(const ItemContent& content) {
+    const auto nameBefore = iconName();
     const bool symbolChanged = content.symbol != content_.symbol;
     const bool titleChanged = content.title != content_.title;
     const bool toolTipChanged = content.toolTip != content_.toolTip;
     content_ = content;
     menu_.setDisplay(content.display);
-    if (symbolChanged || (titleChanged && drawsTitle())) {
+    if (symbolChanged || iconName() != nameBefore || (titleChanged && drawsTitle())) {
         announceIcon();
     }
     if (titleChanged) {
@@ -86,7 +87,7 @@ void StatusNotifierItem::writeIconFile() {
 QString StatusNotifierItem::iconName() const {
     switch (host_.icon) {
     case IconForm::symbol:
-        return QString::fromUtf8(themeIconName(content_.symbol));
+        return QString::fromUtf8(themeIconName(content_.symbol, content_.level));
     case IconForm::file:
         return iconFolder_ ? iconFolder_->filePath(QStringLiteral("%1.png").arg(iconNumber_)) : QString();
     case IconForm::wide:

@@ -26,6 +26,7 @@ protected:
 
     void showFigures(std::string_view title) {
         item.setImage("battery.75percent", "Quelby");
+        item.setLevel(80);
         item.setTitle(' ' + std::string(title));
         item.setToolTip("80 % discharging");
         item.setDisplay(MenuBarDisplay::watts);
@@ -61,7 +62,7 @@ TEST_F(LinuxStatusItemTest, RegistersWithTheWatcherThatIsThere) {
     EXPECT_THAT(shown, ElementsAre(true));
     BusPeer peer;
     EXPECT_EQ(peer.property(object(), "XAyatanaLabel").toString(), "-12W"); // as that host wants it
-    EXPECT_EQ(peer.property(object(), "IconName").toString(), "battery-full-symbolic");
+    EXPECT_EQ(peer.property(object(), "IconName").toString(), "battery-level-80-symbolic");
 }
 
 TEST_F(LinuxStatusItemTest, RegistersWithAWatcherThatComesLater) {

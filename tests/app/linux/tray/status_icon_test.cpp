@@ -100,13 +100,52 @@ TEST(CompactIcon, HasTheTitleInItsLowerHalfHoweverLongItIs) {
     }
 }
 
-TEST(ThemeIconName, IsThereForEverySymbolOfTheMenuBar) {
-    for (const auto symbol : menuBarSymbols) {
-        EXPECT_TRUE(themeIconName(symbol).ends_with("-symbolic")) << symbol;
+struct ThemeIcon {
+    std::string_view symbol;
+    std::int64_t level;
+    std::string_view name;
+};
+
+constexpr ThemeIcon themeIcons[] = {
+    {"desktopcomputer", 0, "computer-symbolic"},
+    {"battery.100percent.bolt", 100, "battery-level-100-charged-symbolic"},
+    {"battery.100percent.bolt", 96, "battery-level-100-charged-symbolic"},
+    {"battery.75percent", 100, "battery-level-80-symbolic"},
+    {"battery.75percent", 76, "battery-level-80-symbolic"},
+    {"battery.50percent", 75, "battery-level-50-symbolic"},
+    {"battery.50percent", 51, "battery-level-50-symbolic"},
+    {"battery.25percent", 50, "battery-level-30-symbolic"},
+    {"battery.25percent", 26, "battery-level-30-symbolic"},
+    {"battery.0percent", 25, "battery-level-0-symbolic"},
+    {"battery.0percent", 0, "battery-level-0-symbolic"},
+    {"bolt.fill", 0, "battery-level-0-charging-symbolic"},
+    {"bolt.fill", 9, "battery-level-0-charging-symbolic"},
+    {"bolt.fill", 10, "battery-level-10-charging-symbolic"},
+    {"bolt.fill", 59, "battery-level-50-charging-symbolic"},
+    {"bolt.fill", 99, "battery-level-90-charging-symbolic"},
+    {"bolt.fill", 100, "battery-level-90-charging-symbolic"},
+    {"bolt.fill", -1, "battery-level-0-charging-symbolic"},
+    {"bolt.badge.checkmark.fill", 20, "battery-level-20-symbolic"},
+    {"bolt.badge.checkmark.fill", 80, "battery-level-80-symbolic"},
+    {"bolt.badge.checkmark.fill", 100, "battery-level-90-symbolic"},
+    {"unheard.of", 50, ""},
+};
+
+TEST(ThemeIconName, SaysWhatTheSymbolSaysAndTheLevelWhereItSaysNothingOfIt) {
+    for (const auto& icon : themeIcons) {
+        EXPECT_EQ(themeIconName(icon.symbol, icon.level), icon.name) << icon.symbol << " at " << icon.level;
     }
-    EXPECT_EQ(themeIconName("desktopcomputer"), "computer-symbolic");
-    EXPECT_EQ(themeIconName("battery.0percent"), "battery-caution-symbolic");
-    EXPECT_EQ(themeIconName("unheard.of"), "");
+}
+
+TEST(ThemeIconName, IsOfAFullBatteryForTheFullOneAlone) {
+    for (const auto symbol : menuBarSymbols) {
+        for (std::int64_t level = 0; level <= 100; ++level) {
+            const auto name = themeIconName(symbol, level);
+            EXPECT_TRUE(name.ends_with("-symbolic")) << symbol;
+            const bool full = name.find("full") != std::string::npos || name.find("100") != std::string::npos;
+            EXPECT_EQ(full, symbol == "battery.100percent.bolt") << symbol << " at " << level;
+        }
+    }
 }
 
 } // namespace

@@ -8,7 +8,7 @@
 
 namespace quelby::app {
 
-inline const ItemContent content{"battery.75percent", "-12W", "80 % discharging", MenuBarDisplay::watts};
+inline const ItemContent content{"battery.75percent", 80, "-12W", "80 % discharging", MenuBarDisplay::watts};
 
 // An item on a bus, seen from its other end.
 class StatusNotifierItemTest : public testing::Test {

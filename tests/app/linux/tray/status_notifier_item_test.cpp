@@ -67,7 +67,7 @@ TEST_F(ShownItem, IsALabelBesideANamedIconAndWithoutMenuInGnome) {
     showAt("gnome-shell");
     EXPECT_EQ(property("XAyatanaLabel").toString(), "-12W");
     EXPECT_EQ(property("XAyatanaLabelGuide").toString(), "-888W");
-    EXPECT_EQ(property("IconName").toString(), "battery-full-symbolic");
+    EXPECT_EQ(property("IconName").toString(), "battery-level-80-symbolic");
     EXPECT_EQ(property("Menu").value<QDBusObjectPath>().path(), "/NO_DBUSMENU");
     expectPicturesOf([](int side) { return symbolIcon("battery.75percent", side); });
 }
@@ -159,6 +159,27 @@ TEST_F(ShownItem, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
     EXPECT_NE(second, first);
     EXPECT_FALSE(QFileInfo::exists(first));
     EXPECT_TRUE(QFileInfo::exists(second));
+}
+
+TEST_F(ShownItem, SignalsALevelOnlyWhereItsIconBecomesAnother) {
+    auto charging = content;
+    charging.symbol = "bolt.fill";
+    for (const auto* const host : {"gnome-shell", "ayatana-indicat", "waybar", "lxqt-panel"}) {
+        showAt(host);
+        charging.level = 80;
+        item.show(charging);
+        static_cast<void>(signalsSoFar());
+        charging.level = 89;
+        item.show(charging);
+        EXPECT_THAT(signalsSoFar(), IsEmpty()) << host;
+    }
+    showAt("gnome-shell");
+    item.show(charging);
+    static_cast<void>(signalsSoFar());
+    charging.level = 90;
+    item.show(charging);
+    EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon"));
+    EXPECT_EQ(property("IconName").toString(), "battery-level-90-charging-symbolic");
 }
 
 TEST_F(ShownItem, SignalsAToolTipThatChanges) {
