@@ -26,6 +26,10 @@ Result<void> PowerMonitor::uninstallDaemon() {
     return {};
 }
 
+std::optional<PackageManager> PowerMonitor::packageManager() const {
+    return platform_.helperInstaller->packageManager();
+}
+
 void PowerMonitor::fullUninstall(const std::function<void()>& then) {
     // Without the password the helper stays, and all else goes nevertheless.
     static_cast<void>(platform_.helperInstaller->uninstallEverything());

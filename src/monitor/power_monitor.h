@@ -72,8 +72,11 @@ public:
     // that the helper was not removed, and then nothing changes.
     [[nodiscard]] Result<void> uninstallDaemon();
 
+    // Who brought this program, where it came as a package; nothing where no package manager did.
+    [[nodiscard]] std::optional<PackageManager> packageManager() const;
+
     // Removes the helper, if the user agrees, the history, all preferences, the start at login and the
-    // program itself, and calls `then` at the end, whatever could not be removed.
+    // program itself, unless it came as a package, and calls `then` at the end, whatever could not be removed.
     void fullUninstall(const std::function<void()>& then);
 
     // Starts the program at login, or no longer. The choice is kept also where the system does not follow it.

@@ -18,7 +18,7 @@ public:
     virtual void setText(std::string_view key, std::string_view value) = 0;
     virtual void setFlag(std::string_view key, bool value) = 0;
     virtual void remove(std::string_view key) = 0;
-    virtual void removeAll() = 0;
+    virtual void removeAll() = 0; // and with it the store itself
 };
 
 } // namespace quelby

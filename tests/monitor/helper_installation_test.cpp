@@ -98,6 +98,12 @@ TEST_F(HelperInstallation, IsForgottenWithAllElseSoThatTheTipComesAgain) {
     EXPECT_TRUE(monitor->shouldShowChargingTip);
 }
 
+TEST_F(HelperInstallation, KnowsWhoBroughtTheProgram) {
+    EXPECT_EQ(monitor->packageManager(), std::nullopt);
+    computer.installer.manager = PackageManager::apt;
+    EXPECT_EQ(monitor->packageManager(), PackageManager::apt);
+}
+
 class LaunchAtLogin : public HelperInstallation {};
 
 TEST_F(LaunchAtLogin, IsKeptAndHandedToTheSystem) {

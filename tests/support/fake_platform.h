@@ -88,12 +88,15 @@ struct Installer final : HelperInstaller {
     bool loaded = false;
     int questions = 0;
     bool agrees = true;
+    std::optional<PackageManager> manager;
     std::vector<std::string> wishes;
 
     bool isLoaded() override {
         ++questions;
         return loaded;
     }
+
+    std::optional<PackageManager> packageManager() override { return manager; }
 
     Result<void> install() override { return carryOut("install"); }
 

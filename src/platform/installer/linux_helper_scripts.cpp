@@ -16,6 +16,15 @@ std::string quoted(const fs::path& path) {
     return shellQuoted(path.native());
 }
 
+// Each with a blank before it.
+std::string quoted(const std::vector<fs::path>& paths) {
+    std::string words;
+    for (const auto& path : paths) {
+        words += ' ' + quoted(path);
+    }
+    return words;
+}
+
 fs::path below(const fs::path& root, const fs::path& path) {
     return root / path.relative_path();
 }
@@ -52,8 +61,16 @@ std::string linuxUninstallScript(const fs::path& root) {
                        fmt::arg("folder", quoted(below(root, linux_helper::folder))));
 }
 
-std::string linuxFullUninstallScript(const fs::path& program, const fs::path& root) {
-    return fmt::format("{}; rm -rf {}", linuxUninstallScript(root), quoted(program));
+std::string linuxFullUninstallScript(const InstalledProgram& program, const fs::path& root) {
+    auto script = linuxUninstallScript(root);
+    if (!program.files.empty()) {
+        script += fmt::format("; rm -f{}; removed=$?", quoted(program.files));
+        if (!program.folders.empty()) {
+            script += fmt::format("; rmdir{} 2>/dev/null", quoted(program.folders));
+        }
+        script += "; exit $removed";
+    }
+    return script;
 }
 
 } // namespace quelby

@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <string>
 
+#include "platform/installer/installed_program.h"
+
 namespace quelby {
 
 // Copies the helper from the program's resources, opens its folder to everybody and has systemd start it, now
@@ -20,8 +22,9 @@ namespace quelby {
 // became of the others. The exit status is that of removing the helper's folder.
 [[nodiscard]] std::string linuxUninstallScript(const std::filesystem::path& root = "/");
 
-// The same, and then the program itself, a file or a folder, whose removal decides about the exit status.
-[[nodiscard]] std::string linuxFullUninstallScript(const std::filesystem::path& program,
+// The same, and then the program itself, whose files' removal decides about the exit status, if there are any.
+// A folder in which something else has been put stays.
+[[nodiscard]] std::string linuxFullUninstallScript(const InstalledProgram& program,
                                                    const std::filesystem::path& root = "/");
 
 } // namespace quelby

@@ -5,20 +5,19 @@
 #include "platform/helper_names.h"
 #include "platform/installer/linux_helper_scripts.h"
 #include "platform/installer/macos_helper_scripts.h"
+#include "platform/installer/package_owner.h"
 #include "platform/posix/child_process.h"
 
 namespace quelby {
 
-namespace {
-
 namespace fs = std::filesystem;
-
-} // namespace
 
 HelperScripts linuxHelperScripts() {
     return {.install = [](const fs::path& resources) { return linuxInstallScript(resources); },
             .uninstall = [] { return linuxUninstallScript(); },
-            .uninstallEverything = [](const fs::path& program) { return linuxFullUninstallScript(program); },
+            .uninstallEverything =
+                [](const fs::path& program) { return linuxFullUninstallScript(installedProgram(program)); },
+            .packageManager = [](const fs::path& program) { return packageOwner(program); },
             .query = {"systemctl", "is-active", "--quiet", std::string(linux_helper::service)}};
 }
 
@@ -27,6 +26,7 @@ HelperScripts macosHelperScripts() {
             .uninstall = macosUninstallScript,
             .uninstallEverything =
                 [](const fs::path& program) { return macosFullUninstallScript(program.native()); },
+            .packageManager = [](const fs::path&) { return std::optional<PackageManager>(); },
             .query = {"/bin/launchctl", "list", std::string(macos_helper::label)}};
 }
 
@@ -35,6 +35,10 @@ ScriptedInstaller::ScriptedInstaller(Folders& folders, HelperScripts scripts, Ru
 
 bool ScriptedInstaller::isLoaded() {
     return runToTheEnd(scripts_.query) == 0;
+}
+
+std::optional<PackageManager> ScriptedInstaller::packageManager() {
+    return scripts_.packageManager(folders_.program());
 }
 
 Result<void> ScriptedInstaller::install() {
@@ -50,9 +54,9 @@ Result<void> ScriptedInstaller::uninstall() {
 }
 
 Result<void> ScriptedInstaller::uninstallEverything() {
-    return runAsRoot_(scripts_.uninstallEverything(folders_.program()))
-               ? Result<void>()
-               : problem("the helper and the program were not removed");
+    const auto script =
+        packageManager() ? scripts_.uninstall() : scripts_.uninstallEverything(folders_.program());
+    return runAsRoot_(script) ? Result<void>() : problem("the helper and the program were not removed");
 }
 
 } // namespace quelby

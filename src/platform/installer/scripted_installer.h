@@ -17,6 +17,9 @@ struct HelperScripts {
     std::string (*uninstall)();
     std::string (*uninstallEverything)(const std::filesystem::path& program);
 
+    // Who brought the program, where it came as a package.
+    std::optional<PackageManager> (*packageManager)(const std::filesystem::path& program);
+
     // A program (a path, or a name to be looked up in PATH) and its arguments, to be run as the user. It
     // exits with 0 if the helper is loaded, and only then.
     std::vector<std::string> query;
@@ -35,6 +38,7 @@ public:
     ScriptedInstaller(Folders& folders, HelperScripts scripts, RunAsRoot runAsRoot);
 
     [[nodiscard]] bool isLoaded() override;
+    [[nodiscard]] std::optional<PackageManager> packageManager() override;
     [[nodiscard]] Result<void> install() override;
     [[nodiscard]] Result<void> uninstall() override;
     [[nodiscard]] Result<void> uninstallEverything() override;

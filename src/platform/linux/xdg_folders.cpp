@@ -32,6 +32,11 @@ std::filesystem::path userFolder(const char* variable, const std::filesystem::pa
 
 } // namespace
 
+XdgFolders::XdgFolders(const std::filesystem::path& linkToProgram) {
+    std::error_code failure;
+    program_ = std::filesystem::read_symlink(linkToProgram, failure);
+}
+
 std::filesystem::path XdgFolders::applicationSupport() {
     return userFolder("XDG_DATA_HOME", ".local/share");
 }
@@ -45,14 +50,9 @@ std::filesystem::path XdgFolders::helper() {
 }
 
 std::optional<std::filesystem::path> XdgFolders::resources() {
-    const auto folder = program().parent_path().parent_path() / "libexec" / "quelby";
+    const auto folder = program_.parent_path().parent_path() / "libexec" / "quelby";
     std::error_code failure;
     return std::filesystem::is_directory(folder, failure) ? std::optional(folder) : std::nullopt;
-}
-
-std::filesystem::path XdgFolders::program() {
-    std::error_code failure;
-    return std::filesystem::read_symlink("/proc/self/exe", failure);
 }
 
 } // namespace quelby

@@ -16,7 +16,8 @@ QString qtPath(const std::filesystem::path& path) {
 
 QtPreferences::QtPreferences(const std::optional<std::filesystem::path>& file)
     : settings_(file ? QSettings(qtPath(*file), QSettings::IniFormat)
-                     : QSettings(QSettings::NativeFormat, QSettings::UserScope, "Quelby", "Quelby")) {}
+                     : QSettings(QSettings::NativeFormat, QSettings::UserScope, "Quelby", "Quelby"))
+    , ownFolder_(!file) {}
 
 std::optional<std::string> QtPreferences::text(std::string_view key) {
     const auto value = settings_.value(qtKey(key));
@@ -55,6 +56,12 @@ void QtPreferences::remove(std::string_view key) {
 void QtPreferences::removeAll() {
     settings_.clear();
     settings_.sync();
+    const std::filesystem::path file = settings_.fileName().toStdString();
+    std::error_code ignored;
+    std::filesystem::remove(file, ignored);
+    if (ownFolder_) {
+        std::filesystem::remove(file.parent_path(), ignored); // only an empty folder goes this way
+    }
 }
 
 } // namespace quelby

@@ -26,6 +26,7 @@ private:
     void set(const QString& key, const QVariant& value);
 
     QSettings settings_;
+    bool ownFolder_; // the file lies in a folder of its own
 };
 
 } // namespace quelby

@@ -49,6 +49,10 @@ private:
 
     bool isLoaded() override;
 
+    std::optional<PackageManager> packageManager() override {
+        return real_.helperInstaller->packageManager();
+    }
+
     Result<void> install() override { return real_.helperInstaller->install(); }
 
     Result<void> uninstall() override { return real_.helperInstaller->uninstall(); }

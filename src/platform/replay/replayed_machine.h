@@ -50,6 +50,8 @@ public:
 
     [[nodiscard]] bool isLoaded() override { return present_.helperLoaded; }
 
+    [[nodiscard]] std::optional<PackageManager> packageManager() override { return std::nullopt; }
+
     // Nobody is asked for a password, and nothing is changed.
     [[nodiscard]] Result<void> install() override;
 

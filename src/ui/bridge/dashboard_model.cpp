@@ -122,7 +122,7 @@ DialogValue DashboardModel::chargingTip() const {
 }
 
 DialogValue DashboardModel::uninstallConfirmation() const {
-    return DialogValue(quelby::uninstallConfirmation());
+    return DialogValue(quelby::uninstallConfirmation(monitor_->packageManager()));
 }
 
 void DashboardModel::setShouldShowChargingTip(bool shown) {

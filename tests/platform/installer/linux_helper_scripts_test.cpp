@@ -64,22 +64,27 @@ TEST(LinuxHelperScripts, UseTheSystemsOwnPaths) {
                   "UNIT\n"
                   "systemctl daemon-reload && systemctl enable com.quelby.limiter.service && "
                   "systemctl restart com.quelby.limiter.service");
-    EXPECT_EQ(linuxFullUninstallScript("/opt/quelby"),
+    EXPECT_EQ(linuxFullUninstallScript({{"/opt/bin/quelby", "/opt/it's"}, {"/opt/lib/quelby"}}),
               "systemctl disable --now com.quelby.limiter.service 2>/dev/null; "
               "'/usr/local/libexec/pwr_limiter' --restore 2>/dev/null; "
               "rm -f '/etc/systemd/system/com.quelby.limiter.service'; "
               "systemctl daemon-reload 2>/dev/null; "
               "rm -f '/usr/local/libexec/pwr_limiter'; rm -rf '/var/lib/quelby-limiter'; "
-              "rm -rf '/var/lib/quelby'; rm -rf '/opt/quelby'");
-    EXPECT_EQ(linuxFullUninstallScript("/opt/quelby"), linuxUninstallScript() + "; rm -rf '/opt/quelby'");
+              "rm -rf '/var/lib/quelby'; "
+              "rm -f '/opt/bin/quelby' '/opt/it'\\''s'; removed=$?; rmdir '/opt/lib/quelby' 2>/dev/null; "
+              "exit $removed");
+    EXPECT_EQ(linuxFullUninstallScript({{"/opt/quelby"}, {}}),
+              linuxUninstallScript() + "; rm -f '/opt/quelby'; removed=$?; exit $removed");
+    EXPECT_EQ(linuxFullUninstallScript({}), linuxUninstallScript());
 }
 
 TEST(LinuxHelperScripts, ArePlainPosixShell) {
-    const fs::path program = "/opt/what's within";
+    const fs::path resources = "/opt/what's within";
+    const InstalledProgram program{{resources / "quelby", resources / "a b"}, {resources}};
     const fs::path elsewhere = "/it's a root";
     for (const auto& script :
-         {linuxInstallScript(program), linuxUninstallScript(), linuxFullUninstallScript(program),
-          linuxInstallScript(program, elsewhere), linuxFullUninstallScript(program, elsewhere)}) {
+         {linuxInstallScript(resources), linuxUninstallScript(), linuxFullUninstallScript(program),
+          linuxInstallScript(resources, elsewhere), linuxFullUninstallScript(program, elsewhere)}) {
         EXPECT_TRUE(passesShellcheck(script)) << script;
     }
 }
@@ -187,11 +192,34 @@ TEST_F(LinuxHelperScriptsTest, UninstallTheRestWhereTheServiceCannotBeStopped) {
 
 TEST_F(LinuxHelperScriptsTest, UninstallTheProgramAsWellWhereThatIsAsked) {
     ASSERT_EQ(install().exitStatus, 0);
-    EXPECT_EQ(run(linuxFullUninstallScript(resources, root)).exitStatus, 0);
-    EXPECT_FALSE(fs::exists(resources));
+    const auto prefix = fs::path("it's the `prefix`");
+    const auto program = folder.write(prefix / "bin/quelby", "");
+    const auto neighbour = folder.write(prefix / "bin/other", "");
+    folder.write(prefix / "lib/quelby/quelby-dashboard.so", "");
+    folder.write(prefix / "libexec/quelby/pwr_limiter", "");
+    const auto kept = folder.write(prefix / "libexec/quelby/somebody's/file", "");
+    const auto entry = folder.write(prefix / "share/applications/quelby.desktop", "");
+    const auto removed = run(linuxFullUninstallScript(installedProgram(program), root));
+    EXPECT_EQ(removed.exitStatus, 0);
+    EXPECT_EQ(removed.errors, "");
+    EXPECT_FALSE(fs::exists(program));
+    EXPECT_FALSE(fs::exists(entry));
+    EXPECT_FALSE(fs::exists(folder.path() / prefix / "lib/quelby"));
+    EXPECT_TRUE(fs::exists(folder.path() / prefix / "lib"));
+    EXPECT_FALSE(fs::exists(folder.path() / prefix / "libexec/quelby/pwr_limiter"));
+    EXPECT_TRUE(fs::exists(kept));
+    EXPECT_TRUE(fs::exists(neighbour));
+    EXPECT_TRUE(fs::exists(resources));
     EXPECT_FALSE(fs::exists(shared));
     EXPECT_FALSE(fs::exists(executable));
     EXPECT_FALSE(fs::exists(unit));
+}
+
+TEST_F(LinuxHelperScriptsTest, SayWhereTheProgramCouldNotBeRemoved) {
+    const auto folderInItsPlace = folder.write("bin/quelby/file", "").parent_path();
+    EXPECT_NE(run(linuxFullUninstallScript({{folderInItsPlace}, {folder.path() / "bin"}}, root)).exitStatus,
+              0);
+    EXPECT_TRUE(fs::exists(folderInItsPlace / "file"));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "platform/installer/linux_helper_scripts.h"
 #include "platform/installer/macos_helper_scripts.h"
 #include "support/fake_platform.h"
+#include "support/temporary_folder.h"
 
 namespace quelby {
 namespace {
@@ -42,9 +43,30 @@ TEST_F(ScriptedInstallerTest, RunsTheScriptsOfLinux) {
     auto system = installer(linuxHelperScripts());
     EXPECT_TRUE(system.install());
     EXPECT_TRUE(system.uninstall());
+    EXPECT_THAT(ran, ElementsAre(linuxInstallScript("/opt/it's/resources"), linuxUninstallScript()));
+    EXPECT_EQ(system.packageManager(), std::nullopt);
+}
+
+TEST_F(ScriptedInstallerTest, RemovesWhatLiesOnTheDiskOfLinux) {
+    const TemporaryFolder folder;
+    folders.support = folder.path();
+    const auto program = folder.write("quelby", "");
+    const auto library = folder.write("quelby-dashboard.so", "");
+    auto system = installer(linuxHelperScripts());
     EXPECT_TRUE(system.uninstallEverything());
-    EXPECT_THAT(ran, ElementsAre(linuxInstallScript("/opt/it's/resources"), linuxUninstallScript(),
-                                 linuxFullUninstallScript("/opt/it's/quelby")));
+    EXPECT_THAT(ran, ElementsAre(linuxFullUninstallScript({{program, library}, {}})));
+}
+
+TEST_F(ScriptedInstallerTest, LeavesTheFilesOfAPackageToItsManager) {
+    const TemporaryFolder folder;
+    folders.support = folder.path();
+    folder.write("quelby", "");
+    auto scripts = linuxHelperScripts();
+    scripts.packageManager = [](const std::filesystem::path&) { return std::optional(PackageManager::rpm); };
+    auto system = installer(scripts);
+    EXPECT_EQ(system.packageManager(), PackageManager::rpm);
+    EXPECT_TRUE(system.uninstallEverything());
+    EXPECT_THAT(ran, ElementsAre(linuxUninstallScript()));
 }
 
 TEST_F(ScriptedInstallerTest, RunsTheScriptsOfMacos) {
@@ -52,6 +74,7 @@ TEST_F(ScriptedInstallerTest, RunsTheScriptsOfMacos) {
     EXPECT_TRUE(system.install());
     EXPECT_TRUE(system.uninstall());
     EXPECT_TRUE(system.uninstallEverything());
+    EXPECT_EQ(system.packageManager(), std::nullopt);
     EXPECT_THAT(ran, ElementsAre(macosInstallScript("/opt/it's/resources"), macosUninstallScript(),
                                  macosFullUninstallScript("/opt/it's/quelby")));
 }

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
+
 namespace quelby {
 namespace {
 
@@ -53,6 +55,20 @@ TEST(XdgFolders, KeepSettingsWhereTheVariableSays) {
 TEST(XdgFolders, KnowTheProgramAndThatItsResourcesAreNotInstalled) {
     EXPECT_EQ(XdgFolders().program().filename(), "linux_tests");
     EXPECT_EQ(XdgFolders().resources(), std::nullopt);
+}
+
+// The kernel then says "/opt/quelby/bin/quelby (deleted)".
+TEST(XdgFolders, KnowTheProgramAlsoAfterItWasReplaced) {
+    const TemporaryFolder folder;
+    const auto program = folder.path() / "bin" / "quelby";
+    const auto resources = folder.write("libexec/quelby/pwr_limiter", "").parent_path();
+    const auto link = folder.path() / "exe";
+    std::filesystem::create_symlink(program, link);
+    XdgFolders folders(link);
+    std::filesystem::remove(link);
+    std::filesystem::create_symlink(program.string() + " (deleted)", link);
+    EXPECT_EQ(folders.program(), program);
+    EXPECT_EQ(folders.resources(), resources);
 }
 
 TEST(XdgFolders, PassOverAVariableThatIsEmptyOrNotAbsolute) {

@@ -56,6 +56,40 @@ TEST_F(QtPreferencesTest, KeepWhatIsSet) {
     EXPECT_EQ(QtPreferences(folder.path() / "preferences.conf").text("menuBarDisplay"), std::nullopt);
 }
 
+TEST_F(QtPreferencesTest, GoWithTheirFileButNotWithItsFolderWhichSomebodyNamed) {
+    const auto file = folder.write("named/preferences.conf", "[General]\nlaunchAtLogin=true\n");
+    {
+        QtPreferences preferences(file);
+        preferences.removeAll();
+        preferences.remove("launchAtLogin");
+        EXPECT_FALSE(preferences.flag("launchAtLogin"));
+    }
+    EXPECT_FALSE(std::filesystem::exists(file));
+    EXPECT_TRUE(std::filesystem::exists(file.parent_path()));
+}
+
+TEST_F(QtPreferencesTest, GoWithTheirOwnFolderUnlessSomethingElseIsInIt) {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                       QString::fromStdString(folder.path().string()));
+    const auto own = folder.path() / "Quelby";
+    for (const bool shared : {true, false}) {
+        {
+            QtPreferences preferences(std::nullopt);
+            preferences.setFlag("launchAtLogin", true);
+            ASSERT_TRUE(std::filesystem::exists(own / "Quelby.conf"));
+            if (shared) {
+                folder.write("Quelby/of somebody else", "");
+            }
+            preferences.removeAll();
+            preferences.remove("launchAtLogin");
+        }
+        EXPECT_FALSE(std::filesystem::exists(own / "Quelby.conf"));
+        EXPECT_EQ(std::filesystem::exists(own / "of somebody else"), shared);
+        EXPECT_EQ(std::filesystem::exists(own), shared);
+        std::filesystem::remove_all(own);
+    }
+}
+
 TEST_F(QtPreferencesTest, DoNotWriteWhatIsStoredAlready) {
     auto preferences = with("[General]\n; a comment\nmenuBarDisplay=Battery %\nlaunchAtLogin=true\n");
     preferences.setText("menuBarDisplay", "Battery %");

@@ -240,6 +240,8 @@ TEST_F(DashboardModelTest, HasTheTextsThatNeverChangeAlways) {
     EXPECT_EQ(model.chargingTip(), DialogValue(chargingTip(linuxWords)));
     EXPECT_EQ(model.uninstallConfirmation(), DialogValue(uninstallConfirmation()));
     EXPECT_TRUE(model.uninstallConfirmation()->destructive);
+    dashboard.computer.installer.manager = PackageManager::apt;
+    EXPECT_EQ(model.uninstallConfirmation(), DialogValue(uninstallConfirmation(PackageManager::apt)));
 }
 
 TEST_F(DashboardModelTest, EndsWithARefreshDue) {

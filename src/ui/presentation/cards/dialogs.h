@@ -1,6 +1,7 @@
 // The two questions that the dashboard asks.
 #pragma once
 
+#include "platform/package_manager.h"
 #include "platform/system_words.h"
 #include "ui/presentation/elements/record.h"
 
@@ -20,6 +21,7 @@ struct Dialog {
 // Raised the first time that the charge limit is switched on.
 [[nodiscard]] Dialog chargingTip(const SystemWords& words);
 
-[[nodiscard]] Dialog uninstallConfirmation();
+// Where the program came as a package, its manager is to remove it, and the question says how.
+[[nodiscard]] Dialog uninstallConfirmation(std::optional<PackageManager> manager = std::nullopt);
 
 } // namespace quelby

@@ -34,5 +34,18 @@ TEST(Dialogs, AskBeforeEverythingIsRemoved) {
     EXPECT_EQ(dialog.cancel, "Cancel");
 }
 
+TEST(Dialogs, SayHowAPackageIsRemovedAndThatNobodyElseDoesIt) {
+    const auto question = [](const char* command) {
+        return std::string(
+                   "This will remove the charge helper, all settings and history data, but not the app "
+                   "itself, which came as a package: \"") +
+               command + "\" removes it. This cannot be undone.";
+    };
+    EXPECT_EQ(uninstallConfirmation(PackageManager::apt).message, question("sudo apt remove quelby"));
+    EXPECT_EQ(uninstallConfirmation(PackageManager::rpm).message, question("sudo rpm -e quelby"));
+    EXPECT_EQ(uninstallConfirmation(PackageManager::pacman).message, question("sudo pacman -R quelby"));
+    EXPECT_EQ(uninstallConfirmation(PackageManager::apt).action, uninstallConfirmation().action);
+}
+
 } // namespace
 } // namespace quelby
