@@ -175,11 +175,11 @@ void DashboardModel::fullUninstall() {
     monitor_->fullUninstall(actions_.quit);
 }
 
-void DashboardModel::openBatterySettings() {
+void DashboardModel::openBatterySettings() const {
     actions_.openBatterySettings();
 }
 
-void DashboardModel::quit() {
+void DashboardModel::quit() const {
     actions_.quit();
 }
 

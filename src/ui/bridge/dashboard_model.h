@@ -91,8 +91,8 @@ public:
     Q_INVOKABLE void setAutoCalibrate(bool enabled);
     Q_INVOKABLE void selectCalibrationInterval(int index); // switches the calibration on as well
     Q_INVOKABLE void fullUninstall();                      // and quits
-    Q_INVOKABLE void openBatterySettings();
-    Q_INVOKABLE void quit();
+    Q_INVOKABLE void openBatterySettings() const;
+    Q_INVOKABLE void quit() const;
 
 Q_SIGNALS:
     void watchedChanged();

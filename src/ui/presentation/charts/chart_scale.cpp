@@ -36,7 +36,7 @@ std::optional<std::size_t> hoverIndex(double x, std::size_t count) {
         return std::nullopt;
     }
     const double fraction = std::clamp(x / hoverWidth, 0.0, 1.0);
-    const auto index = static_cast<std::size_t>(fraction * static_cast<double>(count - 1) + 0.5);
+    const auto index = static_cast<std::size_t>(std::llround(fraction * static_cast<double>(count - 1)));
     return std::min(index, count - 1);
 }
 
