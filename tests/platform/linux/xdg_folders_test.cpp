@@ -52,9 +52,15 @@ TEST(XdgFolders, KeepSettingsWhereTheVariableSays) {
     EXPECT_EQ(XdgFolders().configuration(), "/home/somebody/.config");
 }
 
-TEST(XdgFolders, KnowTheProgramAndThatItsResourcesAreNotInstalled) {
+TEST(XdgFolders, KnowTheProgram) {
     EXPECT_EQ(XdgFolders().program().filename(), "linux_tests");
-    EXPECT_EQ(XdgFolders().resources(), std::nullopt);
+}
+
+TEST(XdgFolders, HaveNoResourcesWhereNoneAreInstalled) {
+    const TemporaryFolder folder;
+    const auto link = folder.path() / "exe";
+    std::filesystem::create_symlink(folder.path() / "bin" / "quelby", link);
+    EXPECT_EQ(XdgFolders(link).resources(), std::nullopt);
 }
 
 // The kernel then says "/opt/quelby/bin/quelby (deleted)".
