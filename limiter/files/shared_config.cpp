@@ -39,7 +39,7 @@ void SharedConfig::exchangeUntilTrue(const Folder& folder, double lastCalibratio
     for (int count = 0; count < mostExchanges; ++count) {
         auto config = *config_;
         config.lastCalibrationTimestamp = lastCalibration;
-        const auto corrected = encode(config);
+        const auto corrected = encode(config, text_); // with what else stands there
         const auto displaced = corrected ? folder.exchange(name, *corrected, everybodysFile)
                                          : std::optional<Folder::Displaced>();
         if (!displaced) {

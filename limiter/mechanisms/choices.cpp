@@ -5,7 +5,10 @@
 
 namespace quelby::limiter {
 
-bool Choices::contain(std::string_view word) const {
+bool Choices::offer(std::string_view word) const {
+    if (!isList) {
+        return !words.empty();
+    }
     return std::find(words.begin(), words.end(), word) != words.end();
 }
 
@@ -19,6 +22,7 @@ Choices readChoices(std::string_view text) {
             choices.active = choices.words.back();
         }
     }
+    choices.isList = choices.words.size() > 1 || choices.active;
     if (choices.words.size() == 1) {
         choices.active = choices.words.front();
     }

@@ -12,7 +12,11 @@ struct Choices {
     std::vector<std::string> words;    // blanks within a word are underscores
     std::optional<std::string> active; // one of them
 
-    [[nodiscard]] bool contain(std::string_view word) const;
+    // Whether the attribute can be set to the word. A lone word without brackets is no list, and leaves open
+    // what else there is.
+    [[nodiscard]] bool offer(std::string_view word) const;
+
+    bool isList = false;
 };
 
 [[nodiscard]] Choices readChoices(std::string_view text);

@@ -28,8 +28,7 @@ Inhibition::Inhibition(Attributes& attributes, const std::string& batteryFolder)
 
 bool Inhibition::isPresent(const Attributes& attributes, const std::string& batteryFolder) {
     const auto choices = readChoices(attributes.read(attributeIn(batteryFolder)).value_or(""));
-    return choices.contain(inhibited) || choices.contain(inhibitedAwake) ||
-           (choices.words.size() == 1 && choices.contain(usual)); // a list of one is none
+    return choices.offer(inhibited) || choices.offer(inhibitedAwake);
 }
 
 Setting Inhibition::read() const {
@@ -38,7 +37,7 @@ Setting Inhibition::read() const {
 
 Setting Inhibition::limitedTo(int percent, int batteryPercent) const {
     const auto choices = readChoices(attributes_.read(attribute_).value_or(""));
-    const bool awakeOnly = choices.contain(inhibitedAwake) && !choices.contain(inhibited);
+    const bool awakeOnly = choices.offer(inhibitedAwake) && !choices.offer(inhibited);
     const bool isHeld = inhibits(choices.active);
     const bool hold = batteryPercent >= percent || (isHeld && batteryPercent > percent - distance);
     if (!hold || percent >= full) {

@@ -21,7 +21,7 @@ LongLife::LongLife(Attributes& attributes, const std::string& batteryFolder)
     : attributes_(attributes), attribute_(attributeIn(batteryFolder)) {}
 
 bool LongLife::isPresent(const Attributes& attributes, const std::string& batteryFolder) {
-    return readChoices(attributes.read(attributeIn(batteryFolder)).value_or("")).contain(longLife);
+    return readChoices(attributes.read(attributeIn(batteryFolder)).value_or("")).offer(longLife);
 }
 
 Setting LongLife::read() const {
@@ -39,7 +39,7 @@ Setting LongLife::lifted(const Setting& found) const {
 Setting LongLife::restored(const Setting& found) const {
     const bool isKnown =
         found.mode == longLife || found.mode == standard ||
-        readChoices(attributes_.read(attribute_).value_or("")).contain(found.mode.value_or(""));
+        readChoices(attributes_.read(attribute_).value_or("")).offer(found.mode.value_or(""));
     return {.mode = isKnown ? found.mode : standard};
 }
 

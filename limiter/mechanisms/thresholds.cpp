@@ -33,7 +33,7 @@ bool Thresholds::arePresent(const Attributes& attributes, const std::string& fol
 
 std::optional<Thresholds::ModeAttribute> Thresholds::modeAttribute() const {
     const auto types = folder_ + "/charge_types";
-    if (const auto listed = attributes_.read(types); listed && readChoices(*listed).contain(custom)) {
+    if (const auto listed = attributes_.read(types); listed && readChoices(*listed).offer(custom)) {
         return ModeAttribute{types, true};
     }
     const auto type = folder_ + "/charge_type";

@@ -132,7 +132,11 @@ Result<void> Service::runOnce() {
     if (outcome_.isUndecided && wakeups_.wait(HoldWatch::apart, false) != Wake::stop) {
         written = round();
     }
-    return written ? Result<void>() : problem("cannot write to " + path_.string());
+    if (!written) {
+        return problem("cannot write to " + path_.string());
+    }
+    const auto& error = outcome_.details.lastError;
+    return error ? problem(*error) : Result<void>();
 }
 
 void Service::sayGoodbye() {

@@ -24,8 +24,8 @@ public:
     // again.
     [[nodiscard]] Result<void> run(const std::function<void()>& whenReady = {});
 
-    // One round, and another one where only that tells whether the battery is held. The problem says which
-    // file could not be written.
+    // One round, and another one where only that tells whether the battery is held. The problem says what of
+    // the wish could not be carried out, or that the folder could not be written to.
     [[nodiscard]] Result<void> runOnce();
 
 private:

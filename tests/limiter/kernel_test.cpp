@@ -8,7 +8,7 @@
 #include "limiter/kernel/sysfs_attributes.h"
 #include "limiter/mechanisms/choices.h"
 #include "limiter/mechanisms/values.h"
-#include "limiter/support/odd_hardware.h"
+#include "limiter/support/makers.h"
 #include "support/temporary_folder.h"
 
 namespace quelby::limiter {
@@ -151,6 +151,15 @@ TEST(Choices, HaveTheActiveWordInBrackets) {
     EXPECT_THAT(readChoices("").words, IsEmpty());
     EXPECT_EQ(readChoices("").active, std::nullopt);
     EXPECT_EQ(asChoice("Long Life"), "Long_Life");
+}
+
+TEST(Choices, AreOpenWhereALoneWordIsNoList) {
+    EXPECT_TRUE(readChoices("Fast [Standard] Long_Life").offer("Fast"));
+    EXPECT_TRUE(readChoices("Fast [Standard] Long_Life").offer("Standard"));
+    EXPECT_FALSE(readChoices("Fast [Standard] Long_Life").offer("Custom"));
+    EXPECT_FALSE(readChoices("[Standard]").offer("Custom"));
+    EXPECT_TRUE(readChoices("Standard").offer("Custom"));
+    EXPECT_FALSE(readChoices("").offer("Custom"));
 }
 
 TEST(Values, AreTheNearestAndOfTwoTheLower) {

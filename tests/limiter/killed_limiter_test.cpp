@@ -50,7 +50,7 @@ protected:
                   .calibrationEnabled = true,
                   .calibrationIntervalDays = 365,
                   .lastCalibrationTimestamp = longAgo};
-        writeSharedFile(shared / "config.json", encode(wished).value());
+        ASSERT_TRUE(writeSharedFile(shared / "config.json", encode(wished).value()));
     }
 
     // The application's setting, with its own time or the true one.

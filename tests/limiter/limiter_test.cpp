@@ -1,11 +1,9 @@
 // What one helper does over time, on the plainest hardware.
 
-#include "limiter/limiter.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "limiter/support/test_bench.h"
+#include "limiter/support/plain_laptop.h"
 
 namespace quelby::limiter {
 namespace {
@@ -14,30 +12,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-const std::string bat0 = supplies + "BAT0/";
-const std::string endThreshold = bat0 + "charge_control_end_threshold";
-const std::string behaviour = bat0 + "charge_behaviour";
-
-class LimiterTest : public testing::Test, protected TestBench {
-protected:
-    LimiterTest() {
-        addLaptop(hardware);
-        addGalaxyBook(hardware); // of BAT1, which is not there
-        hardware.remove(supplies + "BAT1");
-        hardware[endThreshold].text = "100";
-    }
-
-    void useBehaviour() {
-        hardware.remove(supplies + "BAT0");
-        addBattery(hardware, "BAT0");
-        addBehaviour(hardware, "BAT0", {"auto", "inhibit-charge"});
-    }
-
-    void calibrate() {
-        wish.limit = true;
-        wish.calibration = true;
-    }
-};
+class LimiterTest : public PlainLaptop {};
 
 TEST_F(LimiterTest, TouchesNothingWhileTheLimitIsOff) {
     round();
@@ -78,8 +53,7 @@ TEST_F(LimiterTest, WritesAgainAtItsStartAfterSleepAndForABatteryThatComesBack) 
 }
 
 TEST_F(LimiterTest, FindsAnInterfaceThatComesLaterThanTheBattery) {
-    hardware.remove(supplies + "BAT0");
-    addBattery(hardware, "BAT0");
+    changeBattery();
     limitTo(80);
     EXPECT_EQ(last.details.mechanism, std::nullopt);
     hardware[endThreshold].text = "100";
@@ -174,238 +148,6 @@ TEST_F(LimiterTest, FightsAgainTheNextDay) {
     EXPECT_EQ(text(endThreshold), "100");
     round(Contest::memory);
     EXPECT_EQ(text(endThreshold), "80");
-}
-
-TEST_F(LimiterTest, CallsABatteryHeldOnTheSecondLook) {
-    limitTo(80);
-    EXPECT_FALSE(last.status.chargingInhibited);
-    EXPECT_TRUE(last.isUndecided);
-    round(3);
-    EXPECT_TRUE(last.status.chargingInhibited);
-    EXPECT_FALSE(last.isUndecided);
-    set("BAT0/status", "Charging");
-    round();
-    EXPECT_FALSE(last.status.chargingInhibited);
-}
-
-TEST_F(LimiterTest, CallsNoBatteryHeldWhoseLimitIsOff) {
-    round();
-    round();
-    hardware[endThreshold].text = "60"; // somebody else's
-    round();
-    round();
-    EXPECT_FALSE(last.status.chargingInhibited);
-}
-
-TEST_F(LimiterTest, GoesByTheLevelInForceAndNotByTheWish) {
-    hardware[endThreshold].take = [this](const std::string&) {
-        hardware[endThreshold].text = "85"; // the hardware's own idea
-        return std::errc();
-    };
-    limitTo(80);
-    round();
-    EXPECT_FALSE(last.status.chargingInhibited); // at 80%
-    set("BAT0/capacity", "85");
-    round();
-    round();
-    EXPECT_TRUE(last.status.chargingInhibited);
-}
-
-TEST_F(LimiterTest, CallsTwoBatteriesHeldOnlyWhereBothAre) {
-    addBattery(hardware, "BAT1");
-    hardware[supplies + "BAT1/charge_control_end_threshold"].text = "100";
-    set("BAT1/status", "Charging");
-    set("BAT1/capacity", "40");
-    limitTo(80);
-    round();
-    EXPECT_FALSE(last.status.chargingInhibited);
-    set("BAT1/status", "Not charging");
-    set("BAT1/capacity", "80");
-    round();
-    round();
-    EXPECT_TRUE(last.status.chargingInhibited);
-}
-
-TEST_F(LimiterTest, ReleasesChargingAtItsEndOnlyWhereHoldingNeedsIt) {
-    limitTo(60);
-    limiter->letGo();
-    EXPECT_EQ(text(endThreshold), "60"); // the hardware holds it, also while the laptop is off
-
-    limiter.reset();
-    saved = {};
-    useBehaviour();
-    limitTo(60);
-    EXPECT_EQ(text(behaviour), "auto [inhibit-charge]");
-    limiter->letGo();
-    EXPECT_EQ(text(behaviour), "[auto] inhibit-charge");
-    EXPECT_FALSE(saved.found.empty()); // the limit is still wanted
-
-    start();
-    round();
-    EXPECT_EQ(text(behaviour), "auto [inhibit-charge]");
-    start(); // after a sudden end
-    limiter->letGo();
-    EXPECT_EQ(text(behaviour), "[auto] inhibit-charge");
-}
-
-TEST_F(LimiterTest, ReleasesNothingThatItNeverHeld) {
-    useBehaviour();
-    hardware[behaviour].text = "inhibit-charge"; // somebody else's
-    start();
-    limiter->letGo();
-    EXPECT_EQ(text(behaviour), "auto [inhibit-charge]");
-}
-
-TEST_F(LimiterTest, GivesBackABatteryThatCanBeCharged) {
-    useBehaviour();
-    hardware[behaviour].text = "inhibit-charge";
-    limitTo(60);
-    switchOff();
-    EXPECT_EQ(text(behaviour), "[auto] inhibit-charge");
-}
-
-TEST_F(LimiterTest, FightsForWhatItHoldsItself) {
-    useBehaviour();
-    limitTo(60);
-    for (int count = 0; count < 4; ++count) {
-        hardware[behaviour].text = "auto";
-        round();
-    }
-    EXPECT_EQ(text(behaviour), "[auto] inhibit-charge");
-    EXPECT_EQ(battery().inForcePercent, 100);
-    EXPECT_FALSE(last.status.chargingInhibited);
-    EXPECT_THAT(last.details.explanation, HasSubstr("(UPower), so 100% stands."));
-}
-
-TEST_F(LimiterTest, RestoresWhatWasFoundAndGivesUpACalibration) {
-    hardware[endThreshold].text = "95";
-    calibrate();
-    round();
-    EXPECT_TRUE(saved.calibration.has_value());
-    start();
-    EXPECT_TRUE(limiter->restore());
-    EXPECT_EQ(text(endThreshold), "95");
-    EXPECT_TRUE(saved.found.empty());
-    EXPECT_FALSE(saved.calibration.has_value());
-    writes();
-    start();
-    EXPECT_TRUE(limiter->restore());
-    EXPECT_THAT(writes(), IsEmpty());
-}
-
-TEST_F(LimiterTest, SaysWhatCouldNotBeRestored) {
-    limitTo(80);
-    hardware[endThreshold].take = [](const std::string&) { return std::errc::io_error; };
-    start();
-    const auto refused = limiter->restore();
-    ASSERT_FALSE(refused);
-    EXPECT_THAT(refused.error().sentence, HasSubstr("did not take 100: "));
-    hardware.remove(supplies + "BAT0");
-    start();
-    const auto missing = limiter->restore();
-    ASSERT_FALSE(missing);
-    EXPECT_EQ(missing.error().sentence, "the level of BAT0 could not be put back: it is not there");
-}
-
-TEST_F(LimiterTest, CalibratesAndReturnsToTheLimit) {
-    calibrate();
-    wish.percent = 80;
-    set("BAT0/status", "Charging");
-    round();
-    EXPECT_EQ(text(endThreshold), "100");
-    EXPECT_TRUE(last.status.calibrationActive);
-    EXPECT_EQ(last.status.calibrationPhase, "charging to 100%");
-    EXPECT_EQ(last.details.explanation, "The limit is lifted for a calibration: charging to 100%.");
-    set("BAT0/capacity", "100");
-    set("BAT0/status", "Full");
-    round();
-    EXPECT_EQ(last.status.calibrationPhase, "holding at 100%, 60 min left");
-    EXPECT_FALSE(last.status.chargingInhibited);
-    round(1080);
-    EXPECT_EQ(last.status.calibrationPhase, "holding at 100%, 42 min left");
-    round(2520);
-    EXPECT_FALSE(last.status.calibrationActive);
-    EXPECT_EQ(last.status.calibrationPhase, std::nullopt);
-    EXPECT_EQ(text(endThreshold), "80");
-    EXPECT_EQ(limiter->lastCalibration(), now);
-    EXPECT_EQ(saved.lastCalibration, now);
-    round();
-    EXPECT_FALSE(last.status.calibrationActive);
-}
-
-TEST_F(LimiterTest, LetsAThinkPadThatIsNearlyFullChargeForItsCalibration) {
-    hardware.remove(supplies + "BAT0");
-    addBattery(hardware, "BAT0");
-    addThinkPad(hardware);
-    set("BAT0/capacity", "97");
-    calibrate();
-    round();
-    EXPECT_EQ(text(endThreshold), "100");
-    EXPECT_EQ(text(bat0 + "charge_control_start_threshold"), "99");
-}
-
-TEST_F(LimiterTest, LetsADellChargeAsItDidBeforeForItsCalibration) {
-    hardware.remove(supplies + "BAT0");
-    addBattery(hardware, "BAT0");
-    addDell(hardware);
-    limitTo(80);
-    calibrate();
-    round();
-    EXPECT_THAT(text(bat0 + "charge_types"), HasSubstr("[Adaptive]"));
-    wish.calibration = false;
-    round();
-    EXPECT_THAT(text(bat0 + "charge_types"), HasSubstr("[Custom]"));
-    EXPECT_EQ(text(endThreshold), "80");
-}
-
-TEST_F(LimiterTest, GoesOnWithACalibrationAfterASuddenEnd) {
-    calibrate();
-    set("BAT0/capacity", "100");
-    round();
-    round(1800);
-    start(); // as after SIGKILL: what was not taken down is lost
-    round();
-    EXPECT_EQ(last.status.calibrationPhase, "holding at 100%, 30 min left");
-    for (double minute = 0; minute < 30; ++minute) {
-        round(60);
-    }
-    EXPECT_FALSE(last.status.calibrationActive);
-    EXPECT_EQ(saved.lastCalibration, now);
-}
-
-TEST_F(LimiterTest, LosesNoMoreThanAMinuteOfACalibrationAndRarelyWrites) {
-    calibrate();
-    set("BAT0/capacity", "100");
-    round();
-    saves = 0;
-    for (int count = 0; count < 225; ++count) { // half an hour
-        round(8);
-    }
-    EXPECT_GE(saved.calibration->heldSeconds, 1800 - 64);
-    EXPECT_LE(saves, 30);
-}
-
-TEST_F(LimiterTest, BelievesAnApplicationsMemoryOnlyWhereItHasNoneOfItsOwn) {
-    calibrate();
-    remembered = someTime - 3600;
-    round();
-    EXPECT_FALSE(last.status.calibrationActive);
-    EXPECT_EQ(saved.lastCalibration, someTime - 3600);
-    remembered = someTime - 90 * 86400.0; // an old one, written back
-    round();
-    EXPECT_FALSE(last.status.calibrationActive);
-    EXPECT_EQ(limiter->lastCalibration(), someTime - 3600);
-}
-
-TEST_F(LimiterTest, DoesNotCalibrateWhatItCannotLimit) {
-    hardware.remove(supplies + "BAT0");
-    addBattery(hardware, "BAT0");
-    calibrate();
-    round();
-    EXPECT_FALSE(last.status.calibrationActive);
-    wish.limit = false;
-    round();
-    EXPECT_FALSE(last.status.calibrationActive);
 }
 
 TEST_F(LimiterTest, WorksOnWhereItCannotTakeDownWhatItFound) {

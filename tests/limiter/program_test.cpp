@@ -86,6 +86,19 @@ TEST_F(Program, CarriesTheWishOutOnceAndLeavesItInForce) {
     EXPECT_EQ(told["explanation"], "Charging stops at 75%.");
 }
 
+TEST_F(Program, SaysWhereTheHardwareRefusesTheWish) {
+    fs::remove(sysfs / "class/power_supply" / bat0End);
+    fs::create_directory(sysfs / "class/power_supply" / bat0End); // which cannot be written to
+    wish({.chargeLimitEnabled = true, .chargeLimitPercent = 75});
+    const auto once = run({"--once"});
+    EXPECT_EQ(once.exitStatus, 1);
+    EXPECT_EQ(once.errors, "pwr_limiter: " + bat0End + " did not take 75: Is a directory\n");
+    const auto told = Json::parse(details());
+    EXPECT_EQ(told["lastError"], bat0End + " did not take 75: Is a directory");
+    EXPECT_TRUE(told["batteries"][0]["inForcePercent"].is_null());
+    EXPECT_TRUE(status() && status()->daemonRunning);
+}
+
 TEST_F(Program, IsContentWithAMachineThatHasNoInterface) {
     fs::remove(fs::path(sysfs) / "class/power_supply" / bat0End);
     wish({.chargeLimitEnabled = true, .chargeLimitPercent = 75});

@@ -1,77 +1,15 @@
-// The helper at work, in a time of the test's own.
+// The helper's rounds: when they come, and what becomes of its files.
 
-#include "limiter/program/service.h"
+#include <set>
 
-#include <malloc.h>
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include "base/number_text.h"
-#include "limiter/support/odd_hardware.h"
-#include "limiter/support/simulated_laptop.h"
-#include "limiter/support/test_time.h"
-#include "support/temporary_folder.h"
+#include "limiter/support/served_laptop.h"
 
 namespace quelby::limiter {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr double day = 86400;
-
-// QUELBY_WEEK_STEP=1 asks for every single round of a week; usually it has an eighth of them.
-double weekStep() {
-    const char* const asked = std::getenv("QUELBY_WEEK_STEP");
-    return asked == nullptr ? 8 : decimalNumber(asked).value_or(8);
-}
-
-const std::string endThreshold = "class/power_supply/BAT0/charge_control_end_threshold";
-
-class ServiceTest : public testing::Test {
-protected:
-    ServiceTest() {
-        addLaptop(hardware);
-        hardware[endThreshold].text = "100";
-        hardware["class/power_supply/BAT0/charge_control_start_threshold"].text = "0";
-    }
-
-    void write(const DaemonConfig& config) const { folder.write("config.json", encode(config).value()); }
-
-    [[nodiscard]] DaemonStatus status() const {
-        const auto decoded = decodeDaemonStatus(folder.read("status.json"));
-        EXPECT_TRUE(decoded.has_value());
-        return decoded.value_or(DaemonStatus());
-    }
-
-    [[nodiscard]] DaemonConfig config() const {
-        return decodeDaemonConfig(folder.read("config.json")).value_or(DaemonConfig());
-    }
-
-    [[nodiscard]] Result<void> run() { return service().run(); }
-
-    Service& service() {
-        limiter.emplace(Surroundings{.attributes = hardware,
-                                     .pause = [](std::chrono::milliseconds) {},
-                                     .rivals = [] { return "TLP"; },
-                                     .save =
-                                         [this](const LimiterState& state) {
-                                             saved = state;
-                                             return true;
-                                         }},
-                        saved);
-        service_.emplace(*limiter, folder.path(), time, time);
-        return *service_;
-    }
-
-    // A disk would be what takes most of a simulated week.
-    TemporaryFolder folder{fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()};
-    OddHardware hardware;
-    TestTime time;
-    LimiterState saved;
-    std::optional<Limiter> limiter;
-    std::optional<Service> service_;
-};
+class ServiceTest : public ServedLaptop {};
 
 TEST_F(ServiceTest, SaysThatItRunsAndInTheEndThatItDoesNot) {
     time.sleep = [&](double, bool) {
@@ -260,53 +198,6 @@ TEST_F(ServiceTest, PutsTheTimeOfACalibrationRightThatAnApplicationWritesBack) {
         return Wake::change;
     };
     EXPECT_TRUE(run());
-}
-
-// A week of a person who works unplugged in the morning and plugs in at noon, with a calibration a week.
-TEST_F(ServiceTest, ServesAWeekAndNeedsNoMoreMemoryInTheEnd) {
-    hardware.remove("class/power_supply/BAT0");
-    addBattery(hardware, "BAT0");
-    hardware[endThreshold].text = "100";
-    hardware["class/power_supply/BAT0/charge_control_start_threshold"].text = "0";
-    SimulatedLaptop laptop(hardware);
-    write({.chargeLimitEnabled = true,
-           .chargeLimitPercent = 80,
-           .calibrationEnabled = true,
-           .calibrationIntervalDays = 7,
-           .lastCalibrationTimestamp = 1'700'000'000 - 5 * day});
-    const double begin = time.now();
-    double highest = 0;
-    double calibrating = 0;
-    double held = 0;
-    std::size_t memoryOnTheFirstDay = 0;
-    time.sleep = [&](double pause, bool) {
-        const double seconds = pause * weekStep();
-        time.pass(seconds);
-        hardware.writes.clear();
-        const double hour = (time.now() - begin) / 3600;
-        laptop.plug(static_cast<int>(hour) % 24 >= 4);
-        laptop.pass(seconds);
-        const auto now = status();
-        EXPECT_FALSE(now.chargingInhibited && now.calibrationActive);
-        calibrating += now.calibrationActive ? seconds : 0;
-        held += now.chargingInhibited ? seconds : 0;
-        highest = std::max(highest, now.calibrationActive ? 0 : laptop.percent());
-        if (memoryOnTheFirstDay == 0 && time.now() - begin > day) {
-            memoryOnTheFirstDay = ::mallinfo2().uordblks;
-        }
-        return time.now() - begin < 7 * day ? Wake::time : Wake::stop;
-    };
-    EXPECT_TRUE(run());
-    EXPECT_GT(time.waits, 75'000 / weekStep());
-    EXPECT_GT(held, 5 * 15 * 3600);
-    EXPECT_GT(calibrating, 3600);
-    EXPECT_LT(calibrating, 4 * 3600); // with the charging before it
-    EXPECT_LE(highest, 100);
-    EXPECT_EQ(config().lastCalibrationTimestamp, limiter->lastCalibration());
-    EXPECT_GT(limiter->lastCalibration(), begin + 2 * day);
-    EXPECT_LT(limiter->lastCalibration(), begin + 3 * day);
-    EXPECT_EQ(hardware.text(endThreshold), "80");
-    EXPECT_LE(::mallinfo2().uordblks, memoryOnTheFirstDay + 4096);
 }
 
 } // namespace

@@ -54,6 +54,17 @@ TEST_F(SharedConfigTest, PutsTheTrueTimeInAndLeavesTheSettings) {
               0666U);
 }
 
+TEST_F(SharedConfigTest, LeavesWhatOtherProgramsKeepInTheFile) {
+    outer.write("config.json",
+                R"({"note":{"by":"me"},"chargeLimitEnabled":true,"chargeLimitPercent":75,)"
+                R"("calibrationEnabled":false,"calibrationIntervalDays":30,"lastCalibrationTimestamp":0})");
+    config.read(folder);
+    config.correct(folder, 1'700'000'000);
+    EXPECT_EQ(outer.read("config.json"),
+              R"({"chargeLimitEnabled":true,"chargeLimitPercent":75,"calibrationEnabled":false,)"
+              R"("calibrationIntervalDays":30,"lastCalibrationTimestamp":1700000000,"note":{"by":"me"}})");
+}
+
 TEST_F(SharedConfigTest, WritesNothingWhereTheTimeIsTrue) {
     write(limitOn);
     config.read(folder);
@@ -94,7 +105,7 @@ TEST_F(SharedConfigTest, LosesNoSettingToItsCorrectionsWhoeverComesFirst) {
         for (std::int64_t percent = 0; percent < 200; ++percent) {
             auto wish = limitOn;
             wish.chargeLimitPercent = percent;
-            writeSharedFile(outer.path() / "config.json", encode(wish).value());
+            EXPECT_TRUE(writeSharedFile(outer.path() / "config.json", encode(wish).value()));
         }
         isDone = true;
     });

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "limiter/kernel/rivals.h"
-#include "limiter/support/odd_hardware.h"
+#include "limiter/support/makers.h"
 #include "limiter/words/explanation.h"
 #include "limiter/words/missing_interface.h"
 #include "support/temporary_folder.h"

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "limiter/limiter.h"
-#include "limiter/support/odd_hardware.h"
+#include "limiter/support/makers.h"
 
 namespace quelby::limiter {
 
