@@ -45,7 +45,7 @@ public:
     }
 
     [[nodiscard]] std::unique_ptr<DashboardModel> model() {
-        return std::make_unique<DashboardModel>(monitor_, machine_->platform().clock,
+        return std::make_unique<DashboardModel>(monitor_, *machine_->platform().clock,
                                                 ProgramActions{.quit = [] {}, .openBatterySettings = [] {}});
     }
 
