@@ -1,0 +1,135 @@
+#include "cli/arguments/values.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include "base/number_text.h"
+#include "ui/presentation/cards/settings_panel.h"
+
+namespace quelby::cli {
+
+namespace {
+
+constexpr double shortestInterval = 0.01;     // seconds
+constexpr double longestInterval = 1'000'000; // eleven days; a timer counts milliseconds in 32 bits
+
+template <typename Cases>
+std::vector<std::string_view> rawValues(const Cases& cases) {
+    std::vector<std::string_view> values;
+    std::transform(cases.begin(), cases.end(), std::back_inserter(values),
+                   [](auto one) { return rawValue(one); });
+    return values;
+}
+
+// As in "7, 14, 30 or 60".
+template <typename Values>
+std::string oneOf(const Values& values) {
+    const auto last = std::prev(values.end());
+    return fmt::format("{} or {}", fmt::join(values.begin(), last, ", "), *last);
+}
+
+// "on" or "off".
+std::optional<bool> switchPosition(const std::string& text) {
+    return text == "on" ? std::optional(true) : text == "off" ? std::optional(false) : std::nullopt;
+}
+
+} // namespace
+
+std::string knownRanges() {
+    return oneOf(rawValues(allTimeRanges));
+}
+
+std::string knownCalibrationIntervals() {
+    return oneOf(calibrationIntervals);
+}
+
+std::int64_t parseCount(const std::string& text) {
+    const auto count = wholeNumber(text);
+    if (!count || *count < 1) {
+        throw CLI::ValidationError(
+            fmt::format("--count takes a whole number of 1 or more, not \"{}\"", text));
+    }
+    return *count;
+}
+
+std::chrono::duration<double> parseInterval(const std::string& text) {
+    const auto seconds = decimalNumber(text);
+    if (!seconds || *seconds < shortestInterval || *seconds > longestInterval) {
+        throw CLI::ValidationError(
+            fmt::format("--interval takes a number of seconds from 0.01 to 1000000, not \"{}\"", text));
+    }
+    return std::chrono::duration<double>(*seconds);
+}
+
+TimeRange parseRange(const std::string& text) {
+    const auto range = timeRange(text);
+    if (!range) {
+        throw CLI::ValidationError(fmt::format("--range takes {}, not \"{}\"", knownRanges(), text));
+    }
+    return *range;
+}
+
+MenuBarDisplay parseDisplay(const std::string& text) {
+    const auto display = menuBarDisplay(text);
+    if (!display) {
+        throw CLI::ValidationError(fmt::format("--display takes one of \"{}\", not \"{}\"",
+                                               fmt::join(rawValues(allMenuBarDisplays), R"(", ")"), text));
+    }
+    return *display;
+}
+
+TitleFormat parseTitleFormat(const std::string& text) {
+    constexpr std::array names{std::pair("plain", TitleFormat::plain), std::pair("json", TitleFormat::json),
+                               std::pair("waybar", TitleFormat::waybar)};
+    for (const auto& [name, format] : names) {
+        if (text == name) {
+            return format;
+        }
+    }
+    throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
+}
+
+LimitCommand parseLimit(const std::string& text) {
+    const auto percent = wholeNumber(text);
+    const bool settable = percent && *percent >= stopRange.lowest && *percent <= stopRange.highest &&
+                          *percent % stopRange.step == 0;
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(
+            fmt::format("limit takes show, on, off or a percentage from {} to {} in steps of {}, not \"{}\"",
+                        stopRange.lowest, stopRange.highest, stopRange.step, text));
+    }
+    return {.enable = switchPosition(text), .percent = settable ? percent : std::nullopt};
+}
+
+CalibrationCommand parseCalibration(const std::string& text) {
+    const auto days = wholeNumber(text);
+    const bool settable = days && std::find(calibrationIntervals.begin(), calibrationIntervals.end(),
+                                            *days) != calibrationIntervals.end();
+    if (text != "show" && !switchPosition(text) && !settable) {
+        throw CLI::ValidationError(fmt::format("calibration takes show, on, off, {}, not \"{}\"",
+                                               knownCalibrationIntervals(), text));
+    }
+    return {.enable = switchPosition(text), .days = settable ? days : std::nullopt};
+}
+
+HelperWish parseHelperWish(const std::string& text) {
+    constexpr std::array names{std::pair("status", HelperWish::status),
+                               std::pair("install", HelperWish::install),
+                               std::pair("uninstall", HelperWish::uninstall)};
+    for (const auto& [name, wish] : names) {
+        if (text == name) {
+            return wish;
+        }
+    }
+    throw CLI::ValidationError(fmt::format("helper takes status, install or uninstall, not \"{}\"", text));
+}
+
+} // namespace quelby::cli

@@ -1,0 +1,26 @@
+// What the words on the command line mean. Each throws a CLI::ValidationError that names what is wrong and what
+// would be right. Numbers are read here and not by the option library, which would follow the locale.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+
+#include "cli/arguments/command_line.h"
+
+namespace quelby::cli {
+
+[[nodiscard]] std::int64_t parseCount(const std::string& text);
+[[nodiscard]] std::chrono::duration<double> parseInterval(const std::string& text);
+[[nodiscard]] TimeRange parseRange(const std::string& text);
+[[nodiscard]] MenuBarDisplay parseDisplay(const std::string& text);
+[[nodiscard]] TitleFormat parseTitleFormat(const std::string& text);
+[[nodiscard]] LimitCommand parseLimit(const std::string& text);
+[[nodiscard]] CalibrationCommand parseCalibration(const std::string& text);
+[[nodiscard]] HelperWish parseHelperWish(const std::string& text);
+
+// As in "30m, 1h, 24h or 7d".
+[[nodiscard]] std::string knownRanges();
+[[nodiscard]] std::string knownCalibrationIntervals();
+
+} // namespace quelby::cli
