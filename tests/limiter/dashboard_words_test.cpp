@@ -1,6 +1,9 @@
 // What a person reads while the helper holds, releases and calibrates a battery: the helper at work on a
-// simulated laptop, and quelbyctl beside it.
+// simulated laptop, and the application's programs beside it.
 
+#include <csignal>
+
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -9,6 +12,7 @@
 #include "limiter/support/simulated_laptop.h"
 #include "limiter/support/test_time.h"
 #include "support/quelbyctl.h"
+#include "support/running_program.h"
 #include "support/temporary_folder.h"
 
 namespace quelby::limiter {
@@ -41,21 +45,38 @@ protected:
         outer.write("proc/stat", "cpu 1 1 1 1\n");
     }
 
+    static std::unique_ptr<SysfsAttributes> attributesIn(const fs::path& root) {
+        fs::create_directory(root);
+        return std::move(*SysfsAttributes::open(root));
+    }
+
+    // Of either program, so that it sees this laptop and nothing of its user's.
+    [[nodiscard]] std::vector<std::string> withPlaces(std::vector<std::string> words) const {
+        words.insert(words.end(),
+                     {"--sysfs-root", outer.path() / "sys", "--config-dir", outer.path() / "shared",
+                      "--data-dir", outer.path() / "data", "--preferences", outer.path() / "preferences"});
+        return words;
+    }
+
     void wish(const DaemonConfig& config) const { outer.write("shared/config.json", encode(config).value()); }
 
     [[nodiscard]] Json chargeLimit() const {
-        const auto printed =
-            quelbyctl({"dashboard", "--json", "--sysfs-root", outer.path() / "sys", "--config-dir",
-                       outer.path() / "shared", "--data-dir", outer.path() / "data", "--preferences",
-                       outer.path() / "preferences"});
+        const auto printed = quelbyctl(withPlaces({"dashboard", "--json"}));
         EXPECT_EQ(printed.exitStatus, 0) << printed.errors;
         return Json::parse(printed.output, nullptr, false)["chargeLimit"];
     }
 
     [[nodiscard]] std::string line() const {
         const auto limit = chargeLimit();
-        return limit.contains("status") && limit["status"].is_object() ? limit["status"]["text"]
+        return limit.contains("status") && limit["status"].is_object() ? limit["status"]["text"]["text"]
                                                                        : Json("none");
+    }
+
+    // The sentence of the published fields, for terminals and scripts.
+    [[nodiscard]] std::string sentence() const {
+        const auto printed = quelbyctl(withPlaces({"status", "--json"}));
+        EXPECT_EQ(printed.exitStatus, 0) << printed.errors;
+        return Json::parse(printed.output, nullptr, false).value("chargeLimitStatus", "none");
     }
 
     // The helper serves the laptop for so long, round by round, and goes on with the next call.
@@ -89,7 +110,7 @@ protected:
     }
 
     TemporaryFolder outer{fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()};
-    std::unique_ptr<SysfsAttributes> attributes = std::move(*SysfsAttributes::open(outer.path() / "sys"));
+    std::unique_ptr<SysfsAttributes> attributes = attributesIn(outer.path() / "sys");
     SimulatedLaptop laptop{*attributes};
     TestTime time;
     LimiterState saved;
@@ -103,29 +124,33 @@ TEST_F(DashboardWords, TellEachStageOfALimitAndOfItsCalibration) {
     serve(minute);
     EXPECT_TRUE(chargeLimit()["helperInstalled"]);
     EXPECT_EQ(line(), "Charging to 80%");
-    serve(60 * minute);
+    EXPECT_EQ(sentence(), "Charging to 80%");
+    serve(61 * minute);
     EXPECT_NEAR(laptop.percent(), 80, 0.1);
-    serve(minute);
     EXPECT_EQ(line(), "Holding at 80%");
+    EXPECT_EQ(sentence(), "Holding at 80%");
     laptop.plug(false);
     serve(60 * minute);
     EXPECT_LT(laptop.percent(), 70);
-    EXPECT_EQ(line(), "Waiting for charger");
+    EXPECT_EQ(line(), "Will activate when charger is connected");
+    EXPECT_EQ(sentence(), "Waiting for charger");
     laptop.plug(true);
     config.calibrationEnabled = true;
     wish(config);
     serve(minute);
-    EXPECT_EQ(line(), "Calibrating: charging to 100%");
+    EXPECT_EQ(line(), "Calibrating — charging to 100%");
+    EXPECT_EQ(sentence(), "Calibrating: charging to 100%");
     serve(65 * minute);
     EXPECT_EQ(laptop.percent(), 100);
-    EXPECT_EQ(line().rfind("Calibrating: holding at 100%, ", 0), 0U) << line();
+    EXPECT_EQ(line(), "Calibrating — charging to 100%");
+    EXPECT_EQ(sentence().rfind("Calibrating: holding at 100%, ", 0), 0U) << sentence();
     laptop.plug(false);
     serve(minute);
-    EXPECT_EQ(line(), "Calibrating: paused: charger unplugged");
+    EXPECT_EQ(sentence(), "Calibrating: paused: charger unplugged");
     laptop.plug(true);
     serve(90 * minute);
     EXPECT_GT(saved.lastCalibration, 1'700'000'000);
-    EXPECT_NE(line().rfind("Calibrating: ", 0), 0U) << line();
+    EXPECT_EQ(line(), "Holding at 80%"); // the battery is above it, and is charged no more
     EXPECT_EQ(decodeDaemonConfig(outer.read("shared/config.json"))->lastCalibrationTimestamp,
               saved.lastCalibration);
     laptop.plug(false);
@@ -139,6 +164,19 @@ TEST_F(DashboardWords, TellEachStageOfALimitAndOfItsCalibration) {
     EXPECT_EQ(laptop.percent(), 100);
     EXPECT_EQ(attributes->read("class/power_supply/BAT0/charge_control_end_threshold"), "100");
     EXPECT_FALSE(chargeLimit()["enabled"]);
+    EXPECT_EQ(sentence(), "");
+}
+
+TEST_F(DashboardWords, AreNoOthersForTheApplicationWithoutADisplay) {
+    wish({.chargeLimitEnabled = true, .chargeLimitPercent = 80});
+    serve(61 * minute);
+    ASSERT_EQ(line(), "Holding at 80%");
+    const auto before = outer.read("shared/config.json");
+    RunningProgram recorder(withPlaces({QUELBY_BINARY_DIR "/quelby", "--headless"}), plainEnvironment());
+    EXPECT_THAT(recorder.line(), testing::HasSubstr("80 % plugged in"));
+    recorder.signal(SIGTERM);
+    EXPECT_EQ(recorder.end().exitStatus, 0);
+    EXPECT_EQ(outer.read("shared/config.json"), before); // it changes no setting
 }
 
 TEST_F(DashboardWords, OfferTheInstallationAgainOnceTheHelperHasEnded) {

@@ -183,7 +183,7 @@ TEST_F(HostileUserTest, CannotKeepItBusyWithAFloodOfChanges) {
     ::clock_gettime(CLOCK_MONOTONIC, &begin);
     ASSERT_TRUE(asOrdinaryUser([&] {
         const auto text = encode(limitOn).value();
-        for (int count = 0; count < 5000; ++count) {
+        for (int count = 0; count < 2000; ++count) {
             const auto made = shared / "new.json";
             const FileDescriptor file(::open(made.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666));
             if (::write(file.number(), text.data(), text.size()) < 0 ||
@@ -249,8 +249,9 @@ TEST_F(HostileUserTest, DecidesAtMostAboutTheLevelWithinItsBounds) {
 }
 
 TEST_F(HostileUserTest, CannotMakeItLoseItsWayByTakingTheFolderItselfAway) {
+    hurryUp();
     wish(limitOn);
-    RunningProgram helper(words());
+    RunningProgram helper(words(), hurried(30)); // its next regular round tells
     waitUntilItRuns();
     fs::remove_all(shared); // that only the owner of the folder above can
     fs::create_directory(shared);

@@ -1,6 +1,7 @@
 #include "limiter/support/limiter_program.h"
 
 #include <array>
+#include <ctime>
 
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -37,6 +38,15 @@ std::vector<std::string> LimiterProgram::words(const std::vector<std::string>& o
     std::vector<std::string> all{program, "--folder", shared, "--state", state, "--sysfs-root", sysfs};
     all.insert(all.end(), options.begin(), options.end());
     return all;
+}
+
+void LimiterProgram::hurryUp() {
+    program = fs::path(QUELBY_BINARY_DIR) / "hurried_limiter";
+}
+
+Environment LimiterProgram::hurried(int factor) {
+    static const auto since = std::to_string(::time(nullptr));
+    return {{"QUELBY_HURRY", std::to_string(factor)}, {"QUELBY_HURRY_SINCE", since}};
 }
 
 void LimiterProgram::wish(const DaemonConfig& config) const {
