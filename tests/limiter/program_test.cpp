@@ -87,6 +87,21 @@ TEST_F(Program, CarriesTheWishOutOnceAndLeavesItInForce) {
     EXPECT_EQ(told["explanation"], "Charging stops at 75%.");
 }
 
+TEST_F(Program, SetsAndPutsBackTheModeInWhichLevelsCountAnyNumberOfTimes) {
+    setAttribute("BAT0/status", "Charging"); // one look is enough
+    setAttribute("BAT0/charge_types", "Fast [Standard] Custom");
+    for (int count = 0; count < 2; ++count) {
+        wish({.chargeLimitEnabled = true, .chargeLimitPercent = 75});
+        EXPECT_EQ(run({"--once"}).exitStatus, 0);
+        EXPECT_EQ(attribute("BAT0/charge_types"), "Custom");
+        EXPECT_EQ(attribute(bat0End), "75");
+        wish({.chargeLimitEnabled = false});
+        EXPECT_EQ(run({"--once"}).exitStatus, 0);
+        EXPECT_EQ(attribute("BAT0/charge_types"), "Standard");
+        EXPECT_EQ(attribute(bat0End), "100");
+    }
+}
+
 TEST_F(Program, SaysWhereTheHardwareRefusesTheWish) {
     fs::remove(sysfs / "class/power_supply" / bat0End);
     fs::create_directory(sysfs / "class/power_supply" / bat0End); // which cannot be written to
