@@ -15,6 +15,7 @@ KeyDown keyDown(NSEvent* event) {
 
 } // namespace
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the block copies it, and of a reference only where it lies
 void addKeyDownMonitor(std::function<bool(const KeyDown&)> handler) {
     @autoreleasepool {
         [NSEvent addLocalMonitorForEventsMatchingMask:NSEventMaskKeyDown

@@ -17,6 +17,8 @@ public:
 
     // `leave` is what the Escape key does where nothing in the dashboard has a use for it.
     PopoverContent(ModelMaker makeModel, std::function<void()> leave);
+    PopoverContent(const PopoverContent&) = delete;
+    PopoverContent& operator=(const PopoverContent&) = delete;
     ~PopoverContent() override;
 
     // Shows the cards the first time, and later what was shown last.

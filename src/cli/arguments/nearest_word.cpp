@@ -35,9 +35,10 @@ std::string_view nearestWord(std::string_view wrong, const std::vector<std::stri
     if (!wrong.empty() && completed != words.end()) {
         return *completed;
     }
-    return *std::min_element(words.begin(), words.end(), [&](std::string_view one, std::string_view other) {
-        return distance(wrong, one) < distance(wrong, other);
-    });
+    return *std::min_element(words.begin(), words.end(),
+                             [&](std::string_view nearer, std::string_view farther) {
+                                 return distance(wrong, nearer) < distance(wrong, farther);
+                             });
 }
 
 } // namespace quelby::cli

@@ -80,7 +80,7 @@ TimeRange parseRange(const std::string& text) {
 MenuBarDisplay parseDisplay(const std::string& text) {
     const auto display = menuBarDisplay(text);
     if (!display) {
-        throw CLI::ValidationError(fmt::format("--display takes one of \"{}\", not \"{}\"",
+        throw CLI::ValidationError(fmt::format(R"(--display takes one of "{}", not "{}")",
                                                fmt::join(rawValues(allMenuBarDisplays), R"(", ")"), text));
     }
     return *display;
