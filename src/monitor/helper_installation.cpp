@@ -30,7 +30,7 @@ std::optional<PackageManager> PowerMonitor::packageManager() const {
     return platform_.helperInstaller->packageManager();
 }
 
-void PowerMonitor::fullUninstall(const std::function<void()>& then) {
+void PowerMonitor::fullUninstall(const std::function<void()>& then) const {
     // Without the password the helper stays, and all else goes nevertheless.
     static_cast<void>(platform_.helperInstaller->uninstallEverything());
     std::error_code ignored;

@@ -1,5 +1,7 @@
 #include "monitor/power_monitor.h"
 
+#include <utility>
+
 #include "monitor/battery_reading.h"
 #include "monitor/component_power.h"
 #include "monitor/cpu_usage.h"
@@ -8,13 +10,13 @@
 
 namespace quelby {
 
-std::shared_ptr<PowerMonitor> PowerMonitor::create(const Platform& platform, const MonitorOptions& options) {
-    return std::make_shared<PowerMonitor>(Private{}, platform, options);
+std::shared_ptr<PowerMonitor> PowerMonitor::create(Platform platform, MonitorOptions options) {
+    return std::make_shared<PowerMonitor>(Private{}, std::move(platform), std::move(options));
 }
 
-PowerMonitor::PowerMonitor(Private, const Platform& platform, const MonitorOptions& options)
-    : platform_(platform)
-    , options_(options)
+PowerMonitor::PowerMonitor(Private, Platform platform, MonitorOptions options)
+    : platform_(std::move(platform))
+    , options_(std::move(options))
     , storeDisplay_(menuBarDisplay.observe([preferences = platform_.preferences](MenuBarDisplay coming) {
         preferences->setText(preference_keys::menuBarDisplay, rawValue(coming));
     })) {}

@@ -39,10 +39,9 @@ public:
     // A monitor at rest, every field at its default; asks the platform for nothing yet. The platform's parts
     // outlive the monitor. Shared, because whoever shows the figures shares it, and because the timer holds
     // it weakly.
-    [[nodiscard]] static std::shared_ptr<PowerMonitor> create(const Platform& platform,
-                                                              const MonitorOptions& options = {});
+    [[nodiscard]] static std::shared_ptr<PowerMonitor> create(Platform platform, MonitorOptions options = {});
 
-    PowerMonitor(Private, const Platform& platform, const MonitorOptions& options);
+    PowerMonitor(Private, Platform platform, MonitorOptions options);
 
     // Restores the preferences, opens the history, runs one cycle at once, loads the history that is shown,
     // and then runs a cycle each interval. Called again while it runs, it leaves two timers running.
@@ -77,7 +76,7 @@ public:
 
     // Removes the helper, if the user agrees, the history, all preferences, the start at login and the
     // program itself, unless it came as a package, and calls `then` at the end, whatever could not be removed.
-    void fullUninstall(const std::function<void()>& then);
+    void fullUninstall(const std::function<void()>& then) const;
 
     // Starts the program at login, or no longer. The choice is kept also where the system does not follow it.
     void setLaunchAtLogin(bool enabled);
