@@ -56,7 +56,7 @@ for shell in bash zsh fish; do
     offers_all $shell quelbyctl --replay it title --format '' -- plain json waybar i3blocks polybar tmux
     offers_all $shell quelbyctl limit '' -- show on off
     offers_no $shell quelbyctl limit '' -- PERCENT
-    offers_all $shell quelbyctl history -- --range --json --csv
+    offers_all $shell quelbyctl history - -- --range --json --csv
     offers_all $shell quelby --replay rec -- recording.jsonl
     offers_all $shell quelby --sc -- --screenshot --scale --scroll
 done

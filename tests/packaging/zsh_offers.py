@@ -25,10 +25,10 @@ def read_until(terminal, mark):
 def words_offered(folder, words):
     child, terminal = pty.fork()
     if child == 0:
-        os.environ.update(TERM="dumb", LC_ALL="C.UTF-8")
+        os.environ.update(TERM="dumb", LC_ALL="C.UTF-8", PS1=PROMPT.decode())
         os.execvp("zsh", ["zsh", "-f", "-i"])
     setup = [
-        "PROMPT='<ready>'; unset zle_bracketed_paste; LISTMAX=1000; stty -echo columns 300 rows 1000",
+        "unset zle_bracketed_paste; LISTMAX=1000; stty columns 300 rows 1000",
         f"fpath=('{folder}' $fpath); autoload -Uz compinit; compinit -u -D",
         # What would be inserted or listed is printed between two marks instead.
         "compadd() { local -a o_found; builtin compadd -O o_found \"$@\"; offered+=(\"${o_found[@]}\"); builtin compadd \"$@\" }",
