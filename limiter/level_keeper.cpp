@@ -106,7 +106,10 @@ void LevelKeeper::look() {
 
 void LevelKeeper::letGo(const Setting& found) {
     if (!mechanism_->holdsByItself()) {
+        aim_ = Aim{.kind = Aim::Kind::lift};
         write(mechanism_->lifted(found), 0);
+    } else {
+        look();
     }
 }
 

@@ -51,6 +51,10 @@ RoundOutcome Limiter::round(const Wish& wish, double rememberedCalibration, cons
     save();
     hold_.look(allLookHeld(wish), moment.awake);
     lastRound_ = moment.awake;
+    return describe(wish, moment);
+}
+
+RoundOutcome Limiter::describe(const Wish& wish, const RoundMoment& moment) {
     return {.status = status(moment), .details = details(wish, moment), .isUndecided = hold_.isUndecided()};
 }
 
@@ -266,6 +270,8 @@ void Limiter::letGo() {
     for (auto& [name, kept] : kept_) {
         if (state_.found.contains(name)) {
             kept.keeper.letGo(foundOf(name));
+        } else {
+            kept.keeper.look();
         }
     }
     if (saved_ != state_) {

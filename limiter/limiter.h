@@ -55,6 +55,9 @@ public:
     // The helper ends: charging is released where holding the battery would need it, and all is taken down.
     void letGo();
 
+    // What holds now, without looking again; for after the two above.
+    [[nodiscard]] RoundOutcome describe(const Wish& wish, const RoundMoment& moment);
+
     [[nodiscard]] double lastCalibration() const { return state_.lastCalibration; }
 
 private:

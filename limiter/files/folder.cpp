@@ -127,10 +127,28 @@ std::string Folder::writeNeighbour(std::string_view content, mode_t mode, Durabi
     return name;
 }
 
+// Some file systems write a new file to the disk at once, and wait for that, when it is renamed over another
+// one. Where both change places, it goes there with all the others, or never, as the next one comes sooner.
+bool Folder::takePlaceOfFile(const std::string& neighbour, const char* name) const {
+    const int folder = directory_.number();
+
+    struct stat status {};
+
+    if (::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) != 0 || !S_ISREG(status.st_mode) ||
+        ::renameat2(folder, neighbour.c_str(), folder, name, RENAME_EXCHANGE) != 0) {
+        return false;
+    }
+    remove(neighbour);
+    return true;
+}
+
 bool Folder::replace(const char* name, std::string_view content, mode_t mode, Durability durability) const {
     const auto neighbour = writeNeighbour(content, mode, durability);
     if (neighbour.empty()) {
         return false;
+    }
+    if (durability == Durability::afterCrash && takePlaceOfFile(neighbour, name)) {
+        return true;
     }
     if (::renameat(directory_.number(), neighbour.c_str(), directory_.number(), name) != 0) {
         remove(neighbour);

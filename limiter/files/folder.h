@@ -82,6 +82,7 @@ private:
     // The name of a new file with the content, or an empty text.
     [[nodiscard]] std::string writeNeighbour(std::string_view content, mode_t mode,
                                              Durability durability) const;
+    [[nodiscard]] bool takePlaceOfFile(const std::string& neighbour, const char* name) const;
     void remove(const std::string& name) const;
 
     FileDescriptor directory_;

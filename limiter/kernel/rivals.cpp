@@ -8,6 +8,8 @@ namespace quelby::limiter {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 const std::string groups = "fs/cgroup/";
 
 struct Rival {
@@ -32,24 +34,24 @@ bool startsWith(const std::string& text, const std::string& beginning) {
     return text.rfind(beginning, 0) == 0;
 }
 
-bool runsForTheMachine(const Attributes& attributes, const std::filesystem::path& serviceManagerFolder,
+bool runsForTheMachine(const Attributes& attributes, const fs::path& serviceManagerFolder,
                        const std::string& service) {
     std::error_code ignored;
     return attributes.exists(groups + "system.slice/" + service) ||
            (!serviceManagerFolder.empty() &&
-            std::filesystem::is_symlink(serviceManagerFolder / ("invocation:" + service), ignored));
+            fs::is_symlink(serviceManagerFolder / ("invocation:" + service), ignored));
 }
 
 bool runsForAUser(const Attributes& attributes, const std::string& service) {
-    const auto users = groups + "user.slice";
+    const fs::path users = groups + "user.slice";
     for (const auto& user : attributes.names(users)) {
-        for (const auto& manager : attributes.names(users + '/' + user)) {
+        for (const auto& manager : attributes.names(users / user)) {
             if (!startsWith(manager, "user@")) {
                 continue;
             }
-            const auto session = users + '/' + user + '/' + manager;
-            for (const char* const slice : {"/background.slice/", "/app.slice/", "/session.slice/", "/"}) {
-                if (attributes.exists(session + slice + service)) {
+            const auto session = users / user / manager;
+            for (const char* const slice : {"background.slice", "app.slice", "session.slice", ""}) {
+                if (attributes.exists(session / slice / service)) {
                     return true;
                 }
             }

@@ -9,7 +9,6 @@
 #include "limiter/kernel/sysfs_attributes.h"
 #include "limiter/program/readiness.h"
 #include "limiter/program/service.h"
-#include "limiter/records/status_text.h"
 
 namespace quelby::limiter {
 
@@ -53,15 +52,6 @@ Surroundings surroundingsFor(const Options& options, SysfsAttributes& attributes
                 }};
 }
 
-// The helper that held the battery is gone, and could not say so itself.
-void release(const Options& options, Limiter& limiter, Clock& clock) {
-    limiter.letGo();
-    if (const auto folder = Folder::openShared(options.folder)) {
-        static_cast<void>(folder->replace("status.json", encode(DaemonStatus{.lastUpdate = clock.now()}),
-                                          readableFile, Durability::afterCrash));
-    }
-}
-
 Result<void> carryOut(const Options& options, const Time& time) {
     if (auto refused = refuseOrdinaryUsers(options); !refused) {
         return refused;
@@ -85,9 +75,9 @@ Result<void> carryOut(const Options& options, const Time& time) {
     Service service(limiter, options.folder, time.clock, *wakeups);
     switch (options.task) {
     case Task::restore:
-        return limiter.restore();
+        return service.restore();
     case Task::release:
-        release(options, limiter, time.clock);
+        service.release();
         return {};
     case Task::once:
         openToEverybody(options);

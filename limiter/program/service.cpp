@@ -24,6 +24,11 @@ bool sayTheSame(Details one, const Details& other) {
 Service::Service(Limiter& limiter, std::filesystem::path folder, Clock& clock, Wakeups& wakeups)
     : limiter_(limiter), path_(std::move(folder)), clock_(clock), wakeups_(wakeups) {}
 
+bool Service::isThere() const {
+    std::error_code ignored;
+    return std::filesystem::exists(path_, ignored);
+}
+
 bool Service::haveFolder() {
     if (folder_ && !folder_->isGone()) {
         return true;
@@ -49,6 +54,10 @@ RoundMoment Service::nextMoment() {
     return moment;
 }
 
+Wish Service::wish() const {
+    return config_.last() ? wishFrom(*config_.last()) : Wish();
+}
+
 bool Service::round() {
     const auto moment = nextMoment();
     last_ = moment;
@@ -57,8 +66,7 @@ bool Service::round() {
         config_.read(*folder_);
     }
     const auto& known = config_.last();
-    outcome_ = limiter_.round(known ? wishFrom(*known) : Wish(),
-                              known ? credibleCalibration(*known, moment.now) : 0, moment);
+    outcome_ = limiter_.round(wish(), known ? credibleCalibration(*known, moment.now) : 0, moment);
     if (!hasFolder) {
         return false;
     }
@@ -122,8 +130,7 @@ Result<void> Service::run(const std::function<void()>& whenReady) {
             return problem("cannot write to " + path_.string());
         }
     }
-    limiter_.letGo();
-    sayGoodbye();
+    release();
     return {};
 }
 
@@ -139,12 +146,31 @@ Result<void> Service::runOnce() {
     return error ? problem(*error) : Result<void>();
 }
 
-void Service::sayGoodbye() {
-    if (folder_) {
-        DaemonStatus status{.batteryPercent = outcome_.status.batteryPercent, .lastUpdate = clock_.now()};
-        static_cast<void>(
-            folder_->replace("status.json", encode(status), readableFile, Durability::afterCrash));
+Result<void> Service::restore() {
+    auto restored = limiter_.restore();
+    sayGoodbye({});
+    return restored;
+}
+
+void Service::release() {
+    if (isThere() && haveFolder()) {
+        config_.read(*folder_);
     }
+    limiter_.letGo();
+    sayGoodbye(wish());
+}
+
+// In the files, for whoever still reads them: nobody is at work any more, and this is what holds.
+void Service::sayGoodbye(const Wish& wish) {
+    if (!isThere() || !haveFolder()) {
+        return;
+    }
+    const auto outcome = limiter_.describe(wish, nextMoment());
+    const DaemonStatus status{.batteryPercent = outcome.status.batteryPercent,
+                              .lastUpdate = outcome.status.lastUpdate};
+    static_cast<void>(folder_->replace("status.json", encode(status), readableFile, Durability::afterCrash));
+    static_cast<void>(
+        folder_->replace("details.json", encode(outcome.details), readableFile, Durability::afterCrash));
 }
 
 } // namespace quelby::limiter

@@ -28,13 +28,21 @@ public:
     // the wish could not be carried out, or that the folder could not be written to.
     [[nodiscard]] Result<void> runOnce();
 
+    // Puts back what was found at first. The problem says what could not be.
+    [[nodiscard]] Result<void> restore();
+
+    // Lets a battery be charged that only a running helper may hold.
+    void release();
+
 private:
     // False where the files could not be written.
     [[nodiscard]] bool round();
-    [[nodiscard]] bool haveFolder();
+    [[nodiscard]] bool isThere() const;
+    [[nodiscard]] bool haveFolder(); // makes it where it is missing
     [[nodiscard]] RoundMoment nextMoment();
     [[nodiscard]] bool write(const RoundOutcome& outcome);
-    void sayGoodbye();
+    [[nodiscard]] Wish wish() const;
+    void sayGoodbye(const Wish& wish);
 
     // What ends the pause before the next round.
     [[nodiscard]] Wake pause();

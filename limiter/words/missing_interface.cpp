@@ -24,7 +24,7 @@ struct Driver {
 };
 
 // The first that fits counts.
-constexpr std::array<Driver, 17> drivers{{
+constexpr std::array<Driver, 18> drivers{{
     {"Dell", "", "dell_laptop", {6, 12}},
     {"Framework", "", "cros_charge-control", {6, 13}, ", with its option probe_with_fwk_charge_control=1"},
     {"Google", "", "cros_charge-control", {6, 13}},
@@ -42,6 +42,7 @@ constexpr std::array<Driver, 17> drivers{{
     {"System76", "", "system76_acpi", {}},
     {"Sony", "", "sony-laptop", {}},
     {"Apple", "", "macsmc-power", {}},
+    {"TUXEDO", "", "tuxedo-drivers", {}, ", which does not come with the kernel"},
 }};
 
 char lower(char character) {
@@ -102,7 +103,9 @@ std::string missingInterface(const MachineFacts& machine) {
                std::string(driver->name) + std::string(driver->condition) + "); this is Linux " +
                text(kernel) + '.';
     }
-    return "This machine's driver, " + std::string(driver->name) + std::string(driver->condition) +
+    const auto since =
+        driver->since.major > 0 ? ", which Linux has since " + text(driver->since) : std::string();
+    return "This machine's driver, " + std::string(driver->name) + since + std::string(driver->condition) +
            ", would offer a charge level, but this kernel or firmware has none.";
 }
 

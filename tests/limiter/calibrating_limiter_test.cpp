@@ -10,9 +10,9 @@ namespace {
 
 using testing::HasSubstr;
 
-class Calibrating : public PlainLaptop {};
+class CalibratingLimiter : public PlainLaptop {};
 
-TEST_F(Calibrating, CalibratesAndReturnsToTheLimit) {
+TEST_F(CalibratingLimiter, CalibratesAndReturnsToTheLimit) {
     calibrate();
     wish.percent = 80;
     set("BAT0/status", "Charging");
@@ -38,7 +38,7 @@ TEST_F(Calibrating, CalibratesAndReturnsToTheLimit) {
     EXPECT_FALSE(last.status.calibrationActive);
 }
 
-TEST_F(Calibrating, LetsAThinkPadThatIsNearlyFullChargeForItsCalibration) {
+TEST_F(CalibratingLimiter, LetsAThinkPadThatIsNearlyFullChargeForItsCalibration) {
     changeBattery();
     addThinkPad(hardware);
     set("BAT0/capacity", "97");
@@ -48,7 +48,7 @@ TEST_F(Calibrating, LetsAThinkPadThatIsNearlyFullChargeForItsCalibration) {
     EXPECT_EQ(text(bat0 + "charge_control_start_threshold"), "99");
 }
 
-TEST_F(Calibrating, LetsADellChargeAsItDidBeforeForItsCalibration) {
+TEST_F(CalibratingLimiter, LetsADellChargeAsItDidBeforeForItsCalibration) {
     changeBattery();
     addDell(hardware);
     limitTo(80);
@@ -61,7 +61,7 @@ TEST_F(Calibrating, LetsADellChargeAsItDidBeforeForItsCalibration) {
     EXPECT_EQ(text(endThreshold), "80");
 }
 
-TEST_F(Calibrating, GoesOnWithACalibrationAfterASuddenEnd) {
+TEST_F(CalibratingLimiter, GoesOnWithACalibrationAfterASuddenEnd) {
     calibrate();
     set("BAT0/capacity", "100");
     round();
@@ -76,7 +76,7 @@ TEST_F(Calibrating, GoesOnWithACalibrationAfterASuddenEnd) {
     EXPECT_EQ(saved.lastCalibration, now);
 }
 
-TEST_F(Calibrating, LosesNoMoreThanAMinuteOfACalibrationAndRarelyWrites) {
+TEST_F(CalibratingLimiter, LosesNoMoreThanAMinuteOfACalibrationAndRarelyWrites) {
     calibrate();
     set("BAT0/capacity", "100");
     round();
@@ -88,7 +88,7 @@ TEST_F(Calibrating, LosesNoMoreThanAMinuteOfACalibrationAndRarelyWrites) {
     EXPECT_LE(saves, 30);
 }
 
-TEST_F(Calibrating, BelievesAnApplicationsMemoryOnlyWhereItHasNoneOfItsOwn) {
+TEST_F(CalibratingLimiter, BelievesAnApplicationsMemoryOnlyWhereItHasNoneOfItsOwn) {
     calibrate();
     remembered = someTime - 3600;
     round();
@@ -100,7 +100,7 @@ TEST_F(Calibrating, BelievesAnApplicationsMemoryOnlyWhereItHasNoneOfItsOwn) {
     EXPECT_EQ(limiter->lastCalibration(), someTime - 3600);
 }
 
-TEST_F(Calibrating, DoesNotCalibrateWhatItCannotLimit) {
+TEST_F(CalibratingLimiter, DoesNotCalibrateWhatItCannotLimit) {
     changeBattery();
     calibrate();
     round();

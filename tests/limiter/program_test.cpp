@@ -87,6 +87,21 @@ TEST_F(Program, CarriesTheWishOutOnceAndLeavesItInForce) {
     EXPECT_EQ(told["explanation"], "Charging stops at 75%.");
 }
 
+TEST_F(Program, SetsAndPutsBackTheModeInWhichLevelsCountAnyNumberOfTimes) {
+    setAttribute("BAT0/status", "Charging"); // one look is enough
+    setAttribute("BAT0/charge_types", "Fast [Standard] Custom");
+    for (int count = 0; count < 2; ++count) {
+        wish({.chargeLimitEnabled = true, .chargeLimitPercent = 75});
+        EXPECT_EQ(run({"--once"}).exitStatus, 0);
+        EXPECT_EQ(attribute("BAT0/charge_types"), "Custom");
+        EXPECT_EQ(attribute(bat0End), "75");
+        wish({.chargeLimitEnabled = false});
+        EXPECT_EQ(run({"--once"}).exitStatus, 0);
+        EXPECT_EQ(attribute("BAT0/charge_types"), "Standard");
+        EXPECT_EQ(attribute(bat0End), "100");
+    }
+}
+
 TEST_F(Program, SaysWhereTheHardwareRefusesTheWish) {
     fs::remove(sysfs / "class/power_supply" / bat0End);
     fs::create_directory(sysfs / "class/power_supply" / bat0End); // which cannot be written to
@@ -124,6 +139,8 @@ TEST_F(Program, RestoresWhatItFoundEvenAfterASuddenEnd) {
     const auto restored = run({"--restore"});
     EXPECT_EQ(restored.exitStatus, 0) << restored.errors;
     EXPECT_EQ(attribute(bat0End), "95");
+    EXPECT_FALSE(status()->daemonRunning);
+    EXPECT_EQ(Json::parse(details())["batteries"][0]["inForcePercent"], 95);
     EXPECT_EQ(run({"--restore"}).exitStatus, 0); // there is nothing left to do
 }
 
@@ -138,7 +155,9 @@ TEST_F(Program, EndsWhenItIsAskedToAndLeavesTheLevelToTheHardware) {
         EXPECT_EQ(ended.exitStatus, 0);
         EXPECT_EQ(ended.output + ended.errors, "");
         EXPECT_FALSE(status()->daemonRunning);
+        EXPECT_EQ(status()->batteryPercent, 80);
         EXPECT_EQ(attribute(bat0End), "60");
+        EXPECT_EQ(Json::parse(details())["explanation"], "Charging stops at 60%."); // the hardware sees to it
     }
 }
 
@@ -152,6 +171,7 @@ TEST_F(Program, ReleasesChargingThatItHeldItself) {
     EXPECT_EQ(run({"--release"}).exitStatus, 0); // as after a crash
     EXPECT_EQ(attribute("BAT0/charge_behaviour"), "auto");
     EXPECT_FALSE(status()->daemonRunning);
+    EXPECT_EQ(Json::parse(details())["explanation"], "No limit is in force.");
     RunningProgram helper(words());
     waitUntil([&] { return attribute("BAT0/charge_behaviour") == "inhibit-charge"; });
     helper.signal(SIGTERM);

@@ -141,7 +141,7 @@ TEST_F(SimulatedWeeks, AreToldStageByStage) {
     bool wasCalibrating = false;
     for (std::size_t index = 0; index < lines.size() && !HasFailure(); ++index) {
         const auto status = decodeDaemonStatus(*cycles[index].status).value_or(DaemonStatus());
-        SCOPED_TRACE(lines[index] + *cycles[index].status);
+        SCOPED_TRACE(testing::Message() << lines[index] << *cycles[index].status);
         const std::string sentence = fields[index]["chargeLimitStatus"];
         if (sentence.rfind("Holding at ", 0) == 0) {
             EXPECT_TRUE(status.chargingInhibited);

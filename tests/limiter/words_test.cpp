@@ -31,10 +31,14 @@ TEST(MissingInterface, NamesTheKernelThatAMakersDriverNeeds) {
 }
 
 TEST(MissingInterface, SaysWhereTheKernelIsNewEnough) {
+    EXPECT_EQ(missing("Dell Inc.", "Latitude 7420", "6.12.1"),
+              "This machine's driver, dell_laptop, which Linux has since 6.12, would offer a charge level, "
+              "but this "
+              "kernel or firmware has none.");
     EXPECT_EQ(
-        missing("Dell Inc.", "Latitude 7420", "6.12.1"),
-        "This machine's driver, dell_laptop, would offer a charge level, but this kernel or firmware has "
-        "none.");
+        missing("TUXEDO", "InfinityBook", "6.12.1"),
+        "This machine's driver, tuxedo-drivers, which does not come with the kernel, would offer a charge "
+        "level, but this kernel or firmware has none.");
     EXPECT_EQ(missing("LENOVO", "ThinkPad T14", "6.1.0"),
               "This machine's driver, thinkpad_acpi, would offer a charge level, but this kernel or firmware "
               "has none.");

@@ -37,10 +37,10 @@ void addAppleMainline(OddHardware& hardware);
 void addAppleAsahi(OddHardware& hardware);
 
 // An attribute that gives its words with the active one in brackets.
-void addChoices(OddHardware& hardware, const std::string& path, std::vector<std::string> words,
+void addChoices(OddHardware& hardware, const std::string& path, const std::vector<std::string>& words,
                 const std::string& active);
 
 // charge_behaviour, one of these.
-void addBehaviour(OddHardware& hardware, const std::string& battery, std::vector<std::string> words);
+void addBehaviour(OddHardware& hardware, const std::string& battery, const std::vector<std::string>& words);
 
 } // namespace quelby::limiter

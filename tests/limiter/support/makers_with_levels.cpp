@@ -48,7 +48,7 @@ Take anyEnd() {
     };
 }
 
-Take endAmong(std::set<int> values) {
+Take endAmong(const std::set<int>& values) {
     return [values](Levels& levels, int value) {
         if (!values.contains(value)) {
             return refused;

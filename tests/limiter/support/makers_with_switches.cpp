@@ -23,7 +23,7 @@ void addSwitch(OddHardware& hardware, const std::string& path) {
 
 } // namespace
 
-void addChoices(OddHardware& hardware, const std::string& path, std::vector<std::string> words,
+void addChoices(OddHardware& hardware, const std::string& path, const std::vector<std::string>& words,
                 const std::string& active) {
     hardware[path].text = active;
     hardware[path].take = [&hardware, path, words](const std::string& value) {
@@ -44,8 +44,8 @@ void addChoices(OddHardware& hardware, const std::string& path, std::vector<std:
     };
 }
 
-void addBehaviour(OddHardware& hardware, const std::string& battery, std::vector<std::string> words) {
-    addChoices(hardware, supplies + battery + "/charge_behaviour", std::move(words), "auto");
+void addBehaviour(OddHardware& hardware, const std::string& battery, const std::vector<std::string>& words) {
+    addChoices(hardware, supplies + battery + "/charge_behaviour", words, "auto");
 }
 
 void addIdeaPad(OddHardware& hardware) {

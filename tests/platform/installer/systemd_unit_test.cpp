@@ -54,8 +54,9 @@ TEST(SystemdUnit, ReleasesChargingAfterAnyEnd) {
     EXPECT_THAT(systemdUnit(), HasSubstr("\nExecStopPost=/usr/local/libexec/pwr_limiter --release\n"));
 }
 
-// What keeps it from less: the helper is root (0.4), /sys has to be writable (0.2), and it listens to the
-// kernel and speaks to the service manager (0.2).
+// What keeps it from less: the helper is root (0.4), /sys has to be writable (0.2), it listens to the kernel
+// and speaks to the service manager (0.2), it sees the host's root folder (0.1), and ProtectClock lets it read
+// the clock's device (0.1).
 TEST(SystemdUnit, IsExposedAsLittleAsItsTaskAllows) {
     const TemporaryFolder folder;
     const auto file = folder.write(linux_helper::service, runnable(systemdUnit()));
