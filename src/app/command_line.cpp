@@ -4,6 +4,7 @@
 
 #include <fmt/format.h>
 
+#include "app/command_line_description.h"
 #include "base/number_text.h"
 
 namespace quelby::app {
@@ -47,8 +48,8 @@ struct Reading {
     }
 
     void addPictureOptions(CLI::Option& screenshotForm) {
-        add("--view", "VIEW", "With --screenshot: dashboard or settings", screenshotForm,
-            [this](const std::string& text) { screenshot.page = parsePage(text); });
+        add("--view", "dashboard|settings", "With --screenshot: the page to draw; dashboard unless named",
+            screenshotForm, [this](const std::string& text) { screenshot.page = parsePage(text); });
         add("--scale", "N", "With --screenshot: pixels in a point", screenshotForm,
             [this](const std::string& text) {
                 screenshot.scale = parseNumber("--scale", text, smallestScale, largestScale);
@@ -90,6 +91,11 @@ std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv
         return *std::move(answer);
     }
     return reading.read();
+}
+
+void describeCommandLine(const std::function<void(const CLI::App&)>& describe) {
+    const Reading reading;
+    describe(reading.app);
 }
 
 } // namespace quelby::app

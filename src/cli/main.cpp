@@ -21,6 +21,8 @@ struct RunCommand {
 
     Result<void> operator()(const TitleCommand& command) const { return runTitle(machine, command, pace); }
 
+    Result<void> operator()(const MetricsCommand& command) const { return runMetrics(machine, command); }
+
     Result<void> operator()(const LimitCommand& command) const { return runLimit(machine, command); }
 
     Result<void> operator()(const CalibrationCommand& command) const {

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include "base/utf8.h"
+#include "cli/arguments/command_line_description.h"
 #include "cli/arguments/nearest_word.h"
 #include "cli/arguments/values.h"
 
@@ -43,6 +44,7 @@ struct Reading {
     RecordCommand record;
     HistoryCommand history;
     TitleCommand title;
+    MetricsCommand metrics;
     LimitCommand limit;
     CalibrationCommand calibration;
     HelperCommand helper;
@@ -59,10 +61,12 @@ struct Reading {
         addRecord();
         addHistory();
         addTitle();
-        addSetting("limit", "The charge limit: show (unless named otherwise), on, off, or a percentage",
-                   limit, parseLimit);
+        addMetrics();
+        addSetting("limit", limitWords,
+                   "The charge limit: show (unless named otherwise), on, off, or a percentage", limit,
+                   parseLimit);
         addSetting(
-            "calibration",
+            "calibration", calibrationWords(),
             fmt::format("The battery's calibration: show (unless named otherwise), on, off, or {} days",
                         knownCalibrationIntervals()),
             calibration, parseCalibration);
@@ -71,12 +75,13 @@ struct Reading {
 
     // A command with one word behind it, which may be missing.
     template <typename T>
-    void addSetting(const char* name, const std::string& help, T& setting, T (*parse)(const std::string&)) {
+    void addSetting(const char* name, const std::string& words, const std::string& help, T& setting,
+                    T (*parse)(const std::string&)) {
         auto* const command = app.add_subcommand(name, help);
         command
             ->add_option_function<std::string>(
                 "VALUE", [&setting, parse](const std::string& text) { setting = parse(text); }, "What to do")
-            ->type_name("");
+            ->type_name(words);
         command->final_callback([this, &setting] { request.command = setting; });
     }
 
@@ -87,7 +92,7 @@ struct Reading {
             ->add_option_function<std::string>(
                 "VALUE", [this](const std::string& text) { helper.wish = parseHelperWish(text); },
                 "What to do")
-            ->type_name("");
+            ->type_name(helperWords);
         addForm(*command, "--json", OutputForm::json, helper.form, "The status as one JSON object");
         command->final_callback([this] {
             if (helper.form == OutputForm::json && helper.wish != HelperWish::status) {
@@ -119,8 +124,8 @@ struct Reading {
         command
             ->add_option_function<std::string>(
                 "--view", [this](const std::string& text) { dashboard.page = parsePage(text); },
-                "dashboard or settings; dashboard unless named")
-            ->type_name("VIEW");
+                "The page; dashboard unless named")
+            ->type_name("dashboard|settings");
         command->final_callback([this] { request.command = dashboard; });
     }
 
@@ -143,8 +148,8 @@ struct Reading {
         command
             ->add_option_function<std::string>(
                 "--range", [this](const std::string& text) { history.range = parseRange(text); },
-                fmt::format("{}; {} unless named", knownRanges(), rawValue(history.range)))
-            ->type_name("RANGE");
+                fmt::format("How far back; {} unless named", rawValue(history.range)))
+            ->type_name(rangeWords());
         auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
         addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);
         command->final_callback([this] { request.command = history; });
@@ -153,18 +158,35 @@ struct Reading {
     void addTitle() {
         auto* const command =
             app.add_subcommand("title", "What the menu bar shows, for status bars and scripts");
+        auto* const display =
+            command
+                ->add_option_function<std::string>(
+                    "--display", [this](const std::string& text) { title.display = parseDisplay(text); },
+                    "Another figure than the chosen one")
+                ->type_name(displayWords());
+        auto* const format =
+            command
+                ->add_option_function<std::string>(
+                    "--format", [this](const std::string& text) { title.format = parseTitleFormat(text); },
+                    "The form in which a status bar wants it; plain unless named")
+                ->type_name(titleFormatWords());
         command
             ->add_option_function<std::string>(
-                "--display", [this](const std::string& text) { title.display = parseDisplay(text); },
-                "Another figure than the chosen one, such as \"Battery %\"")
-            ->type_name("VALUE");
-        command
-            ->add_option_function<std::string>(
-                "--format", [this](const std::string& text) { title.format = parseTitleFormat(text); },
-                "plain, json or waybar; plain unless named")
-            ->type_name("FORMAT");
+                "--template", [this](const std::string& text) { title.words = parseTitleTemplate(text); },
+                fmt::format("Words of your own, in which figures stand in braces: {}", knownTitleFigures()))
+            ->type_name("TEXT")
+            ->excludes(format)
+            ->excludes(display);
         command->add_flag("--follow", title.follow, "Print a line whenever it changes, until interrupted");
         command->final_callback([this] { request.command = title; });
+    }
+
+    void addMetrics() {
+        auto* const command =
+            app.add_subcommand("metrics", "All figures once, in the text form of OpenMetrics");
+        addPathOption(*command, "--output", "FILE", metrics.file,
+                      "Written by a rename, as collectors of text files want it");
+        command->final_callback([this] { request.command = metrics; });
     }
 };
 
@@ -195,6 +217,11 @@ std::variant<Request, Answer> parseCommandLine(int argc, const char* const* argv
                        : *std::move(answer);
     }
     return reading.request;
+}
+
+void describeCommandLine(const std::function<void(const CLI::App&)>& describe) {
+    const Reading reading;
+    describe(reading.app);
 }
 
 } // namespace quelby::cli

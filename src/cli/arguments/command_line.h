@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "base/cycle_interval.h"
+#include "cli/arguments/title_template.h"
 #include "console/machine_arguments.h"
 #include "history/time_range.h"
 #include "monitor/menu_bar_display.h"
@@ -45,12 +46,17 @@ struct HistoryCommand {
     OutputForm form = OutputForm::text;
 };
 
-enum class TitleFormat { plain, json, waybar };
+enum class TitleFormat { plain, json, waybar, i3blocks, polybar, tmux };
 
 struct TitleCommand {
     std::optional<MenuBarDisplay> display; // none: the user's choice
     TitleFormat format = TitleFormat::plain;
-    bool follow = false; // a line whenever it changes, instead of one
+    std::optional<TitleTemplate> words; // in place of the display and the format
+    bool follow = false;                // a line whenever it changes, instead of one
+};
+
+struct MetricsCommand {
+    std::optional<std::filesystem::path> file; // none: standard output
 };
 
 // Shows the setting unless it says what to change.
@@ -72,7 +78,7 @@ struct HelperCommand {
 };
 
 using Command = std::variant<StatusCommand, WatchCommand, DashboardCommand, RecordCommand, HistoryCommand,
-                             TitleCommand, LimitCommand, CalibrationCommand, HelperCommand>;
+                             TitleCommand, MetricsCommand, LimitCommand, CalibrationCommand, HelperCommand>;
 
 struct Request {
     MachineArguments arguments;

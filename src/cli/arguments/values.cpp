@@ -21,6 +21,20 @@ namespace {
 constexpr double shortestInterval = 0.01;     // seconds
 constexpr double longestInterval = 1'000'000; // eleven days; a timer counts milliseconds in 32 bits
 
+constexpr std::array titleFormats{std::pair(std::string_view("plain"), TitleFormat::plain),
+                                  std::pair(std::string_view("json"), TitleFormat::json),
+                                  std::pair(std::string_view("waybar"), TitleFormat::waybar),
+                                  std::pair(std::string_view("i3blocks"), TitleFormat::i3blocks),
+                                  std::pair(std::string_view("polybar"), TitleFormat::polybar),
+                                  std::pair(std::string_view("tmux"), TitleFormat::tmux)};
+
+std::vector<std::string_view> titleFormatNames() {
+    std::vector<std::string_view> names;
+    std::transform(titleFormats.begin(), titleFormats.end(), std::back_inserter(names),
+                   [](const auto& named) { return named.first; });
+    return names;
+}
+
 template <typename Cases>
 std::vector<std::string_view> rawValues(const Cases& cases) {
     std::vector<std::string_view> values;
@@ -49,6 +63,22 @@ std::string knownRanges() {
 
 std::string knownCalibrationIntervals() {
     return oneOf(calibrationIntervals);
+}
+
+std::string rangeWords() {
+    return fmt::format("{}", fmt::join(rawValues(allTimeRanges), "|"));
+}
+
+std::string displayWords() {
+    return fmt::format("{}", fmt::join(rawValues(allMenuBarDisplays), "|"));
+}
+
+std::string titleFormatWords() {
+    return fmt::format("{}", fmt::join(titleFormatNames(), "|"));
+}
+
+std::string calibrationWords() {
+    return fmt::format("show|on|off|{}", fmt::join(calibrationIntervals, "|"));
 }
 
 std::int64_t parseCount(const std::string& text) {
@@ -87,14 +117,12 @@ MenuBarDisplay parseDisplay(const std::string& text) {
 }
 
 TitleFormat parseTitleFormat(const std::string& text) {
-    constexpr std::array names{std::pair("plain", TitleFormat::plain), std::pair("json", TitleFormat::json),
-                               std::pair("waybar", TitleFormat::waybar)};
-    for (const auto& [name, format] : names) {
+    for (const auto& [name, format] : titleFormats) {
         if (text == name) {
             return format;
         }
     }
-    throw CLI::ValidationError(fmt::format("--format takes plain, json or waybar, not \"{}\"", text));
+    throw CLI::ValidationError(fmt::format("--format takes {}, not \"{}\"", oneOf(titleFormatNames()), text));
 }
 
 LimitCommand parseLimit(const std::string& text) {

@@ -19,6 +19,15 @@ namespace quelby::cli {
 [[nodiscard]] CalibrationCommand parseCalibration(const std::string& text);
 [[nodiscard]] HelperWish parseHelperWish(const std::string& text);
 
+// The words that an option takes, as in "30m|1h|24h|7d"; help and completions show them. Those in capitals stand
+// for others.
+[[nodiscard]] std::string rangeWords();
+[[nodiscard]] std::string displayWords();
+[[nodiscard]] std::string titleFormatWords();
+[[nodiscard]] std::string calibrationWords();
+inline constexpr const char* limitWords = "show|on|off|PERCENT";
+inline constexpr const char* helperWords = "status|install|uninstall";
+
 // As in "30m, 1h, 24h or 7d".
 [[nodiscard]] std::string knownRanges();
 [[nodiscard]] std::string knownCalibrationIntervals();

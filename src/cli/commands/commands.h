@@ -13,6 +13,9 @@ namespace quelby::cli {
 
 [[nodiscard]] Result<void> runTitle(Machine& machine, const TitleCommand& command, Pace pace);
 
+// The problem is that the file cannot be written to; it is as it was then.
+[[nodiscard]] Result<void> runMetrics(Machine& machine, const MetricsCommand& command);
+
 // The problem says why there is no history to show.
 [[nodiscard]] Result<void> runHistory(Machine& machine, const HistoryCommand& command);
 

@@ -1,6 +1,7 @@
 #include "cli/commands/commands.h"
 
 #include "cli/commands/cycle_run.h"
+#include "cli/output/filled_template.h"
 #include "cli/output/title_output.h"
 #include "console/standard_output.h"
 
@@ -9,6 +10,9 @@ namespace quelby::cli {
 namespace {
 
 std::string lineOf(const PowerMonitor& monitor, const TitleCommand& command) {
+    if (command.words) {
+        return filledTemplate(*command.words, monitor) + '\n';
+    }
     return formattedTitle(monitor, command.display.value_or(monitor.menuBarDisplay), command.format) + '\n';
 }
 

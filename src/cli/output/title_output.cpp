@@ -4,6 +4,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "ui/presentation/elements/color.h"
 #include "ui/presentation/text/cycle_line.h"
 #include "ui/presentation/text/menu_bar_title.h"
 
@@ -50,6 +51,34 @@ Json forWaybar(const PublishedFields& fields, const std::string& title) {
             {"percentage", fields.batteryPercent.get()}};
 }
 
+bool isLow(const PublishedFields& fields) {
+    return fields.hasBattery && !fields.isPluggedIn &&
+           Color::battery(fields.batteryPercent) == Color(ColorName::red);
+}
+
+// What begins a markup is doubled, so that it stands for itself.
+std::string doubled(char mark, std::string_view text) {
+    std::string result;
+    for (const char character : text) {
+        result += character == mark ? std::string(2, mark) : std::string(1, character);
+    }
+    return result;
+}
+
+std::string forI3blocks(const PublishedFields& fields, const std::string& title) {
+    const auto markup = asPangoMarkup(title);
+    return isLow(fields) ? R"(<span foreground="#ff5f57">)" + markup + "</span>" : markup;
+}
+
+std::string forPolybar(const PublishedFields& fields, const std::string& title) {
+    return isLow(fields) ? "%{F#ff5f57}" + title + "%{F-}" : title;
+}
+
+std::string forTmux(const PublishedFields& fields, const std::string& title) {
+    const auto markup = doubled('#', title);
+    return isLow(fields) ? "#[fg=red]" + markup + "#[fg=default]" : markup;
+}
+
 } // namespace
 
 std::string formattedTitle(const PublishedFields& fields, MenuBarDisplay display, TitleFormat format) {
@@ -61,6 +90,12 @@ std::string formattedTitle(const PublishedFields& fields, MenuBarDisplay display
         return Json{{"symbol", menuBarSymbol(fields)}, {"title", title}}.dump();
     case TitleFormat::waybar:
         return forWaybar(fields, title).dump();
+    case TitleFormat::i3blocks:
+        return forI3blocks(fields, withoutLeadingBlank(title));
+    case TitleFormat::polybar:
+        return forPolybar(fields, withoutLeadingBlank(title));
+    case TitleFormat::tmux:
+        return forTmux(fields, withoutLeadingBlank(title));
     }
     return {};
 }

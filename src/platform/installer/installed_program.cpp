@@ -13,14 +13,19 @@ namespace fs = std::filesystem;
 constexpr std::string_view library = "quelby-dashboard.so";
 
 // What our files are called, up to what says of which kind they are.
-constexpr std::array<std::string_view, 4> ourNames{"quelby", "quelbyctl", "com.quelby.Quelby", "pwr_limiter"};
+constexpr std::array<std::string_view, 7> ourNames{
+    "quelby",           "quelbyctl",         "quelby-recorder",
+    "quelby-recording", "com.quelby.Quelby", "com.quelby.limiter",
+    "pwr_limiter"};
 
-// The program's own folders below the prefix, and those that it shares with other programs.
-constexpr std::array<std::string_view, 3> ownFolders{"lib/quelby", "libexec/quelby", "share/quelby"};
-constexpr std::array<std::string_view, 12> sharedFolders{"share/applications",
+// The program's own folders below the prefix, each before the one that holds it, and those that it shares with other programs.
+constexpr std::array<std::string_view, 4> ownFolders{"lib/quelby", "libexec/quelby",
+                                                     "share/quelby/recordings", "share/quelby"};
+constexpr std::array<std::string_view, 13> sharedFolders{"share/applications",
                                                          "share/metainfo",
                                                          "share/dbus-1/services",
                                                          "share/pixmaps",
+                                                         "share/polkit-1/actions",
                                                          "share/man/man1",
                                                          "share/man/man5",
                                                          "share/man/man8",

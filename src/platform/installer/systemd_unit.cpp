@@ -1,10 +1,6 @@
 #include "platform/installer/systemd_unit.h"
 
-#include <filesystem>
-
 #include <fmt/format.h>
-
-#include "platform/helper_names.h"
 
 namespace quelby {
 
@@ -93,8 +89,8 @@ std::string stateFolders() {
 
 } // namespace
 
-std::string systemdUnit() {
-    return fmt::format(service, fmt::arg("executable", linux_helper::executable),
+std::string systemdUnit(const std::filesystem::path& executable) {
+    return fmt::format(service, fmt::arg("executable", executable.native()),
                        fmt::arg("folders", stateFolders()));
 }
 

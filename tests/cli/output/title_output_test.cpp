@@ -43,5 +43,20 @@ TEST_F(TitleLineTest, IsACustomModuleForWaybar) {
     EXPECT_NE(line.find(R"("class":"plugged-in")"), std::string::npos);
 }
 
+TEST_F(TitleLineTest, IsRedInABarsOwnMarkupWhileAnEmptyingBatteryIsLow) {
+    const auto percent = [&](TitleFormat format) {
+        return formattedTitle(fields, MenuBarDisplay::percentage, format);
+    };
+    for (const auto format : {TitleFormat::i3blocks, TitleFormat::polybar, TitleFormat::tmux}) {
+        EXPECT_EQ(percent(format), "80%");
+    }
+    fields.batteryPercent = 5;
+    EXPECT_EQ(percent(TitleFormat::i3blocks), R"(<span foreground="#ff5f57">5%</span>)");
+    EXPECT_EQ(percent(TitleFormat::polybar), "%{F#ff5f57}5%%{F-}");
+    EXPECT_EQ(percent(TitleFormat::tmux), "#[fg=red]5%#[fg=default]");
+    fields.isPluggedIn = true;
+    EXPECT_EQ(percent(TitleFormat::tmux), "5%");
+}
+
 } // namespace
 } // namespace quelby::cli

@@ -52,14 +52,19 @@ const std::vector<std::string> installedFiles{"bin/quelby",
                                               "share/icons/hicolor/scalable/apps/com.quelby.Quelby.svg",
                                               "share/icons/hicolor/symbolic/apps/quelby-symbolic.svg",
                                               "share/man/man1/quelbyctl.1.gz",
+                                              "share/man/man5/quelby-recording.5",
                                               "share/man/man8/pwr_limiter.8",
+                                              "share/polkit-1/actions/com.quelby.limiter.policy",
+                                              "share/quelby/recordings/laptop-on-battery.jsonl",
+                                              "lib/systemd/user/quelby-recorder.service",
                                               "share/bash-completion/completions/quelbyctl",
                                               "share/zsh/site-functions/_quelbyctl"};
 
 TEST_F(InstalledProgramTest, IsAllThatWasInstalledBelowThePrefix) {
     write(installedFiles);
     EXPECT_THAT(names(found().files), UnorderedElementsAreArray(installedFiles));
-    EXPECT_THAT(names(found().folders), UnorderedElementsAre("lib/quelby", "libexec/quelby"));
+    EXPECT_THAT(names(found().folders),
+                ElementsAre("lib/quelby", "libexec/quelby", "share/quelby/recordings", "share/quelby"));
 }
 
 TEST_F(InstalledProgramTest, IsNothingOfOtherProgramsAround) {

@@ -1,0 +1,26 @@
+# Run by cpack when the packages' files lie ready: adds what Debian wants in every package.
+set(names "quelby;quelbyctl;quelby-limiter")
+set(parts "quelby;quelbyctl;limiter")
+
+function(compress file)
+    execute_process(COMMAND gzip -9 --no-name --force ${file} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+foreach(name part IN ZIP_LISTS names parts)
+    set(root ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/${part}/usr)
+    file(GLOB pages ${root}/share/man/man*/*[1-8])
+    foreach(page ${pages})
+        compress(${page})
+    endforeach()
+    set(documents ${root}/share/doc/${name})
+    configure_file(${CPACK_QUELBY_DEBIAN_FILES}/copyright ${documents}/copyright COPYONLY)
+    configure_file(${CPACK_QUELBY_DEBIAN_FILES}/changelog ${documents}/changelog.Debian COPYONLY)
+    configure_file(${CPACK_QUELBY_CHANGES} ${documents}/changelog COPYONLY)
+    compress(${documents}/changelog.Debian)
+    compress(${documents}/changelog)
+    if(EXISTS ${CPACK_QUELBY_DEBIAN_FILES}/lintian/${name})
+        configure_file(${CPACK_QUELBY_DEBIAN_FILES}/lintian/${name} ${root}/share/lintian/overrides/${name} COPYONLY)
+    endif()
+    # Whatever the umask of whoever makes them.
+    execute_process(COMMAND chmod -R u=rwX,go=rX ${CPACK_TEMPORARY_INSTALL_DIRECTORY}/${part} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()

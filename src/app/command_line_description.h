@@ -1,0 +1,12 @@
+#pragma once
+
+#include <functional>
+
+#include <CLI/CLI.hpp>
+
+namespace quelby::app {
+
+// Shows what the help is made of to whoever writes about the command line: man pages, completions.
+void describeCommandLine(const std::function<void(const CLI::App&)>& describe);
+
+} // namespace quelby::app
