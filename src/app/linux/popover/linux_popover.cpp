@@ -38,19 +38,13 @@ bool LinuxPopover::make() {
         return false;
     }
     window_ = library_->makeWindow(parts_, form_,
-                                   {.left = [this] { close(); },
+                                   {.left = [this] { leave(); },
                                     .pressedOutside =
                                         [this](QPoint where) {
                                             closingPress_.happened(where, std::chrono::steady_clock::now());
                                             close();
                                         },
-                                    .closedByFrame =
-                                        [this] {
-                                            close();
-                                            if (form_ == PopoverForm::ordinary) {
-                                                parts_.quit();
-                                            }
-                                        }});
+                                    .closedByFrame = [this] { leave(); }});
     return true;
 }
 
@@ -92,6 +86,14 @@ void LinuxPopover::close() {
     if (isShown()) {
         window_->hide();
         givingBack_.start();
+    }
+}
+
+// Nothing is left of the program where there is no tray to open it from again.
+void LinuxPopover::leave() {
+    close();
+    if (form_ == PopoverForm::ordinary) {
+        parts_.quit();
     }
 }
 

@@ -40,6 +40,7 @@ private:
     // Whether there is a window now.
     [[nodiscard]] bool make();
 
+    void leave();
     void giveBack();
 
     PopoverParts parts_;
