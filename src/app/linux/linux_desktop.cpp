@@ -18,11 +18,16 @@ namespace quelby::app {
 
 namespace {
 
+// Also on a desktop of Wayland that has a server of X for such programs.
+bool onX11() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
 // The pointer in pixels: some hosts do not say where the item was pressed, but it is where the pointer is.
 std::optional<QPoint> pointer() {
     const auto position = QCursor::pos();
     const auto* const screen = QGuiApplication::screenAt(position);
-    if (screen == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if (screen == nullptr || !onX11()) {
         return std::nullopt;
     }
     const auto corner = screen->geometry().topLeft();
@@ -68,7 +73,7 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
                                          .clock = platform_.clock,
                                          .quit = std::move(quit),
                                          .openBatterySettings = openBatterySettings,
-                                         .appearance = [this] { return appearance_.current(); }});
+                                         .appearance = [this] { return appearance(); }});
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {
@@ -94,7 +99,7 @@ void LinuxDesktop::start() {
 
 // Only where Qt is connected with it as well: elsewhere the compositor would start a server of X for this.
 void LinuxDesktop::connectToX() {
-    if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if (!onX11()) {
         return;
     }
     x_ = XDesktop::connect({.settingsChanged = [this] { appearance_.setXSettings(x_->settings()); },
@@ -114,6 +119,15 @@ void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
     item_->setBus(bus);
 }
 
+// On X11 Qt scales everything by the resolution that the desktop gives its fonts, which has it in it.
+Appearance LinuxDesktop::appearance() const {
+    auto appearance = appearance_.current();
+    if (onX11()) {
+        appearance.textScale = 1;
+    }
+    return appearance;
+}
+
 void LinuxDesktop::appearanceChanged() {
     if (popover_) {
         popover_->appearanceChanged();
@@ -125,7 +139,6 @@ void LinuxDesktop::appearanceChanged() {
 
 void LinuxDesktop::lookAtPanel() {
     item_->setPanel({.darkScheme = appearance_.darkScheme(),
-                     .darkToolkit = appearance_.hasDarkToolkit(),
                      .panelTheme = panelTheme(item_->panelStyle(), configurationFolder_),
                      .publishedInk = x_ ? x_->trayInk() : std::nullopt});
 }

@@ -41,6 +41,7 @@ private:
     void connectToX();
     void itemShown(bool shown);
     [[nodiscard]] bool itemPressed(std::optional<QPoint> where);
+    [[nodiscard]] Appearance appearance() const;
     void appearanceChanged();
     void lookAtPanel();
 

@@ -37,6 +37,7 @@ bool LinuxPopover::make() {
         writeToStandardError("quelby: the library with the dashboard is missing\n");
         return false;
     }
+    shownTextScale_ = parts_.appearance().textScale;
     window_ = library_->makeWindow(parts_, form_,
                                    {.left = [this] { leave(); },
                                     .pressedOutside =
@@ -102,8 +103,12 @@ bool LinuxPopover::wasClosedByThisPress(std::optional<QPoint> place) {
 }
 
 void LinuxPopover::appearanceChanged() {
-    if (window_) {
-        window_->setAppearance(parts_.appearance());
+    const auto appearance = parts_.appearance();
+    if (appearance.textScale != shownTextScale_) { // the window is of another size then
+        close();
+        giveBack();
+    } else if (window_) {
+        window_->setAppearance(appearance);
     }
 }
 

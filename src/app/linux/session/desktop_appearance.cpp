@@ -14,9 +14,11 @@ const auto settingsInterface = QStringLiteral("org.freedesktop.portal.Settings")
 
 const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
 const auto colorSchemeKey = QStringLiteral("color-scheme");
+const auto contrastKey = QStringLiteral("contrast");
 const auto gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
 const auto gnomeThemeKey = QStringLiteral("gtk-theme");
 const auto gnomeAnimationsKey = QStringLiteral("enable-animations");
+const auto gnomeTextScaleKey = QStringLiteral("text-scaling-factor");
 const auto kdeGroup = QStringLiteral("org.kde.kdeglobals.KDE");
 const auto kdeAnimationsKey = QStringLiteral("AnimationDurationFactor");
 
@@ -59,7 +61,9 @@ void DesktopAppearance::setXSettings(const XSettings& settings) {
 
 void DesktopAppearance::askForEverything() {
     ask(appearanceGroup, colorSchemeKey);
+    ask(appearanceGroup, contrastKey);
     ask(gnomeGroup, gnomeThemeKey);
+    ask(gnomeGroup, gnomeTextScaleKey);
     ask(gnomeGroup, gnomeAnimationsKey);
     ask(kdeGroup, kdeAnimationsKey);
 }
@@ -88,6 +92,10 @@ void DesktopAppearance::take(const QString& group, const QString& key, const QVa
     const auto plain = unwrapped(value);
     if (group == appearanceGroup && key == colorSchemeKey) {
         now.portal.colorScheme = plain.toUInt();
+    } else if (group == appearanceGroup && key == contrastKey) {
+        now.portal.contrast = plain.toUInt();
+    } else if (group == gnomeGroup && key == gnomeTextScaleKey) {
+        now.portal.textScale = plain.toDouble();
     } else if (group == gnomeGroup && key == gnomeThemeKey) {
         now.portal.theme = plain.toString().toStdString();
     } else if (group == gnomeGroup && key == gnomeAnimationsKey) {

@@ -24,10 +24,8 @@ public:
 
     [[nodiscard]] Appearance current() const { return appearance(settings_); }
 
-    // As the functions of these names say.
+    // As the function of this name says.
     [[nodiscard]] std::optional<bool> darkScheme() const { return app::darkScheme(settings_); }
-
-    [[nodiscard]] bool hasDarkToolkit() const { return app::hasDarkToolkit(settings_); }
 
     // Within it two presses are a double one.
     [[nodiscard]] std::chrono::milliseconds doublePress() const { return app::doublePress(settings_); }

@@ -18,6 +18,8 @@ struct PortalSettings {
     std::optional<std::string> theme;         // GTK's
     std::optional<bool> animated;             // in GNOME's words
     std::optional<double> animationFactor;    // in KDE's: 0 for none
+    std::optional<std::uint32_t> contrast;    // 1 asks for more
+    std::optional<double> textScale;          // GNOME's, of its own usual size
 
     bool operator==(const PortalSettings&) const = default;
 };
@@ -32,10 +34,6 @@ struct DesktopSettings {
 
 // Whether it asks for dark or for light; nothing where it does not care.
 [[nodiscard]] std::optional<bool> darkScheme(const DesktopSettings& settings);
-
-// Whether GTK's theme is a dark one. What X11's settings say of it is newer than what the portal or the file
-// does.
-[[nodiscard]] bool hasDarkToolkit(const DesktopSettings& settings);
 
 [[nodiscard]] Appearance appearance(const DesktopSettings& settings);
 

@@ -43,8 +43,6 @@ std::optional<bool> isDark(PanelStyle style, const PanelClues& clues) {
         return isDarkInPlasma(clues);
     case PanelStyle::lxqt:
         return isDarkInLxqt(clues);
-    case PanelStyle::toolkit: // a panel can be dark under a light theme, but not the other way round
-        return clues.darkToolkit ? std::optional(true) : std::nullopt;
     case PanelStyle::published:
     case PanelStyle::unknown:
         break;

@@ -14,15 +14,13 @@ enum class PanelStyle {
     dark,      // nobody: it is dark
     plasma,    // Plasma's own theme, or else the desktop's colour scheme
     lxqt,      // LXQt's own theme
-    toolkit,   // GTK's theme, and maybe a switch of the panel's own that turns it dark
     published, // the tray's manager, which says so on X11
-    unknown,
+    unknown,   // also XFCE's: dark under light themes by a switch of its own, of which its tray knows nothing
 };
 
 // What is known. Nothing where nobody says.
 struct PanelClues {
     std::optional<bool> darkScheme; // whether the desktop wants its programs dark
-    bool darkToolkit = false;       // whether GTK's theme is a dark one
     std::string panelTheme;         // by its name; empty where it has none
     std::optional<QRgb> publishedInk;
 

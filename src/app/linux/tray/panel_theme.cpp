@@ -32,7 +32,6 @@ std::string panelTheme(PanelStyle style, const QString& configurationFolder) {
                            QStringLiteral("/usr/share/lxqt/lxqt.conf")},
                           QStringLiteral("theme"));
     case PanelStyle::dark:
-    case PanelStyle::toolkit:
     case PanelStyle::published:
     case PanelStyle::unknown:
         break;

@@ -40,10 +40,7 @@ TrayHost trayHost(std::string_view processName) {
     if (processName == "waybar") {
         return {.icon = IconForm::wide, .knowsCoordinates = false, .wheel = downByNotch};
     }
-    if (isPluginOfXfce(processName)) {
-        return {.wheel = downByNotch, .panel = PanelStyle::toolkit};
-    }
-    if (processName == "xapp-sn-watcher") {
+    if (isPluginOfXfce(processName) || processName == "xapp-sn-watcher") {
         return {.wheel = downByNotch};
     }
     if (processName == "lxqt-panel") {

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSocketNotifier>
@@ -231,6 +232,9 @@ private:
 } // namespace
 
 std::unique_ptr<XEmbedItem> XEmbedItem::dock(Listener listener) {
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        return nullptr; // some compositors start a server of X for whoever looks for one
+    }
     int screenNumber = 0;
     auto connection = connectToX(screenNumber);
     if (!connection) {

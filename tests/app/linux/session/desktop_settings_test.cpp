@@ -1,5 +1,7 @@
 #include "app/linux/session/desktop_settings.h"
 
+#include <cmath>
+
 #include <gtest/gtest.h>
 
 #include "app/linux/support/x_settings_property.h"
@@ -71,6 +73,24 @@ TEST(DesktopSettings, AreAnimatedUnlessAnybodySaysOtherwise) {
     EXPECT_FALSE(animated({.x = xSettings({{"Gtk/EnableAnimations", 0}})}));
     EXPECT_TRUE(animated({.x = xSettings({{"Gtk/EnableAnimations", 1}}), .file = {.animated = false}}));
     EXPECT_FALSE(animated({.file = {.animated = false}}));
+}
+
+TEST(DesktopSettings, WantContrastWhereThePortalOrTheThemeSaysSo) {
+    const auto contrast = [](const DesktopSettings& settings) { return appearance(settings).contrast; };
+    EXPECT_FALSE(contrast({}));
+    EXPECT_FALSE(contrast({.portal = {.contrast = 0}}));
+    EXPECT_TRUE(contrast({.portal = {.contrast = 1}}));
+    EXPECT_FALSE(contrast({.portal = {.contrast = 2}}));
+    EXPECT_TRUE(contrast({.x = xSettings({{"Net/ThemeName", "HighContrastInverse"}})}));
+}
+
+TEST(DesktopSettings, HaveATextThatIsAtMostHalfAsLargeAgain) {
+    EXPECT_EQ(appearance({}).textScale, 1);
+    for (const auto& [asked, given] : std::map<double, double>{
+             {0.0, 1.0}, {0.75, 1.0}, {1.0, 1.0}, {1.25, 1.25}, {1.5, 1.5}, {1.51, 1.5}, {-1.0, 1.0}}) {
+        EXPECT_EQ(appearance({.portal = {.textScale = asked}}).textScale, given) << asked;
+    }
+    EXPECT_EQ(appearance({.portal = {.textScale = std::nan("")}}).textScale, 1);
 }
 
 TEST(DesktopSettings, HaveATimeForADoublePress) {

@@ -50,12 +50,12 @@ const MeasuredPanel measuredPanels[] = {
     {"Plasma, Breeze, by name", "kded5", {.darkScheme = false, .panelTheme = "default"}, 0xFFEFF0F1},
     {"Plasma, Breeze Dark", "kded5", {.darkScheme = true}, 0xFF2A2E32},
     {"Plasma, Breeze Twilight", "kded5", {.darkScheme = false, .panelTheme = "breeze-dark"}, 0xFF2A2E32},
-    {"Plasma, a light panel, dark programs", "plasmashell", {true, false, "breeze-light", {}}, 0xFFEFF0F1},
+    {"Plasma, a light panel, dark programs", "plasmashell", {true, "breeze-light", {}}, 0xFFEFF0F1},
     {"Plasma, a theme of somebody's", "kded5", {.darkScheme = true, .panelTheme = "Sweet"}, 0xFFF0A0C0},
     {"Plasma without its portal", "kded5", {}, 0xFFEFF0F1},
     {"XFCE, its dark panel under a light theme", "panel-6-systray", {}, 0xFF353637},
     {"XFCE, light", "panel-6-systray", {}, 0xFFF5F4F3},
-    {"XFCE, a dark theme", "panel-6-systray", {.darkToolkit = true}, 0xFF353535},
+    {"XFCE, a dark theme", "panel-6-systray", {.darkScheme = true}, 0xFF353535},
     {"MATE's tray", "notification-area-applet", {.publishedInk = adwaitaInk}, 0xFFF6F5F4},
     {"MATE's tray, dark", "notification-area-applet", {.publishedInk = 0xFFEEEEEC}, 0xFF353535},
     {"MATE's tray on Wayland", "notification-area-applet", {}, 0xFFF6F5F4},
@@ -118,17 +118,16 @@ TEST(PanelInk, NeedsAPlateOnlyWhereNobodyKnowsThePanel) {
     EXPECT_EQ(statusInk(PanelStyle::plasma, {.darkScheme = false}), (StatusInk{darkInk, {}}));
     EXPECT_EQ(statusInk(PanelStyle::plasma, {.darkScheme = true}), (StatusInk{lightInk, {}}));
     EXPECT_EQ(statusInk(PanelStyle::published, {.publishedInk = 0xFF123456}), (StatusInk{0xFF123456, {}}));
-    for (const auto style : {PanelStyle::plasma, PanelStyle::lxqt, PanelStyle::toolkit, PanelStyle::published,
-                             PanelStyle::unknown}) {
+    for (const auto style :
+         {PanelStyle::plasma, PanelStyle::lxqt, PanelStyle::published, PanelStyle::unknown}) {
         EXPECT_EQ(statusInk(style, {}), platedInk) << static_cast<int>(style);
     }
 }
 
 TEST(PanelInk, GoesByWhatThePanelItselfHasToDoWith) {
-    const PanelClues misleading{.darkScheme = false, .darkToolkit = true, .publishedInk = 0xFF123456};
+    const PanelClues misleading{.darkScheme = false, .publishedInk = 0xFF123456};
     EXPECT_EQ(statusInk(PanelStyle::dark, misleading), (StatusInk{lightInk, {}}));
     EXPECT_EQ(statusInk(PanelStyle::plasma, misleading), (StatusInk{darkInk, {}}));
-    EXPECT_EQ(statusInk(PanelStyle::toolkit, misleading), (StatusInk{lightInk, {}}));
     EXPECT_EQ(statusInk(PanelStyle::lxqt, misleading), platedInk);
     EXPECT_EQ(statusInk(PanelStyle::unknown, misleading), platedInk);
 }

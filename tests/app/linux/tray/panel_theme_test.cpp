@@ -33,8 +33,7 @@ TEST_F(PanelTheme, OfLxqtIsTheUsersChoice) {
 
 TEST_F(PanelTheme, IsNoneForTheOthers) {
     folder.write("plasmarc", "[Theme]\nname=default\n");
-    for (const auto style :
-         {PanelStyle::dark, PanelStyle::toolkit, PanelStyle::published, PanelStyle::unknown}) {
+    for (const auto style : {PanelStyle::dark, PanelStyle::published, PanelStyle::unknown}) {
         EXPECT_EQ(theme(style), "");
     }
 }

@@ -64,9 +64,9 @@ TrayHost square(WheelHabit wheel, PanelStyle panel) {
 }
 
 TEST(TrayHost, OfXfceAndCinnamonHasASquareAndAWheelThatCountsDownwards) {
-    EXPECT_EQ(trayHost("panel-6-systray"), square(downByNotch, PanelStyle::toolkit));
-    EXPECT_EQ(trayHost("panel-12-systra"), square(downByNotch, PanelStyle::toolkit));
-    EXPECT_EQ(trayHost("xfce4-panel"), square(downByNotch, PanelStyle::toolkit));
+    EXPECT_EQ(trayHost("panel-6-systray"), square(downByNotch, PanelStyle::unknown));
+    EXPECT_EQ(trayHost("panel-12-systra"), square(downByNotch, PanelStyle::unknown));
+    EXPECT_EQ(trayHost("xfce4-panel"), square(downByNotch, PanelStyle::unknown));
     EXPECT_EQ(trayHost("xapp-sn-watcher"), square(downByNotch, PanelStyle::unknown));
 }
 
