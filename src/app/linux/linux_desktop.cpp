@@ -1,11 +1,16 @@
 #include "app/linux/linux_desktop.h"
 
+#include <chrono>
+#include <utility>
+
 #include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
 #include <QWindow>
 
+#include "app/linux/session/startup_sequence.h"
+#include "app/linux/tray/panel_theme.h"
 #include "console/standard_output.h"
 #include "platform/battery_settings.h"
 
@@ -13,11 +18,16 @@ namespace quelby::app {
 
 namespace {
 
+// Also on a desktop of Wayland that has a server of X for such programs.
+bool onX11() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
 // The pointer in pixels: some hosts do not say where the item was pressed, but it is where the pointer is.
 std::optional<QPoint> pointer() {
     const auto position = QCursor::pos();
     const auto* const screen = QGuiApplication::screenAt(position);
-    if (screen == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
+    if (screen == nullptr || !onX11()) {
         return std::nullopt;
     }
     const auto corner = screen->geometry().topLeft();
@@ -42,15 +52,19 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
     : bus_(bus)
     , platform_(platform)
     , withoutTray_(withoutTray)
-    , appearance_(QString::fromStdString(platform_.folders->configuration().string()), [this] {
-        if (popover_) {
-            popover_->appearanceChanged();
-        }
-    }) {}
+    , configurationFolder_(QString::fromStdString(platform_.folders->configuration().string()))
+    , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
     return item_.emplace(LinuxStatusItem::Listener{
         .pressed = [this](std::optional<QPoint> where) { return itemPressed(where); },
+        .tokenGiven =
+            [this](const QByteArray& token) {
+                qputenv("XDG_ACTIVATION_TOKEN", token);
+                if (x_) {
+                    endStartupSequence(token.toStdString());
+                }
+            },
         .shown = [this](bool shown) { itemShown(shown); }});
 }
 
@@ -59,7 +73,7 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
                                          .clock = platform_.clock,
                                          .quit = std::move(quit),
                                          .openBatterySettings = openBatterySettings,
-                                         .appearance = [this] { return appearance_.current(); }});
+                                         .appearance = [this] { return appearance(); }});
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {
@@ -78,8 +92,26 @@ void LinuxDesktop::terminate() {
 }
 
 void LinuxDesktop::start() {
+    connectToX();
     setBus(bus_.connection());
     bus_.follow([this](const std::optional<QDBusConnection>& bus) { setBus(bus); });
+}
+
+// Only where Qt is connected with it as well: elsewhere the compositor would start a server of X for this.
+void LinuxDesktop::connectToX() {
+    if (!onX11()) {
+        return;
+    }
+    x_ = XDesktop::connect({.settingsChanged = [this] { appearance_.setXSettings(x_->settings()); },
+                            .trayChanged =
+                                [this] {
+                                    lookAtPanel();
+                                    item_->lookForOlderTray();
+                                },
+                            .gone = [this] { terminate(); }}); // before Qt ends the program its own way
+    if (x_) {
+        appearance_.setXSettings(x_->settings());
+    }
 }
 
 void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
@@ -87,19 +119,48 @@ void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
     item_->setBus(bus);
 }
 
+// On X11 Qt scales everything by the resolution that the desktop gives its fonts, which has it in it.
+Appearance LinuxDesktop::appearance() const {
+    auto appearance = appearance_.current();
+    if (onX11()) {
+        appearance.textScale = 1;
+    }
+    return appearance;
+}
+
+void LinuxDesktop::appearanceChanged() {
+    if (popover_) {
+        popover_->appearanceChanged();
+    }
+    if (item_) {
+        lookAtPanel();
+    }
+}
+
+void LinuxDesktop::lookAtPanel() {
+    item_->setPanel({.darkScheme = appearance_.darkScheme(),
+                     .panelTheme = panelTheme(item_->panelStyle(), configurationFolder_),
+                     .publishedInk = x_ ? x_->trayInk() : std::nullopt});
+}
+
 bool LinuxDesktop::itemPressed(std::optional<QPoint> where) {
     const auto place = where ? where : pointer();
     popover_->setItemPlace(place);
-    return !popover_->wasClosedByThisPress(place);
+    const bool closing = popover_->wasClosedByThisPress(place);
+    const auto now = std::chrono::steady_clock::now();
+    return !repeatedPress_.isOne(now, appearance_.doublePress()) && !closing;
 }
 
 void LinuxDesktop::itemShown(bool shown) {
-    popover_->setForm(shown ? PopoverForm::atTheItem : PopoverForm::ordinary);
-    if (shown || withoutTray_ == WithoutTray::wait) {
-        return;
+    const auto withoutTray = std::exchange(withoutTray_, WithoutTray::wait);
+    if (shown) {
+        popover_->setForm(PopoverForm::atTheItem);
+        lookAtPanel();
+    } else if (withoutTray == WithoutTray::openWindow) {
+        popover_->setForm(PopoverForm::ordinary);
+        writeToStandardError("quelby: this desktop has no tray, so the dashboard is an ordinary window\n");
+        popover_->show();
     }
-    writeToStandardError("quelby: this desktop has no tray, so the dashboard is an ordinary window\n");
-    popover_->show();
 }
 
 } // namespace quelby::app

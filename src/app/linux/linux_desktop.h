@@ -8,10 +8,13 @@
 #include "app/linux/popover/linux_popover.h"
 #include "app/linux/session/desktop_appearance.h"
 #include "app/linux/session/session_bus.h"
+#include "app/linux/session/x_desktop.h"
 #include "app/linux/tray/linux_status_item.h"
+#include "app/linux/tray/repeated_press.h"
 
 namespace quelby::app {
 
+// What to do on a desktop that has no tray when the program starts. One that goes away later is waited for.
 enum class WithoutTray {
     openWindow, // a person has just started the program and wants to see it
     wait,       // it was started with the session, whose panel may come later
@@ -35,16 +38,23 @@ public:
 
 private:
     void setBus(const std::optional<QDBusConnection>& bus);
+    void connectToX();
     void itemShown(bool shown);
     [[nodiscard]] bool itemPressed(std::optional<QPoint> where);
+    [[nodiscard]] Appearance appearance() const;
+    void appearanceChanged();
+    void lookAtPanel();
 
     SessionBus& bus_;
     Platform platform_;
-    WithoutTray withoutTray_;
+    WithoutTray withoutTray_; // asked once: a tray that goes away later comes back
+    QString configurationFolder_;
     DesktopAppearance appearance_;
+    RepeatedPress repeatedPress_;
     std::function<bool(const KeyDown&)> keyMonitor_;
     std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover
     std::optional<LinuxPopover> popover_;
+    std::unique_ptr<XDesktop> x_; // none on a desktop of Wayland alone
 };
 
 } // namespace quelby::app

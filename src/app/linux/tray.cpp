@@ -4,6 +4,7 @@
 
 #include "app/app_delegate.h"
 #include "app/linux/linux_desktop.h"
+#include "app/linux/session/exit_guard.h"
 #include "app/linux/session/single_instance.h"
 #include "app/linux/session/x_connection.h"
 #include "app/recorder_lock.h"
@@ -61,6 +62,10 @@ public:
                                         .mayRecordNow = [&lock] { return lock.tryAgain(); },
                                         .renewsShownHistory = kind_ == MachineKind::recorded},
                                        desktop);
+        const ExitGuard guard([&] { // Qt ends the program by itself where it loses the X server
+            delegate->applicationWillTerminate();
+            delegate.reset();
+        });
         delegate->applicationDidFinishLaunching();
         desktop.start();
         const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });

@@ -15,6 +15,8 @@ FocusScope {
     // What the desktop likes.
     required property bool dark
     required property bool animated
+    property bool contrast: false
+    property real textScale: 1
 
     property bool showSettings: false
     property bool showUninstallConfirm: false
@@ -90,6 +92,8 @@ FocusScope {
     Binding { target: view.dashboard; property: "settingsShown"; value: view.showSettings }
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
+    Binding { target: Theme; property: "contrast"; value: view.contrast }
+    Binding { target: Theme; property: "textScale"; value: view.textScale }
 
     // A question that was left open does not come back by itself.
     Connections {

@@ -6,6 +6,8 @@ namespace quelby {
 struct Appearance {
     bool dark = false;
     bool animated = true;
+    bool contrast = false; // more of it than most need
+    double textScale = 1;  // 1 to 1.5; everything grows with the text, so that no word is cut
 
     bool operator==(const Appearance&) const = default;
 };

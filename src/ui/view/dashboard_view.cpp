@@ -23,7 +23,9 @@ std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& m
     auto* const object =
         component.createWithInitialProperties({{QStringLiteral("dashboard"), QVariant::fromValue(&model)},
                                                {QStringLiteral("dark"), appearance.dark},
-                                               {QStringLiteral("animated"), appearance.animated}});
+                                               {QStringLiteral("animated"), appearance.animated},
+                                               {QStringLiteral("contrast"), appearance.contrast},
+                                               {QStringLiteral("textScale"), appearance.textScale}});
     failIfBroken(component);
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
     return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(object));
@@ -54,6 +56,8 @@ void DashboardView::setWatched(bool watched) {
 void DashboardView::setAppearance(Appearance appearance) {
     item_->setProperty("dark", appearance.dark);
     item_->setProperty("animated", appearance.animated);
+    item_->setProperty("contrast", appearance.contrast);
+    item_->setProperty("textScale", appearance.textScale);
 }
 
 void DashboardView::showSettings(bool shown) {

@@ -36,7 +36,8 @@ protected:
     BusConnection connection;
     BusPeer peer;
     StatusItemActions actions;
-    StatusNotifierItem item{*connection, actions, [](std::optional<QPoint>) { return true; }};
+    StatusNotifierItem item{*connection, actions, [](std::optional<QPoint>) { return true; },
+                            [](const QByteArray&) {}};
     BusObject object{connection->baseService(), "/StatusNotifierItem", "org.kde.StatusNotifierItem"};
 };
 

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(Edges, PopoverAtAnEdge,
 
 TEST_F(PopoverProgram, ShowsTheFiguresOfTheFirstCycleAtOnce) {
     const auto toolTip = qdbus_cast<app::DBusToolTip>(peer.property(item(), "ToolTip"));
-    EXPECT_THAT(toolTip.text.toStdString(), StartsWith("80 % discharging, "));
+    EXPECT_THAT(toolTip.title.toStdString(), StartsWith("80 % discharging, "));
     EXPECT_THAT(screen->windows(), IsEmpty()); // nothing opens by itself
     EXPECT_THAT(program->errors(), IsEmpty());
     expectCleanEnd();

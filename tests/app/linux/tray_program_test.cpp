@@ -20,6 +20,11 @@ protected:
     [[nodiscard]] std::int64_t recordedRows() const {
         return Database(historyFile(folder.path())).number("SELECT COUNT(*) FROM readings");
     }
+
+    [[nodiscard]] bool isOnTheBus(const QString& service) {
+        const BusObject daemon{"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"};
+        return peer.call(daemon, "NameHasOwner", {service}).arguments().value(0).toBool();
+    }
 };
 
 TEST_F(TrayProgram, EndsWithTheSignalsThatASessionSends) {
@@ -107,10 +112,7 @@ TEST_F(TrayProgram, GoesIntoATrayThatComesLater) {
 TEST_F(TrayProgram, WaitsForATrayWhereItWasStartedWithTheSession) {
     start({"--background"});
     const auto service = QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(program->process());
-    ASSERT_TRUE(becomes([&] {
-        const BusObject daemon{"org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"};
-        return peer.call(daemon, "NameHasOwner", {service}).arguments().value(0).toBool();
-    }));
+    ASSERT_TRUE(becomes([&] { return isOnTheBus(service); }));
     watcher.emplace("lxqt-panel");
     ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
     EXPECT_THAT(screen->windows(), IsEmpty());
@@ -123,12 +125,12 @@ TEST_F(TrayProgram, WaitsForATrayWhereItWasStartedWithTheSession) {
 TEST_F(TrayProgram, IsStillTheFirstAfterTheBusWasStartedAgain) {
     startInTray();
     bus.stop();
-    ASSERT_TRUE(becomes([&] { return program->errors() == noTray; }));
     watcher.reset();
     bus.start();
     watcher.emplace("lxqt-panel");
     ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
-    EXPECT_TRUE(closed());
+    EXPECT_THAT(program->errors(), IsEmpty());
+    EXPECT_THAT(screen->windows(), IsEmpty()); // nor did one come meanwhile
     RunningProgram second(words(), environment());
     EXPECT_EQ(second.end().exitStatus, 0);
     static_cast<void>(opened());
@@ -138,9 +140,10 @@ TEST_F(TrayProgram, IsStillTheFirstAfterTheBusWasStartedAgain) {
 
 TEST_F(TrayProgram, IsInATrayOfTheOlderKind) {
     ASSERT_TRUE(isInstalled("trayer"));
-    RunningProgram tray({"/usr/bin/env", "trayer", "--edge", "bottom", "--align", "right", "--height", "24",
-                         "--SetPartialStrut", "true"},
-                        environment());
+    const std::vector<std::string> trayer{"/usr/bin/env",      "trayer", "--edge",   "bottom",
+                                          "--align",           "right",  "--height", "24",
+                                          "--SetPartialStrut", "true"};
+    std::optional<RunningProgram> tray(std::in_place, trayer, environment());
     ASSERT_TRUE(eventually([&] { return screen->hasTray(); }));
     start();
     ASSERT_TRUE(becomes([&] { // the title is beside the symbol
@@ -155,9 +158,86 @@ TEST_F(TrayProgram, IsInATrayOfTheOlderKind) {
     screen->press(item.area.center());
     EXPECT_TRUE(closed());
     EXPECT_THAT(program->errors(), IsEmpty());
-    tray.signal(SIGTERM);
-    EXPECT_TRUE(screen->hasFrame(opened())); // without the tray it is an ordinary window
+    tray->signal(SIGTERM);
+    ASSERT_TRUE(becomes([&] { return !screen->docked(); }));
+    tray.emplace(trayer, environment()); // and into the next one
+    EXPECT_TRUE(becomes([&] { return screen->docked().has_value(); }));
+    EXPECT_THAT(screen->windows(), IsEmpty());
+    EXPECT_THAT(program->errors(), IsEmpty());
     expectCleanEnd();
+}
+
+TEST_F(TrayProgram, GoesIntoATrayOfTheOlderKindThatComesLater) {
+    ASSERT_TRUE(isInstalled("trayer"));
+    start({"--background"});
+    const auto service = QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(program->process());
+    ASSERT_TRUE(becomes([&] { return isOnTheBus(service); }));
+    const RunningProgram tray({"/usr/bin/env", "trayer"}, environment());
+    EXPECT_TRUE(becomes([&] { return screen->docked().has_value(); }));
+    EXPECT_THAT(program->errors(), IsEmpty());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, WaitsForAPanelThatIsRestarted) {
+    startInTray();
+    const auto service = watcher->items.back();
+    for (int i = 0; i < 3; ++i) {
+        watcher.reset();
+        watcher.emplace(i == 1 ? "waybar" : "lxqt-panel");
+        ASSERT_TRUE(becomes([&] { return !watcher->items.empty(); }));
+        EXPECT_EQ(watcher->items.back(), service);
+        EXPECT_THAT(screen->windows(), IsEmpty());
+    }
+    pressItem({640, 5});
+    EXPECT_FALSE(screen->hasFrame(opened()));
+    EXPECT_THAT(program->errors(), IsEmpty());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, OpensForASecondStartWhileThereIsNoPanelAndStays) {
+    startInTray();
+    watcher.reset();
+    RunningProgram second(words(), environment());
+    EXPECT_EQ(second.end().exitStatus, 0);
+    EXPECT_FALSE(screen->hasFrame(opened()));
+    screen->type("Escape");
+    EXPECT_TRUE(closed());
+    EXPECT_FALSE(program->hasEnded());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, QuitsWithEscapeWhereItIsAnOrdinaryWindow) {
+    start();
+    static_cast<void>(opened());
+    screen->type("Escape");
+    const auto end = program->end();
+    EXPECT_EQ(end.exitStatus, 0) << end.errors;
+}
+
+TEST_F(TrayProgram, OpensOnceWithADoublePress) {
+    screen->setSettings({{"Net/DoubleClickTime", 2000}});
+    startInTray();
+    pressItem({640, 5});
+    pressItem({640, 5}); // would close it again
+    static_cast<void>(opened());
+    EXPECT_THAT(screen->windows(), SizeIs(1));
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, EndsCleanlyWithTheScreenAndKeepsItsHistory) {
+    for (const bool open : {false, true}) {
+        startInTray();
+        if (open) {
+            pressItem({640, 5});
+            static_cast<void>(opened());
+        }
+        screen->end();
+        const auto end = program->end();
+        EXPECT_EQ(end.exitStatus, 0) << end.errors;
+        EXPECT_GE(recordedRows(), 1);
+        screen.emplace();
+        watcher.reset();
+    }
 }
 
 TEST(TrayProgramWithoutADisplay, SaysSoAndEnds) {

@@ -117,6 +117,18 @@ TEST_P(Readability, OfTheDashboard) {
     EXPECT_GT(texts, 100);
 }
 
+// The quiet texts are what it is asked for.
+TEST_P(Readability, IsHigherWhereTheDesktopAsksForIt) {
+    ShownView view(dashboard, {.dark = dark(), .animated = false, .contrast = true});
+    expectReadableFromTopToEnd(view);
+    auto* const theme = themeOf(view);
+    ASSERT_NE(theme, nullptr);
+    const auto card =
+        over(theme->property("card").value<QColor>(), theme->property("window").value<QColor>());
+    EXPECT_GE(contrast(theme->property("quiet").value<QColor>(), card), 7);
+    EXPECT_GE(contrast(theme->property("divider").value<QColor>(), card), 3);
+}
+
 TEST_P(Readability, OfTheSettings) {
     ShownView view(dashboard, {.dark = dark(), .animated = false});
     view.showSettings();

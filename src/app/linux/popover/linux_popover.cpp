@@ -37,20 +37,15 @@ bool LinuxPopover::make() {
         writeToStandardError("quelby: the library with the dashboard is missing\n");
         return false;
     }
+    shownTextScale_ = parts_.appearance().textScale;
     window_ = library_->makeWindow(parts_, form_,
-                                   {.left = [this] { close(); },
+                                   {.left = [this] { leave(); },
                                     .pressedOutside =
                                         [this](QPoint where) {
                                             closingPress_.happened(where, std::chrono::steady_clock::now());
                                             close();
                                         },
-                                    .closedByFrame =
-                                        [this] {
-                                            close();
-                                            if (form_ == PopoverForm::ordinary) {
-                                                parts_.quit();
-                                            }
-                                        }});
+                                    .closedByFrame = [this] { leave(); }});
     return true;
 }
 
@@ -95,13 +90,25 @@ void LinuxPopover::close() {
     }
 }
 
+// Nothing is left of the program where there is no tray to open it from again.
+void LinuxPopover::leave() {
+    close();
+    if (form_ == PopoverForm::ordinary) {
+        parts_.quit();
+    }
+}
+
 bool LinuxPopover::wasClosedByThisPress(std::optional<QPoint> place) {
     return closingPress_.isThePressOfTheItem(place, std::chrono::steady_clock::now());
 }
 
 void LinuxPopover::appearanceChanged() {
-    if (window_) {
-        window_->setAppearance(parts_.appearance());
+    const auto appearance = parts_.appearance();
+    if (appearance.textScale != shownTextScale_) { // the window is of another size then
+        close();
+        giveBack();
+    } else if (window_) {
+        window_->setAppearance(appearance);
     }
 }
 

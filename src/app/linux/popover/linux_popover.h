@@ -40,6 +40,7 @@ private:
     // Whether there is a window now.
     [[nodiscard]] bool make();
 
+    void leave();
     void giveBack();
 
     PopoverParts parts_;
@@ -48,6 +49,7 @@ private:
     ClosingPress closingPress_;
     std::unique_ptr<QuickLibrary> library_;   // none before the first showing
     std::unique_ptr<DashboardWindow> window_; // none while it is not needed
+    double shownTextScale_ = 1;               // of the window
     QTimer givingBack_;
 };
 

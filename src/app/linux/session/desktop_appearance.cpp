@@ -3,7 +3,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
-#include <QSettings>
 
 namespace quelby::app {
 
@@ -14,11 +13,14 @@ const auto portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const auto settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
 const auto appearanceGroup = QStringLiteral("org.freedesktop.appearance");
-const auto colorSchemeKey = QStringLiteral("color-scheme"); // 1 asks for dark, 2 for light, 0 does not care
+const auto colorSchemeKey = QStringLiteral("color-scheme");
+const auto contrastKey = QStringLiteral("contrast");
 const auto gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
+const auto gnomeThemeKey = QStringLiteral("gtk-theme");
 const auto gnomeAnimationsKey = QStringLiteral("enable-animations");
+const auto gnomeTextScaleKey = QStringLiteral("text-scaling-factor");
 const auto kdeGroup = QStringLiteral("org.kde.kdeglobals.KDE");
-const auto kdeAnimationsKey = QStringLiteral("AnimationDurationFactor"); // 0 for none
+const auto kdeAnimationsKey = QStringLiteral("AnimationDurationFactor");
 
 // The older method of the portal wraps its answer twice.
 QVariant unwrapped(QVariant value) {
@@ -30,46 +32,48 @@ QVariant unwrapped(QVariant value) {
 
 } // namespace
 
-Appearance gtkAppearance(const QString& file, Appearance otherwise) {
-    const QSettings settings(file, QSettings::IniFormat);
-    const auto value = [&](const char* key) {
-        return settings.value(QStringLiteral("Settings/") + QLatin1String(key));
-    };
-    const auto prefersDark = value("gtk-application-prefer-dark-theme");
-    const auto theme = value("gtk-theme-name").toString();
-    const auto animations = value("gtk-enable-animations");
-    if (prefersDark.isValid() || !theme.isEmpty()) {
-        otherwise.dark = prefersDark.toBool() || theme.endsWith(QLatin1String("-dark"), Qt::CaseInsensitive);
-    }
-    if (animations.isValid()) {
-        otherwise.animated = animations.toBool();
-    }
-    return otherwise;
-}
-
 DesktopAppearance::DesktopAppearance(const QString& configurationFolder, std::function<void()> changed)
-    : changed_(std::move(changed))
-    , appearance_(gtkAppearance(configurationFolder + QStringLiteral("/gtk-3.0/settings.ini"), {})) {}
+    : configurationFolder_(configurationFolder)
+    , changed_(std::move(changed))
+    , settings_{.portal = {}, .x = {}, .file = toolkitSettings(configurationFolder)} {
+    portal_.addWatchedService(portalService);
+    portal_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
+    QObject::connect(&portal_, &QDBusServiceWatcher::serviceRegistered, this, [this] { askForEverything(); });
+}
 
 void DesktopAppearance::setBus(const std::optional<QDBusConnection>& bus) {
-    if (!bus) {
+    bus_ = bus;
+    if (!bus_) {
         return;
     }
-    auto connection = *bus;
     qRegisterMetaType<QDBusVariant>(); // which the bus needs to find the slot
-    connection.connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                       SLOT(settingChanged(QString, QString, QDBusVariant)));
-    ask(connection, appearanceGroup, colorSchemeKey);
-    ask(connection, gnomeGroup, gnomeAnimationsKey);
-    ask(connection, kdeGroup, kdeAnimationsKey);
+    bus_->connect(portalService, portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
+                  SLOT(settingChanged(QString, QString, QDBusVariant)));
+    portal_.setConnection(*bus_);
+    askForEverything();
 }
 
-void DesktopAppearance::ask(QDBusConnection bus, const QString& group, const QString& key) {
+void DesktopAppearance::setXSettings(const XSettings& settings) {
+    auto now = settings_;
+    now.x = settings;
+    changeTo(now);
+}
+
+void DesktopAppearance::askForEverything() {
+    ask(appearanceGroup, colorSchemeKey);
+    ask(appearanceGroup, contrastKey);
+    ask(gnomeGroup, gnomeThemeKey);
+    ask(gnomeGroup, gnomeTextScaleKey);
+    ask(gnomeGroup, gnomeAnimationsKey);
+    ask(kdeGroup, kdeAnimationsKey);
+}
+
+void DesktopAppearance::ask(const QString& group, const QString& key) {
     auto message =
         QDBusMessage::createMethodCall(portalService, portalPath, settingsInterface, QStringLiteral("Read"));
     message.setArguments({group, key});
     message.setAutoStartService(false); // a portal that nobody has started is not needed for this
-    auto* const answer = new QDBusPendingCallWatcher(bus.asyncCall(message), this);
+    auto* const answer = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
     QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer, group, key] {
         const QDBusPendingReply<QDBusVariant> reply = *answer;
         answer->deleteLater();
@@ -84,21 +88,30 @@ void DesktopAppearance::settingChanged(const QString& group, const QString& key,
 }
 
 void DesktopAppearance::take(const QString& group, const QString& key, const QVariant& value) {
-    auto appearance = appearance_;
+    auto now = settings_;
     const auto plain = unwrapped(value);
-    if (group == appearanceGroup && key == colorSchemeKey && plain.toUInt() != 0) {
-        appearance.dark = plain.toUInt() == 1;
+    if (group == appearanceGroup && key == colorSchemeKey) {
+        now.portal.colorScheme = plain.toUInt();
+    } else if (group == appearanceGroup && key == contrastKey) {
+        now.portal.contrast = plain.toUInt();
+    } else if (group == gnomeGroup && key == gnomeTextScaleKey) {
+        now.portal.textScale = plain.toDouble();
+    } else if (group == gnomeGroup && key == gnomeThemeKey) {
+        now.portal.theme = plain.toString().toStdString();
     } else if (group == gnomeGroup && key == gnomeAnimationsKey) {
-        appearance.animated = plain.toBool();
+        now.portal.animated = plain.toBool();
     } else if (group == kdeGroup && key == kdeAnimationsKey) {
-        appearance.animated = plain.toDouble() > 0;
+        now.portal.animationFactor = plain.toDouble();
     }
-    set(appearance);
+    changeTo(now);
 }
 
-void DesktopAppearance::set(Appearance appearance) {
-    if (appearance != appearance_) {
-        appearance_ = appearance;
+// The file is read again whenever anything else changes: desktops write it with the rest.
+void DesktopAppearance::changeTo(const DesktopSettings& settings) {
+    auto now = settings;
+    now.file = toolkitSettings(configurationFolder_);
+    if (now != settings_) {
+        settings_ = now;
         changed_();
     }
 }

@@ -1,43 +1,54 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
 #include <QDBusConnection>
+#include <QDBusServiceWatcher>
 #include <QDBusVariant>
 #include <QObject>
 
-#include "ui/view/appearance.h"
+#include "app/linux/session/desktop_settings.h"
 
 namespace quelby::app {
 
-// What the desktop says of light and dark and of animations: through its portal
-// (org.freedesktop.portal.Settings), or else in the settings file of GTK programs.
+// How the desktop likes its programs, followed: through its portal, by X11's settings, or in the settings file
+// of GTK programs.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
 public:
-    // The folder with the user's settings holds gtk-3.0/settings.ini, if there is one.
+    // The folder holds the user's settings. Told of each change of anything below.
     DesktopAppearance(const QString& configurationFolder, std::function<void()> changed);
 
-    [[nodiscard]] Appearance current() const { return appearance_; }
+    [[nodiscard]] Appearance current() const { return appearance(settings_); }
 
-    // Asks the portal, if it is running, and follows it from now on.
+    // As the function of this name says.
+    [[nodiscard]] std::optional<bool> darkScheme() const { return app::darkScheme(settings_); }
+
+    // Within it two presses are a double one.
+    [[nodiscard]] std::chrono::milliseconds doublePress() const { return app::doublePress(settings_); }
+
+    // Asks the portal, once it is running, and follows it from now on.
     void setBus(const std::optional<QDBusConnection>& bus);
+
+    void setXSettings(const XSettings& settings);
 
 private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    void ask(QDBusConnection bus, const QString& group, const QString& key);
+    void askForEverything();
+    void ask(const QString& group, const QString& key);
     void take(const QString& group, const QString& key, const QVariant& value);
-    void set(Appearance appearance);
+    void changeTo(const DesktopSettings& settings);
 
+    QString configurationFolder_;
     std::function<void()> changed_;
-    Appearance appearance_;
+    DesktopSettings settings_;
+    std::optional<QDBusConnection> bus_;
+    QDBusServiceWatcher portal_; // which may be started later than this program
 };
-
-// From the text of such a file. What it does not say stays as it is.
-[[nodiscard]] Appearance gtkAppearance(const QString& file, Appearance otherwise);
 
 } // namespace quelby::app

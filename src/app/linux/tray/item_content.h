@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "app/linux/tray/panel_ink.h"
 #include "monitor/menu_bar_display.h"
 
 namespace quelby::app {
@@ -14,6 +15,7 @@ struct ItemContent {
     std::string title;      // trimmed
     std::string toolTip;
     MenuBarDisplay display = MenuBarDisplay::watts; // chosen in its menu
+    StatusInk ink = platedInk;                      // of what is drawn
 
     bool operator==(const ItemContent&) const = default;
 };

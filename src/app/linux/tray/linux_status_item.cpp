@@ -17,22 +17,47 @@ LinuxStatusItem::LinuxStatusItem(Listener listener) : listener_(std::move(listen
 void LinuxStatusItem::setBus(const std::optional<QDBusConnection>& bus) {
     watcher_.reset();
     item_.reset();
+    host_.reset();
     if (!bus) {
         dockInOlderTray();
         return;
     }
-    item_.emplace(*bus, actions_, listener_.pressed);
+    item_.emplace(*bus, actions_, listener_.pressed, listener_.tokenGiven);
     watcher_.emplace(*bus, [this](const std::optional<TrayHost>& host) { hostChanged(host); });
 }
 
 void LinuxStatusItem::hostChanged(const std::optional<TrayHost>& host) {
-    if (host && item_) {
-        older_.reset();
-        item_->setHost(*host);
-        show();
-        listener_.shown(true);
-    } else {
+    host_ = host;
+    if (!host_) {
         dockInOlderTray();
+        return;
+    }
+    older_.reset();
+    item_->setHost(*host_);
+    listener_.shown(true);
+    takeInk();
+    show();
+}
+
+void LinuxStatusItem::lookForOlderTray() {
+    if (!host_ && !older_) {
+        dockInOlderTray();
+    }
+}
+
+PanelStyle LinuxStatusItem::panelStyle() const {
+    return host_ ? host_->panel : PanelStyle::published;
+}
+
+void LinuxStatusItem::setPanel(const PanelClues& clues) {
+    panel_ = clues;
+    takeInk();
+}
+
+void LinuxStatusItem::takeInk() {
+    if (const auto ink = statusInk(panelStyle(), panel_); ink != content_.ink) {
+        content_.ink = ink;
+        showSoon();
     }
 }
 
@@ -47,12 +72,20 @@ void LinuxStatusItem::dockInOlderTray() {
                                .lost =
                                    [this] {
                                        QMetaObject::invokeMethod(
-                                           &owner_, [this] { dockInOlderTray(); }, Qt::QueuedConnection);
+                                           &owner_, [this] { olderTrayLost(); }, Qt::QueuedConnection);
                                    }});
     if (older_) {
         older_->show(content_);
     }
     listener_.shown(older_ != nullptr);
+}
+
+// A host may have come meanwhile.
+void LinuxStatusItem::olderTrayLost() {
+    older_.reset();
+    if (!host_) {
+        dockInOlderTray();
+    }
 }
 
 // A symbol and a title that change together are drawn once.

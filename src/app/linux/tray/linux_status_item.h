@@ -18,6 +18,9 @@ public:
     struct Listener {
         StatusNotifierItem::PressListener pressed;
 
+        // Allows the window of the press that follows to come to the front.
+        StatusNotifierItem::TokenListener tokenGiven;
+
         // Whether anything shows the item now. Told as soon as it is known, and at each change.
         std::function<void(bool shown)> shown;
     };
@@ -26,6 +29,15 @@ public:
 
     // The session's bus from now on, or that there is none.
     void setBus(const std::optional<QDBusConnection>& bus);
+
+    // A tray of the older kind may have come.
+    void lookForOlderTray();
+
+    // Who decides now what the panel looks like.
+    [[nodiscard]] PanelStyle panelStyle() const;
+
+    // What is drawn is drawn so that it can be read there.
+    void setPanel(const PanelClues& clues);
 
     [[nodiscard]] bool hasButton() const override { return true; }
 
@@ -39,13 +51,17 @@ public:
 
 private:
     void hostChanged(const std::optional<TrayHost>& host);
+    void takeInk();
     void dockInOlderTray();
+    void olderTrayLost();
     void showSoon();
     void show();
 
     Listener listener_;
     StatusItemActions actions_;
     ItemContent content_;
+    PanelClues panel_;
+    std::optional<TrayHost> host_;
     bool showing_ = false; // at the end of this turn
     std::optional<StatusNotifierItem> item_;
     std::unique_ptr<XEmbedItem> older_;

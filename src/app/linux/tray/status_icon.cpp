@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 #include <QFontMetricsF>
@@ -9,6 +10,7 @@
 #include <QPainterPath>
 #include <fmt/format.h>
 
+#include "app/linux/tray/short_title.h"
 #include "ui/presentation/elements/metrics.h"
 #include "ui/symbols/symbol_picture.h"
 
@@ -16,8 +18,12 @@ namespace quelby::app {
 
 namespace {
 
-const QColor ink(250, 250, 250);
-const QColor edge(0, 0, 0, 150);
+// The capitals of the title in a square, in parts of its side, and their width in parts of the natural one.
+constexpr qreal largestText = 0.5;
+constexpr qreal smallestText = 0.36;
+constexpr qreal narrowest = 0.85;
+
+constexpr int outlineSize = 64; // pixels, from where titles are scaled
 
 QImage transparent(int width, int height) {
     QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
@@ -25,25 +31,67 @@ QImage transparent(int width, int height) {
     return image;
 }
 
-void drawSymbol(QPainter& painter, const QRectF& area, const QString& name) {
-    for (const auto& [x, y] : {std::pair(-0.7, 0.0), {0.7, 0.0}, {0.0, -0.7}, {0.0, 0.7}}) {
-        paintSymbol(painter, area.translated(x, y), name, edge);
+// Where there is a plate it is the whole picture, and keeps a little off what is drawn on it.
+qreal margin(const StatusInk& ink, int height) {
+    return ink.plate ? std::max(1, height / 11) : 0;
+}
+
+void drawPlate(QPainter& painter, const StatusInk& ink, const QSize& size) {
+    if (ink.plate) {
+        const qreal radius = size.height() / 5.0;
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromRgba(*ink.plate));
+        painter.drawRoundedRect(QRectF(QPointF(), size), radius, radius);
     }
-    paintSymbol(painter, area, name, ink);
+}
+
+// The part of its square that a symbol fills, from 0 to 1: a battery is as wide as it, but half as high.
+QRectF filledPart(const QString& symbol) {
+    constexpr int side = 64;
+    auto image = transparent(side, side);
+    QPainter painter(&image);
+    paintSymbol(painter, image.rect(), symbol, Qt::black);
+    painter.end();
+    int left = side;
+    int top = side;
+    int right = -1;
+    int bottom = -1;
+    for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+            if (qAlpha(image.pixel(x, y)) > 0) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+                top = std::min(top, y);
+                bottom = std::max(bottom, y);
+            }
+        }
+    }
+    return {QPointF(left, top) / side, QPointF(right + 1, bottom + 1) / side};
+}
+
+// As large as it can be in the middle of the area.
+void fitSymbol(QPainter& painter, const QRectF& area, const QString& name, QRgb ink) {
+    const auto part = filledPart(name);
+    if (part.isEmpty()) {
+        return;
+    }
+    const qreal side = std::min(area.width() / part.width(), area.height() / part.height());
+    const QPointF corner = area.center() - part.center() * side;
+    paintSymbol(painter, QRectF(corner, QSizeF(side, side)), name, QColor::fromRgba(ink));
 }
 
 QFont titleFont(qreal height) {
     QFont font(QString::fromUtf8(fontFamily));
-    font.setPixelSize(qRound(height));
+    font.setPixelSize(std::max(1, qRound(height)));
     font.setWeight(QFont::DemiBold);
     return font;
 }
 
-void drawTitle(QPainter& painter, QPointF baseline, const QFont& font, const QString& title) {
+// As an outline, which can be scaled to whole pixels.
+QPainterPath outline(const QFont& font, const QString& title) {
     QPainterPath path;
-    path.addText(baseline, font, title);
-    painter.strokePath(path, QPen(edge, 1.6));
-    painter.fillPath(path, ink);
+    path.addText(0, 0, font, title);
+    return path;
 }
 
 // Themes have no full battery that is still charging.
@@ -53,15 +101,18 @@ std::int64_t tenthBelowFull(std::int64_t percent) {
 
 } // namespace
 
-QImage symbolIcon(std::string_view symbolName, int side) {
+QImage symbolIcon(std::string_view symbolName, const StatusInk& ink, int side) {
     auto image = transparent(side, side);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawSymbol(painter, QRectF(1, 1, side - 2, side - 2), QString::fromUtf8(symbolName));
+    drawPlate(painter, ink, image.size());
+    const qreal free = std::max(1.0, margin(ink, side));
+    paintSymbol(painter, QRectF(image.rect()).marginsRemoved({free, free, free, free}),
+                QString::fromUtf8(symbolName), QColor::fromRgba(ink.ink));
     return image;
 }
 
-QImage wideIcon(std::string_view symbolName, std::string_view title, int height) {
+QImage wideIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink, int height) {
     const auto text = QString::fromUtf8(title).trimmed();
     const auto font = titleFont(height * 0.6);
     const QFontMetricsF metrics(font);
@@ -69,29 +120,44 @@ QImage wideIcon(std::string_view symbolName, std::string_view title, int height)
     auto image = transparent(height + gap + qRound(metrics.horizontalAdvance(text)) + gap, height);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawSymbol(painter, QRectF(1, 1, height - 2, height - 2), QString::fromUtf8(symbolName));
-    const qreal baseline = (height + metrics.capHeight()) / 2;
-    drawTitle(painter, {static_cast<qreal>(height + gap), baseline}, font, text);
+    drawPlate(painter, ink, image.size());
+    const qreal free = std::max(1.0, margin(ink, height));
+    paintSymbol(painter, QRectF(free, free, height - 2 * free, height - 2 * free),
+                QString::fromUtf8(symbolName), QColor::fromRgba(ink.ink));
+    const qreal baseline = std::round((height + metrics.capHeight()) / 2);
+    painter.fillPath(outline(font, text).translated(height + gap, baseline), QColor::fromRgba(ink.ink));
     return image;
 }
 
-QImage compactIcon(std::string_view symbolName, std::string_view title, int side) {
-    const auto text = QString::fromUtf8(title).trimmed();
+// The figure matters more than the symbol: it takes the width, and its height follows from that.
+QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink, int side) {
+    const auto text = QString::fromStdString(shortTitle(title)).trimmed();
     if (text.isEmpty()) {
-        return symbolIcon(symbolName, side);
+        return symbolIcon(symbolName, ink, side);
     }
     auto image = transparent(side, side);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    const qreal textHeight = side * 0.45;
-    const qreal symbolSide = side - textHeight;
-    drawSymbol(painter, QRectF((side - symbolSide) / 2, 0, symbolSide, symbolSide),
-               QString::fromUtf8(symbolName));
-    auto font = titleFont(textHeight);
-    const auto wanted = QFontMetricsF(font).horizontalAdvance(text);
-    font.setStretch(wanted > side ? qRound(100 * side / wanted) : 100);
-    const auto width = QFontMetricsF(font).horizontalAdvance(text);
-    drawTitle(painter, {(side - width) / 2, side - 1.0}, font, text);
+    drawPlate(painter, ink, image.size());
+    const qreal free = margin(ink, side);
+    const qreal room = side - 2 * free;
+    const auto font = titleFont(outlineSize);
+    const auto path = outline(font, text);
+    const auto bounds = path.boundingRect();
+    const qreal capHeight = QFontMetricsF(font).capHeight();
+    const int highest = qRound(side * largestText);
+    const int lowest = qRound(side * smallestText);
+    const int fitting = static_cast<int>(room * capHeight / (bounds.width() * narrowest));
+    const int height = std::clamp(fitting, lowest, highest);
+    const qreal vertical = height / capHeight;
+    const qreal horizontal = std::min(vertical, room / bounds.width());
+    const qreal baseline = side - free;
+    painter.fillPath(QTransform::fromTranslate(side / 2.0 - bounds.center().x() * horizontal, baseline)
+                         .scale(horizontal, vertical)
+                         .map(path),
+                     QColor::fromRgba(ink.ink));
+    const qreal below = baseline - height - 1;
+    fitSymbol(painter, QRectF(free, free, room, below - free), QString::fromUtf8(symbolName), ink.ink);
     return image;
 }
 

@@ -1,5 +1,4 @@
-// The status item as a picture, for hosts that show nothing else. Nobody knows the colour of the panel, so
-// what is drawn is light with a dark edge around it.
+// The status item as a picture, for hosts that show nothing else.
 #pragma once
 
 #include <cstdint>
@@ -8,17 +7,22 @@
 
 #include <QImage>
 
+#include "app/linux/tray/panel_ink.h"
+
 namespace quelby::app {
 
 // A square.
-[[nodiscard]] QImage symbolIcon(std::string_view symbolName, int side);
+[[nodiscard]] QImage symbolIcon(std::string_view symbolName, const StatusInk& ink, int side);
 
 // The symbol and the title beside it, as high as told and as wide as needed. The width does not change with
 // the digits of a title of one length.
-[[nodiscard]] QImage wideIcon(std::string_view symbolName, std::string_view title, int height);
+[[nodiscard]] QImage wideIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink,
+                              int height);
 
-// A square: the symbol above, the title below. Without a title it is the symbol's alone.
-[[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, int side);
+// A square: the symbol above, the title below, shortened where it would not be readable. Without a title it is
+// the symbol's alone.
+[[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink,
+                                 int side);
 
 // The name of the desktop's icon theme that means the same as the symbol, in tenths as the themes have them.
 // The level is the battery's in percent, and counts where the symbol itself says nothing of it. Only a battery

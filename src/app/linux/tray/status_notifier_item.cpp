@@ -1,8 +1,11 @@
 #include "app/linux/tray/status_notifier_item.h"
 
+#include <utility>
+
 #include <QDBusObjectPath>
 #include <QFile>
 
+#include "app/linux/tray/short_title.h"
 #include "app/linux/tray/status_icon.h"
 #include "ui/presentation/text/words.h"
 
@@ -10,7 +13,8 @@ namespace quelby::app {
 
 namespace {
 
-constexpr int iconSides[] = {22, 44}; // at scale 1 and 2
+constexpr int iconSides[] = {16, 22, 24, 32, 44}; // panels of all sizes, also at scale 2
+constexpr int fileSide = 44;
 
 const auto menuPath = QStringLiteral("/MenuBar");
 const auto noMenu = QStringLiteral("/NO_DBUSMENU"); // what the protocol's hosts take for "none"
@@ -21,10 +25,11 @@ const auto labelGuide = QStringLiteral("-888W");
 } // namespace
 
 StatusNotifierItem::StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions,
-                                       PressListener pressed)
+                                       PressListener pressed, TokenListener given)
     : DBusObject(bus, QStringLiteral("/StatusNotifierItem"), QStringLiteral("org.kde.StatusNotifierItem"))
     , actions_(actions)
     , pressed_(std::move(pressed))
+    , given_(std::move(given))
     , menu_(bus, menuPath, actions) {}
 
 void StatusNotifierItem::setHost(const TrayHost& host) {
@@ -35,24 +40,25 @@ void StatusNotifierItem::setHost(const TrayHost& host) {
 
 void StatusNotifierItem::show(const ItemContent& content) {
     const auto nameBefore = iconName();
-    const bool symbolChanged = content.symbol != content_.symbol;
-    const bool titleChanged = content.title != content_.title;
-    const bool toolTipChanged = content.toolTip != content_.toolTip;
-    content_ = content;
+    const auto toolTipBefore = toolTip();
+    const auto former = std::exchange(content_, content);
     menu_.setDisplay(content.display);
-    if (symbolChanged || iconName() != nameBefore || (titleChanged && drawsTitle())) {
+    if (draws(former) || iconName() != nameBefore) {
         announceIcon();
     }
-    if (titleChanged) {
+    if (content.title != former.title) {
         announceLabel();
     }
-    if (toolTipChanged) {
+    if (toolTip().title != toolTipBefore.title || toolTip().text != toolTipBefore.text) {
         announceToolTip();
     }
 }
 
-bool StatusNotifierItem::drawsTitle() const {
-    return host_.icon == IconForm::wide || host_.icon == IconForm::compact;
+// Whether the picture is another now.
+bool StatusNotifierItem::draws(const ItemContent& former) const {
+    const bool drawsTitle = host_.icon == IconForm::wide || host_.icon == IconForm::compact;
+    return content_.symbol != former.symbol || content_.ink != former.ink ||
+           (drawsTitle && content_.title != former.title);
 }
 
 void StatusNotifierItem::announceIcon() {
@@ -81,7 +87,7 @@ void StatusNotifierItem::writeIconFile() {
     }
     QFile::remove(iconName());
     ++iconNumber_;
-    static_cast<void>(symbolIcon(content_.symbol, iconSides[1]).save(iconName(), "PNG"));
+    static_cast<void>(symbolIcon(content_.symbol, content_.ink, fileSide).save(iconName(), "PNG"));
 }
 
 QString StatusNotifierItem::iconName() const {
@@ -102,18 +108,28 @@ DBusPictures StatusNotifierItem::pictures() const {
     for (const int side : iconSides) {
         switch (host_.icon) {
         case IconForm::wide:
-            pictures.append(dbusPicture(wideIcon(content_.symbol, content_.title, side)));
+            pictures.append(dbusPicture(wideIcon(content_.symbol, content_.title, content_.ink, side)));
             break;
         case IconForm::compact:
-            pictures.append(dbusPicture(compactIcon(content_.symbol, content_.title, side)));
+            pictures.append(dbusPicture(compactIcon(content_.symbol, content_.title, content_.ink, side)));
             break;
         case IconForm::symbol:
         case IconForm::file:
-            pictures.append(dbusPicture(symbolIcon(content_.symbol, side)));
+            pictures.append(dbusPicture(symbolIcon(content_.symbol, content_.ink, side)));
             break;
         }
     }
     return pictures;
+}
+
+// With the whole title where the picture has room for a shorter one only.
+DBusToolTip StatusNotifierItem::toolTip() const {
+    auto text = QString::fromUtf8(content_.toolTip);
+    if (host_.icon == IconForm::compact && shortTitle(content_.title) != content_.title) {
+        text = QString::fromUtf8(content_.title) + QStringLiteral(", ") + text;
+    }
+    return host_.readsTipTitle ? DBusToolTip{{}, {}, text, {}}
+                               : DBusToolTip{{}, {}, QString::fromUtf8(words::program), text};
 }
 
 QVariantMap StatusNotifierItem::properties() const {
@@ -131,9 +147,7 @@ QVariantMap StatusNotifierItem::properties() const {
         {QStringLiteral("AttentionIconName"), QString()},
         {QStringLiteral("AttentionIconPixmap"), QVariant::fromValue(DBusPictures())},
         {QStringLiteral("AttentionMovieName"), QString()},
-        {QStringLiteral("ToolTip"),
-         QVariant::fromValue(
-             DBusToolTip{{}, {}, QString::fromUtf8(words::program), QString::fromUtf8(content_.toolTip)})},
+        {QStringLiteral("ToolTip"), QVariant::fromValue(toolTip())},
         {QStringLiteral("ItemIsMenu"), false},
         {QStringLiteral("Menu"), QVariant::fromValue(QDBusObjectPath(host_.wantsMenu ? menuPath : noMenu))}};
     if (host_.showsLabel) { // other hosts lose the icon where there is a label, even an empty one
@@ -150,15 +164,18 @@ QString StatusNotifierItem::members() const {
            signalText("NewIcon") + signalText("NewToolTip") + signalText("XAyatanaNewLabel", {"s", "s"});
 }
 
+// The second button has two calls. Hosts that know both try Ayatana's first, which says not where, and take the
+// other one where it is unknown.
 bool StatusNotifierItem::call(const QDBusMessage& message) {
     const auto member = message.member();
     if (member == QLatin1String("Activate") || member == QLatin1String("SecondaryActivate") ||
-        member == QLatin1String("XAyatanaSecondaryActivate") || member == QLatin1String("ContextMenu")) {
+        member == QLatin1String("ContextMenu") ||
+        (member == QLatin1String("XAyatanaSecondaryActivate") && host_.icon == IconForm::file)) {
         press(message);
     } else if (member == QLatin1String("Scroll")) {
         scroll(message);
     } else if (member == QLatin1String("ProvideXdgActivationToken") && !message.arguments().isEmpty()) {
-        qputenv("XDG_ACTIVATION_TOKEN", message.arguments().first().toString().toUtf8());
+        given_(message.arguments().first().toString().toUtf8());
         reply(message);
     } else {
         return false;
@@ -180,11 +197,12 @@ void StatusNotifierItem::press(const QDBusMessage& message) {
     }
 }
 
-void StatusNotifierItem::scroll(const QDBusMessage& message) const {
+void StatusNotifierItem::scroll(const QDBusMessage& message) {
     reply(message);
-    const int delta = message.arguments().isEmpty() ? 0 : message.arguments().first().toInt();
-    if (delta != 0) {
-        actions_.scroll(delta > 0 ? -1 : 1);
+    const auto arguments = message.arguments();
+    const int delta = arguments.value(0).toInt();
+    if (const int steps = wheel_.turned(delta, arguments.value(1).toString(), host_.wheel); steps != 0) {
+        actions_.scroll(steps);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "app/linux/tray/item_content.h"
 #include "app/linux/tray/tray_host.h"
 #include "app/linux/tray/tray_menu.h"
+#include "app/linux/tray/wheel_steps.h"
 
 namespace quelby::app {
 
@@ -20,8 +21,13 @@ public:
     // is to be acted on.
     using PressListener = std::function<bool(std::optional<QPoint> where)>;
 
+    // Takes the token that allows the window of the next press to come to the front, which the press then
+    // uses.
+    using TokenListener = std::function<void(const QByteArray& token)>;
+
     // The actions outlive the item, and may change.
-    StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions, PressListener pressed);
+    StatusNotifierItem(const QDBusConnection& bus, const StatusItemActions& actions, PressListener pressed,
+                       TokenListener given);
 
     // Whoever shows the item from now on.
     void setHost(const TrayHost& host);
@@ -35,9 +41,10 @@ private:
 
     [[nodiscard]] DBusPictures pictures() const;
     [[nodiscard]] QString iconName() const;
-    [[nodiscard]] bool drawsTitle() const;
+    [[nodiscard]] bool draws(const ItemContent& former) const;
+    [[nodiscard]] DBusToolTip toolTip() const;
     void press(const QDBusMessage& message);
-    void scroll(const QDBusMessage& message) const;
+    void scroll(const QDBusMessage& message);
     void announceIcon();
     void announceLabel();
     void announceToolTip();
@@ -45,6 +52,8 @@ private:
 
     const StatusItemActions& actions_;
     PressListener pressed_;
+    TokenListener given_;
+    WheelSteps wheel_;
     TrayMenu menu_;
     TrayHost host_;
     ItemContent content_;

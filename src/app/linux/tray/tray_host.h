@@ -5,6 +5,8 @@
 
 #include <string_view>
 
+#include "app/linux/tray/panel_ink.h"
+
 namespace quelby::app {
 
 enum class IconForm {
@@ -14,16 +16,36 @@ enum class IconForm {
     compact, // a square with the title drawn below a small symbol
 };
 
+// What a host sends for a turn of the wheel.
+enum class WheelUnit {
+    notch, // whatever the number, it is one step
+    angle, // eighths of a degree, 120 for a step: touchpads and fine wheels send less at a time
+};
+
+struct WheelHabit {
+    WheelUnit unit = WheelUnit::notch;
+    bool downIsPositive = false;
+
+    bool operator==(const WheelHabit&) const = default;
+};
+
 struct TrayHost {
     IconForm icon = IconForm::compact;
     bool showsLabel = false; // the title beside the icon
-    bool wantsMenu = true;   // otherwise a press of the first button would open it instead of the dashboard
+
+    // Otherwise a press of the first button would open it instead of the dashboard. Such a host opens the same
+    // menu, or none, by either button, and tells of neither.
+    bool wantsMenu = true;
 
     // Where a press succeeds, this host takes every later one for the first half of a double press.
     bool pressMustFail = false;
 
     // The coordinates of a press are those of the screen, in pixels.
     bool knowsCoordinates = true;
+
+    bool readsTipTitle = false; // and nothing else of a tool tip
+    WheelHabit wheel;
+    PanelStyle panel = PanelStyle::unknown;
 
     bool operator==(const TrayHost&) const = default;
 };

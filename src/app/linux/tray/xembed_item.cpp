@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSocketNotifier>
@@ -54,7 +55,7 @@ public:
     void show(const ItemContent& content) override {
         content_ = content;
         const auto width =
-            static_cast<std::uint32_t>(wideIcon(content.symbol, content.title, height_).width());
+            static_cast<std::uint32_t>(wideIcon(content.symbol, content.title, content.ink, height_).width());
         if (width != wantedWidth_) {
             wantedWidth_ = width;
             tellWantedSize();
@@ -148,8 +149,12 @@ private:
     void readEvents() {
         while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_.get())}) {
             if (!handle(*event)) {
-                break; // this object may be gone now
+                return; // this object may be gone now
             }
+        }
+        if (xcb_connection_has_error(connection_.get()) != 0) {
+            readable_.setEnabled(false); // which would have no end
+            listener_.lost();
         }
     }
 
@@ -194,11 +199,13 @@ private:
 
     void draw() {
         const int needed = static_cast<int>(wantedWidth_);
+        const bool transparent = depth_ == 32;
+        const auto ink = transparent ? content_.ink : StatusInk{lightInk, std::nullopt}; // on its own ground
         const auto icon = width_ >= needed
-                              ? wideIcon(content_.symbol, content_.title, height_)
-                              : compactIcon(content_.symbol, content_.title, std::min(width_, height_));
+                              ? wideIcon(content_.symbol, content_.title, ink, height_)
+                              : compactIcon(content_.symbol, content_.title, ink, std::min(width_, height_));
         QImage picture(width_, height_, QImage::Format_ARGB32_Premultiplied);
-        picture.fill(depth_ == 32 ? Qt::transparent : Qt::black);
+        picture.fill(transparent ? Qt::transparent : Qt::black);
         QPainter painter(&picture);
         painter.drawImage((width_ - icon.width()) / 2, (height_ - icon.height()) / 2, icon);
         painter.end();
@@ -225,6 +232,9 @@ private:
 } // namespace
 
 std::unique_ptr<XEmbedItem> XEmbedItem::dock(Listener listener) {
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        return nullptr; // some compositors start a server of X for whoever looks for one
+    }
     int screenNumber = 0;
     auto connection = connectToX(screenNumber);
     if (!connection) {

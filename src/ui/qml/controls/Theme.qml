@@ -10,12 +10,14 @@ QtObject {
     // What the desktop asks for; set by whoever shows the dashboard.
     property bool dark: false
     property bool animated: true
+    property bool contrast: false
+    property real textScale: 1
 
     // All sizes are multiples of this, in points.
-    readonly property real unit: 2
+    readonly property real unit: 2 * textScale
 
-    readonly property real viewWidth: Metrics.viewWidth
-    readonly property real viewHeight: Metrics.viewHeight
+    readonly property real viewWidth: Math.round(Metrics.viewWidth * textScale)
+    readonly property real viewHeight: Math.round(Metrics.viewHeight * textScale)
     readonly property real viewPadding: 8 * unit
     readonly property real viewSpacing: 7 * unit
     readonly property real cardPadding: 6 * unit
@@ -30,24 +32,24 @@ QtObject {
     readonly property string family: Metrics.fontFamily
     readonly property string starFamily: "DejaVu Sans"
 
-    readonly property real hugeSize: 36
-    readonly property real scoreSize: 28
-    readonly property real levelSize: 26
-    readonly property real title2Size: 17
-    readonly property real title3Size: 15
-    readonly property real headlineSize: 13
-    readonly property real bodySize: 13
-    readonly property real captionSize: 11
-    readonly property real caption2Size: 10
-    readonly property real smallSize: 9
+    readonly property real hugeSize: 36 * textScale
+    readonly property real scoreSize: 28 * textScale
+    readonly property real levelSize: 26 * textScale
+    readonly property real title2Size: 17 * textScale
+    readonly property real title3Size: 15 * textScale
+    readonly property real headlineSize: 13 * textScale
+    readonly property real bodySize: 13 * textScale
+    readonly property real captionSize: 11 * textScale
+    readonly property real caption2Size: 10 * textScale
+    readonly property real smallSize: 9 * textScale
 
     readonly property int glide: animated ? 120 : 0 // ms
     readonly property int fade: animated ? 120 : 0 // ms
 
     readonly property color window: dark ? "#1b1b1f" : "#e9e9ee"
-    readonly property color card: dark ? "#12ffffff" : "#b8ffffff"
+    readonly property color card: contrast ? (dark ? "#000000" : "#ffffff") : dark ? "#12ffffff" : "#b8ffffff"
     readonly property color track: dark ? "#598e8e93" : "#408e8e93"
-    readonly property color divider: dark ? "#1fffffff" : "#1a000000"
+    readonly property color divider: contrast ? inks[Ink.Secondary] : dark ? "#1fffffff" : "#1a000000"
     readonly property color control: dark ? "#17ffffff" : "#17000000"
     readonly property color controlPressed: dark ? "#3dffffff" : "#2b000000"
     readonly property color scrim: dark ? "#99000000" : "#59000000"
@@ -67,10 +69,11 @@ QtObject {
 
     // In the order of Ink.Name. Text has to be read, so it is darker than the surfaces of the same name in the
     // light, and lighter in the dark.
+    readonly property color quiet: contrast ? (dark ? "#e2e2e8" : "#33333a") : dark ? "#a9a9b2" : "#5f5f68"
     readonly property list<color> inks: dark
-        ? ["#f4f4f6", "#a9a9b2", "#4fcf7f", "#eec64b", "#ff9f52", "#ff867f", "#71b3ff", "#cc9bff", "#57cfe2",
+        ? ["#f4f4f6", quiet, "#4fcf7f", "#eec64b", "#ff9f52", "#ff867f", "#71b3ff", "#cc9bff", "#57cfe2",
            "#8ab8ff", "#ffffff"]
-        : ["#1c1c1f", "#5f5f68", "#17793a", "#7d5a00", "#a84a06", "#bf2a24", "#0b5cc2", "#7d3bb5", "#0a6c80",
+        : ["#1c1c1f", quiet, "#17793a", "#7d5a00", "#a84a06", "#bf2a24", "#0b5cc2", "#7d3bb5", "#0a6c80",
            "#1f5fd6", "#ffffff"]
     readonly property list<color> fills: dark
         ? ["#f4f4f6", "#8d8d96", "#43c473", "#e6bd3f", "#f79646", "#f26d66", "#5ba4f8", "#bd87f2", "#48c1d6",
@@ -84,7 +87,7 @@ QtObject {
         curveWidth: theme.unit
         dotDiameter: 3 * theme.unit
         axisColor: theme.inks[Ink.Secondary]
-        axisSize: 8
+        axisSize: 8 * theme.textScale
         lineColor: "#66ffffff"
         lineWidth: theme.hairline
         circleColor: "#ffffff"

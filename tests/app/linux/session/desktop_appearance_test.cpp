@@ -7,12 +7,14 @@
 
 #include "app/linux/support/eventually.h"
 #include "app/linux/support/private_bus.h"
+#include "app/linux/support/x_settings_property.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
 
 static void PrintTo(const Appearance& appearance, std::ostream* stream) {
-    *stream << (appearance.dark ? "dark" : "light") << (appearance.animated ? ", animated" : ", still");
+    *stream << (appearance.dark ? "dark" : "light") << (appearance.animated ? ", animated" : ", still")
+            << (appearance.contrast ? ", contrast" : "") << ", text " << appearance.textScale;
 }
 
 } // namespace quelby
@@ -24,36 +26,8 @@ constexpr Appearance light{.dark = false, .animated = true};
 constexpr Appearance dark{.dark = true, .animated = true};
 constexpr Appearance still{.dark = false, .animated = false};
 
-Appearance gtkFile(const std::string& content, Appearance otherwise = light) {
-    const TemporaryFolder folder;
-    const auto file = folder.write("settings.ini", content);
-    return gtkAppearance(QString::fromStdString(file.string()), otherwise);
-}
-
-TEST(GtkAppearance, IsDarkByTheWishOfTheUserOrByTheNameOfTheTheme) {
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=1\n"), dark);
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=true\n"), dark);
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Adwaita-dark\n"), dark);
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Arc-Dark\ngtk-application-prefer-dark-theme=0\n"), dark);
-}
-
-TEST(GtkAppearance, IsLightWhereTheFileSaysSo) {
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-application-prefer-dark-theme=0\n", dark), light);
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-theme-name=Darkroom\n", dark), light);
-}
-
-TEST(GtkAppearance, IsStillWhereTheFileSaysSo) {
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-enable-animations=0\n"), still);
-    EXPECT_EQ(gtkFile("[Settings]\ngtk-enable-animations=1\n", still), light);
-}
-
-TEST(GtkAppearance, StaysAsItIsWhereTheFileSaysNothing) {
-    for (const auto* const content : {"", "[Settings]\ngtk-font-name=Sans 10\n",
-                                      "[Other]\ngtk-theme-name=a-dark\n", "no settings at all"}) {
-        EXPECT_EQ(gtkFile(content, dark), dark) << content;
-        EXPECT_EQ(gtkFile(content, still), still) << content;
-    }
-    EXPECT_EQ(gtkAppearance("/nonexistent/settings.ini", dark), dark);
+XSettings themed(const std::string& name) {
+    return XSettings(xSettingsProperty({{"Net/ThemeName", name}}));
 }
 
 // The desktop's portal, as far as it is asked.
@@ -128,6 +102,10 @@ TEST_F(DesktopAppearanceTest, FollowsThePortal) {
     portal.change("org.gnome.desktop.interface", "enable-animations", false);
     ASSERT_TRUE(becomes(still));
     EXPECT_EQ(changes, 5);
+    portal.change("org.freedesktop.appearance", "contrast", 1U);
+    ASSERT_TRUE(becomes({.dark = false, .animated = false, .contrast = true}));
+    portal.change("org.gnome.desktop.interface", "text-scaling-factor", 1.25);
+    ASSERT_TRUE(becomes({.dark = false, .animated = false, .contrast = true, .textScale = 1.25}));
 }
 
 TEST_F(DesktopAppearanceTest, PassesOverWhatItDoesNotKnow) {
@@ -136,9 +114,49 @@ TEST_F(DesktopAppearanceTest, PassesOverWhatItDoesNotKnow) {
     ASSERT_TRUE(becomes(dark));
     portal.change("org.freedesktop.appearance", "accent-color", 2U);
     portal.change("org.example", "color-scheme", 2U);
-    portal.change("org.freedesktop.appearance", "color-scheme", 0U); // does not care
     portal.change("org.gnome.desktop.interface", "enable-animations", false);
     ASSERT_TRUE(becomes({.dark = true, .animated = false})); // and what came before it changed nothing
+    EXPECT_EQ(changes, 2);
+}
+
+// GNOME's switch back says that it does not care.
+TEST_F(DesktopAppearanceTest, IsLightAgainWhereThePortalDoesNotCareAnyMore) {
+    FakePortal portal({{"color-scheme", 1U}, {"gtk-theme", "Adwaita-dark"}});
+    appearance.setBus(*connection);
+    ASSERT_TRUE(becomes(dark));
+    EXPECT_EQ(appearance.darkScheme(), true);
+    portal.change("org.gnome.desktop.interface", "gtk-theme", "Adwaita");
+    portal.change("org.freedesktop.appearance", "color-scheme", 0U);
+    ASSERT_TRUE(becomes(light));
+    EXPECT_EQ(appearance.darkScheme(), std::nullopt);
+    portal.change("org.freedesktop.appearance", "color-scheme", 1U);
+    ASSERT_TRUE(becomes(dark));
+}
+
+TEST_F(DesktopAppearanceTest, AsksAPortalThatIsStartedLater) {
+    appearance.setBus(*connection);
+    const FakePortal portal({{"color-scheme", 1U}});
+    EXPECT_TRUE(becomes(dark));
+}
+
+TEST_F(DesktopAppearanceTest, KeepsWhatAPortalSaidThatIsGoneAndAsksTheNextOne) {
+    {
+        const FakePortal portal({{"color-scheme", 1U}});
+        appearance.setBus(*connection);
+        ASSERT_TRUE(becomes(dark));
+    }
+    const FakePortal portal({{"color-scheme", 2U}});
+    EXPECT_TRUE(becomes(light));
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(DesktopAppearanceTest, FollowsTheThemeOfX11BothWays) {
+    appearance.setXSettings(themed("Adwaita-dark"));
+    EXPECT_EQ(appearance.current(), dark);
+    appearance.setXSettings(themed("Adwaita-dark"));
+    EXPECT_EQ(changes, 1);
+    appearance.setXSettings(themed("Adwaita"));
+    EXPECT_EQ(appearance.current(), light);
     EXPECT_EQ(changes, 2);
 }
 

@@ -1,6 +1,7 @@
 #include "app/linux/support/x_screen.h"
 
 #include <algorithm>
+#include <csignal>
 
 #include <gtest/gtest.h>
 
@@ -38,6 +39,39 @@ XScreen::XScreen()
     , connection_(xcb_connect(display_.c_str(), nullptr))
     , root_(app::xScreen(connection_.get(), 0)->root) {
     EXPECT_TRUE(eventually([&] { return !property(root_, "_NET_SUPPORTING_WM_CHECK").empty(); }));
+    setSettings({{"Net/DoubleClickTime", 0}});
+}
+
+void XScreen::setSettings(const XSettingValues& values) {
+    auto* const x = connection_.get();
+    const bool first = settings_ == XCB_WINDOW_NONE;
+    if (first) {
+        settings_ = xcb_generate_id(x);
+        xcb_create_window(x, XCB_COPY_FROM_PARENT, settings_, root_, -1, -1, 1, 1, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    }
+    const auto bytes = xSettingsProperty(values);
+    const auto type = xAtom(x, "_XSETTINGS_SETTINGS");
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, settings_, type, type, 8,
+                        static_cast<std::uint32_t>(bytes.size()), bytes.constData());
+    if (first) {
+        const auto selection = xAtom(x, "_XSETTINGS_S0");
+        xcb_set_selection_owner(x, settings_, selection, XCB_CURRENT_TIME);
+        xcb_client_message_event_t message{};
+        message.response_type = XCB_CLIENT_MESSAGE;
+        message.format = 32;
+        message.window = root_;
+        message.type = xAtom(x, "MANAGER");
+        message.data.data32[1] = selection;
+        message.data.data32[2] = settings_;
+        xcb_send_event(x, 0, root_, XCB_EVENT_MASK_STRUCTURE_NOTIFY, reinterpret_cast<const char*>(&message));
+    }
+    xcb_flush(x);
+}
+
+void XScreen::end() {
+    server_.signal(SIGTERM);
+    static_cast<void>(server_.end());
 }
 
 std::vector<std::uint32_t> XScreen::property(xcb_window_t window, const char* name) const {

@@ -7,6 +7,7 @@
 #include <QRect>
 
 #include "app/linux/session/x_connection.h"
+#include "app/linux/support/x_settings_property.h"
 #include "support/running_program.h"
 
 namespace quelby {
@@ -41,6 +42,12 @@ public:
     void press(QPoint where) const;
     void type(const std::string& key) const; // as xdotool names keys
 
+    // The settings that the programs of the desktop share. To begin with, no two presses are a double one.
+    void setSettings(const XSettingValues& values);
+
+    // The server ends, and with it the screen.
+    void end();
+
     // As the button in the window's frame does.
     void closeByItsFrame(const XWindow& window) const;
 
@@ -56,6 +63,7 @@ private:
     RunningProgram manager_;
     app::XConnection connection_;
     xcb_window_t root_ = XCB_WINDOW_NONE;
+    xcb_window_t settings_ = XCB_WINDOW_NONE;
 };
 
 } // namespace quelby

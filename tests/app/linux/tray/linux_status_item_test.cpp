@@ -7,6 +7,7 @@
 #include "app/linux/support/bus_peer.h"
 #include "app/linux/support/eventually.h"
 #include "app/linux/support/fake_watcher.h"
+#include "app/linux/tray/status_icon.h"
 #include "ui/support/printing.h"
 
 namespace quelby::app {
@@ -51,6 +52,7 @@ protected:
     int toggles = 0;
     SessionBus session;
     LinuxStatusItem item{{.pressed = [](std::optional<QPoint>) { return true; },
+                          .tokenGiven = [](const QByteArray&) {},
                           .shown = [this](bool now) { shown.push_back(now); }}};
 };
 
@@ -98,6 +100,41 @@ TEST_F(LinuxStatusItemTest, TellsWhenItsWatcherLeavesAndComesBack) {
     watcher.emplace("lxqt-panel");
     ASSERT_TRUE(registers(*watcher));
     EXPECT_THAT(shown, ElementsAre(true, false, true));
+}
+
+TEST_F(LinuxStatusItemTest, IsDrawnInTheInkOfItsPanel) {
+    const FakeWatcher watcher("kded5");
+    connect();
+    ASSERT_TRUE(registers(watcher));
+    EXPECT_EQ(item.panelStyle(), PanelStyle::plasma);
+    BusPeer peer;
+    const auto picture = [&] {
+        return qdbus_cast<DBusPictures>(peer.property(object(), "IconPixmap")).value(1).bytes;
+    };
+    const auto drawn = [&](const StatusInk& ink) {
+        return dbusPicture(compactIcon("battery.75percent", "-12W", ink, 22)).bytes;
+    };
+    EXPECT_EQ(picture(), drawn(platedInk)); // nobody has said anything
+    peer.listen(object().service);
+    for (const bool isDark : {false, true, false}) {
+        static_cast<void>(peer.signalsSoFar(object()));
+        item.setPanel({.darkScheme = isDark});
+        EXPECT_THAT(peer.signalsSoFar(object()), testing::Contains("NewIcon"));
+        EXPECT_EQ(picture(), drawn({isDark ? lightInk : darkInk, std::nullopt}));
+    }
+}
+
+TEST_F(LinuxStatusItemTest, ChangesItsInkWithTheHost) {
+    item.setPanel({.darkScheme = false});
+    auto watcher = std::make_optional<FakeWatcher>("kded5");
+    connect();
+    ASSERT_TRUE(registers(*watcher));
+    watcher.emplace("unheard-of");
+    ASSERT_TRUE(registers(*watcher));
+    EXPECT_EQ(item.panelStyle(), PanelStyle::unknown);
+    BusPeer peer;
+    EXPECT_EQ(qdbus_cast<DBusPictures>(peer.property(object(), "IconPixmap")).value(1).bytes,
+              dbusPicture(compactIcon("battery.75percent", "-12W", platedInk, 22)).bytes);
 }
 
 TEST_F(LinuxStatusItemTest, DrawsWhatChangesTogetherOnce) {

@@ -53,18 +53,40 @@ TEST_F(CalledItem, AnswersAPressInGnomeWithAnErrorAndActsAllTheSame) {
 
 TEST_F(CalledItem, ScrollsUpToTheFormerAndDownToTheNextFigure) {
     showAt("lxqt-panel");
-    for (const auto& [delta, orientation] :
-         std::vector<std::pair<int, QString>>{{120, "vertical"}, {-1, "horizontal"}, {0, "vertical"}}) {
+    for (const auto& [delta, orientation] : std::vector<std::pair<int, QString>>{{120, "vertical"},
+                                                                                 {-60, "vertical"},
+                                                                                 {-60, "vertical"},
+                                                                                 {-120, "horizontal"},
+                                                                                 {0, "vertical"}}) {
         EXPECT_EQ(call("Scroll", {delta, orientation}).type(), QDBusMessage::ReplyMessage);
     }
     EXPECT_THAT(done, ElementsAre("scroll -1", "scroll 1"));
 }
 
-TEST_F(CalledItem, KeepsTheTokenForTheWindowThatComesNext) {
+TEST_F(CalledItem, ScrollsTheOtherWayWhereTheHostCountsTheOtherWay) {
+    showAt("gnome-shell");
+    for (const int delta : {1, -1}) {
+        EXPECT_EQ(call("Scroll", {delta, "vertical"}).type(), QDBusMessage::ReplyMessage);
+    }
+    EXPECT_THAT(done, ElementsAre("scroll 1", "scroll -1"));
+}
+
+// GNOME tries the call without a place first, and the other one where that is unknown.
+TEST_F(CalledItem, TakesTheSecondButtonWithItsPlaceWhereTheHostHasOne) {
+    showAt("gnome-shell");
+    EXPECT_EQ(call("XAyatanaSecondaryActivate", {123U}).errorName(),
+              "org.freedesktop.DBus.Error.UnknownMethod");
+    EXPECT_THAT(done, IsEmpty());
+    EXPECT_EQ(call("SecondaryActivate", {1500, 16}).errorName(), "org.freedesktop.DBus.Error.Failed");
+    EXPECT_THAT(pressedAt, Optional(QPoint(1500, 16)));
+    EXPECT_THAT(done, ElementsAre("press", "toggle"));
+}
+
+TEST_F(CalledItem, HandsOnTheTokenForTheWindowThatComesNext) {
     showAt("lxqt-panel");
     EXPECT_EQ(call("ProvideXdgActivationToken", {"a-token"}).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(qgetenv("XDG_ACTIVATION_TOKEN"), "a-token");
-    qunsetenv("XDG_ACTIVATION_TOKEN");
+    EXPECT_THAT(tokens, ElementsAre("a-token"));
+    EXPECT_THAT(done, IsEmpty());
 }
 
 TEST_F(CalledItem, RefusesWhatItDoesNotKnow) {
@@ -93,7 +115,6 @@ TEST_F(CalledItem, SurvivesCallsWithOtherArguments) {
         static_cast<void>(call(method, {"words", QStringList{"and", "more"}}));
     }
     EXPECT_EQ(property("Title").toString(), "Quelby");
-    qunsetenv("XDG_ACTIVATION_TOKEN");
 }
 
 } // namespace

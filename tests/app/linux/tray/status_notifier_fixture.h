@@ -8,7 +8,12 @@
 
 namespace quelby::app {
 
-inline const ItemContent content{"battery.75percent", 80, "-12W", "80 % discharging", MenuBarDisplay::watts};
+inline const ItemContent content{"battery.75percent",
+                                 80,
+                                 "-12W",
+                                 "80 % discharging",
+                                 MenuBarDisplay::watts,
+                                 StatusInk{lightInk, std::nullopt}};
 
 // An item on a bus, seen from its other end.
 class StatusNotifierItemTest : public testing::Test {
@@ -38,14 +43,17 @@ protected:
     std::vector<std::string> done;
     std::optional<QPoint> pressedAt;
     bool acts = true;
+    std::vector<QByteArray> tokens;
     StatusItemActions actions{
         .toggle = [this] { done.emplace_back("toggle"); },
         .scroll = [this](int steps) { done.push_back("scroll " + std::to_string(steps)); }};
-    StatusNotifierItem item{*connection, actions, [this](std::optional<QPoint> where) {
+    StatusNotifierItem item{*connection, actions,
+                            [this](std::optional<QPoint> where) {
                                 pressedAt = where;
                                 done.emplace_back("press");
                                 return acts;
-                            }};
+                            },
+                            [this](const QByteArray& token) { tokens.push_back(token); }};
     BusObject object{connection->baseService(), "/StatusNotifierItem", "org.kde.StatusNotifierItem"};
 };
 

@@ -20,13 +20,14 @@ class ShownItem : public StatusNotifierItemTest {
 protected:
     [[nodiscard]] DBusPictures pictures() { return qdbus_cast<DBusPictures>(property("IconPixmap")); }
 
-    // The pictures are those of the drawing, at the two sides that hosts ask for.
+    // The pictures are those of the drawing, at the sides that hosts ask for.
     template <typename Drawing>
     void expectPicturesOf(const Drawing& drawing) {
         const auto shown = pictures();
-        ASSERT_THAT(shown, SizeIs(2));
-        for (int i = 0; i < 2; ++i) {
-            const auto expected = dbusPicture(drawing(i == 0 ? 22 : 44));
+        constexpr int sides[] = {16, 22, 24, 32, 44};
+        ASSERT_THAT(shown, SizeIs(std::size(sides)));
+        for (int i = 0; i < shown.size(); ++i) {
+            const auto expected = dbusPicture(drawing(sides[i]));
             EXPECT_EQ(shown[i].width, expected.width);
             EXPECT_EQ(shown[i].height, expected.height);
             EXPECT_EQ(shown[i].bytes, expected.bytes);
@@ -69,7 +70,7 @@ TEST_F(ShownItem, IsALabelBesideANamedIconAndWithoutMenuInGnome) {
     EXPECT_EQ(property("XAyatanaLabelGuide").toString(), "-888W");
     EXPECT_EQ(property("IconName").toString(), "battery-level-80-symbolic");
     EXPECT_EQ(property("Menu").value<QDBusObjectPath>().path(), "/NO_DBUSMENU");
-    expectPicturesOf([](int side) { return symbolIcon("battery.75percent", side); });
+    expectPicturesOf([](int side) { return symbolIcon("battery.75percent", content.ink, side); });
 }
 
 TEST_F(ShownItem, IsALabelBesideAFileForTheIndicatorService) {
@@ -79,7 +80,7 @@ TEST_F(ShownItem, IsALabelBesideAFileForTheIndicatorService) {
     const auto file = property("IconName").toString();
     EXPECT_TRUE(QFileInfo(file).isAbsolute());
     EXPECT_EQ(QImage(file).convertToFormat(QImage::Format_ARGB32_Premultiplied),
-              symbolIcon("battery.75percent", 44));
+              symbolIcon("battery.75percent", content.ink, 44));
 }
 
 TEST_F(ShownItem, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
@@ -90,7 +91,7 @@ TEST_F(ShownItem, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
         EXPECT_FALSE(all.contains("XAyatanaLabelGuide"));
         EXPECT_EQ(all["IconName"].toString(), "");
         EXPECT_EQ(all["Menu"].value<QDBusObjectPath>().path(), "/MenuBar");
-        expectPicturesOf([](int side) { return wideIcon("battery.75percent", "-12W", side); });
+        expectPicturesOf([](int side) { return wideIcon("battery.75percent", "-12W", content.ink, side); });
     }
 }
 
@@ -100,7 +101,7 @@ TEST_F(ShownItem, IsASquareWithTheTitleInItElsewhere) {
     EXPECT_FALSE(all.contains("XAyatanaLabel"));
     EXPECT_EQ(all["IconName"].toString(), "");
     EXPECT_EQ(all["Menu"].value<QDBusObjectPath>().path(), "/MenuBar");
-    expectPicturesOf([](int side) { return compactIcon("battery.75percent", "-12W", side); });
+    expectPicturesOf([](int side) { return compactIcon("battery.75percent", "-12W", content.ink, side); });
 }
 
 TEST_F(ShownItem, FollowsAChangeOfHosts) {
@@ -161,6 +162,17 @@ TEST_F(ShownItem, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
     EXPECT_TRUE(QFileInfo::exists(second));
 }
 
+TEST_F(ShownItem, SignalsAnIconInAnotherInk) {
+    auto dark = content;
+    dark.ink = {darkInk, std::nullopt};
+    for (const auto* const host : {"gnome-shell", "ayatana-indicat", "waybar", "lxqt-panel"}) {
+        showAt(host);
+        item.show(dark);
+        EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon")) << host;
+    }
+    expectPicturesOf([&](int side) { return compactIcon("battery.75percent", "-12W", dark.ink, side); });
+}
+
 TEST_F(ShownItem, SignalsALevelOnlyWhereItsIconBecomesAnother) {
     auto charging = content;
     charging.symbol = "bolt.fill";
@@ -183,12 +195,34 @@ TEST_F(ShownItem, SignalsALevelOnlyWhereItsIconBecomesAnother) {
 }
 
 TEST_F(ShownItem, SignalsAToolTipThatChanges) {
-    showAt("lxqt-panel");
+    showAt("kded5");
     auto changed = content;
     changed.toolTip = "79 % discharging";
     item.show(changed);
     EXPECT_THAT(signalsSoFar(), ElementsAre("NewToolTip"));
     EXPECT_EQ(qdbus_cast<DBusToolTip>(property("ToolTip")).text, "79 % discharging");
+}
+
+TEST_F(ShownItem, SaysTheToolTipInItsTitleWhereTheHostReadsNothingElse) {
+    showAt("lxqt-panel");
+    const auto toolTip = qdbus_cast<DBusToolTip>(property("ToolTip"));
+    EXPECT_EQ(toolTip.title, "80 % discharging");
+    EXPECT_EQ(toolTip.text, "");
+}
+
+TEST_F(ShownItem, SaysInItsToolTipWhatItsPictureShortens) {
+    auto current = content;
+    current.title = "1520 mA";
+    for (const auto& [host, text] : std::map<std::string, QString>{{"kded5", "1520 mA, 80 % discharging"},
+                                                                   {"waybar", "80 % discharging"}}) {
+        showAt(host);
+        item.show(current);
+        EXPECT_THAT(signalsSoFar(), testing::Contains("NewIcon")) << host;
+        EXPECT_EQ(qdbus_cast<DBusToolTip>(property("ToolTip")).text, text) << host;
+    }
+    showAt("gnome-shell");
+    item.show(current);
+    EXPECT_EQ(property("XAyatanaLabel").toString(), "1520 mA"); // there is room for it
 }
 
 TEST_F(ShownItem, SaysNothingWhileNothingChanges) {

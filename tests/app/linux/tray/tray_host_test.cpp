@@ -5,12 +5,19 @@
 namespace quelby::app {
 namespace {
 
+constexpr WheelHabit downByNotch{WheelUnit::notch, true};
+constexpr WheelHabit upByNotch{WheelUnit::notch, false};
+constexpr WheelHabit upByAngle{WheelUnit::angle, false};
+
 TEST(TrayHost, OfGnomeHasALabelAndNoMenuAndMustNotSucceed) {
     const TrayHost expected{.icon = IconForm::symbol,
                             .showsLabel = true,
                             .wantsMenu = false,
                             .pressMustFail = true,
-                            .knowsCoordinates = true};
+                            .knowsCoordinates = true,
+                            .readsTipTitle = false,
+                            .wheel = downByNotch,
+                            .panel = PanelStyle::dark};
     EXPECT_EQ(trayHost("gnome-shell"), expected);
 }
 
@@ -20,31 +27,60 @@ TEST(TrayHost, OfTheIndicatorServiceReadsItsIconFromAFile) {
                             .showsLabel = true,
                             .wantsMenu = true,
                             .pressMustFail = false,
-                            .knowsCoordinates = false};
+                            .knowsCoordinates = false,
+                            .readsTipTitle = false,
+                            .wheel = downByNotch,
+                            .panel = PanelStyle::published};
     EXPECT_EQ(trayHost("ayatana-indicat"), expected);
     EXPECT_EQ(trayHost("ayatana-indicator-application-service"), expected);
 }
 
 TEST(TrayHost, OfMateAndOfWaybarHasRoomForAWideIconAndNoCoordinates) {
-    const TrayHost expected{.icon = IconForm::wide,
-                            .showsLabel = false,
-                            .wantsMenu = true,
-                            .pressMustFail = false,
-                            .knowsCoordinates = false};
+    TrayHost expected{.icon = IconForm::wide,
+                      .showsLabel = false,
+                      .wantsMenu = true,
+                      .pressMustFail = false,
+                      .knowsCoordinates = false,
+                      .readsTipTitle = false,
+                      .wheel = upByNotch,
+                      .panel = PanelStyle::published};
     EXPECT_EQ(trayHost("notification-ar"), expected);
     EXPECT_EQ(trayHost("notification-area-applet"), expected);
+    expected.wheel = downByNotch;
+    expected.panel = PanelStyle::unknown;
     EXPECT_EQ(trayHost("waybar"), expected);
 }
 
-TEST(TrayHost, OfEveryOtherHasASquareWithTheTitleInIt) {
-    const TrayHost expected{.icon = IconForm::compact,
-                            .showsLabel = false,
-                            .wantsMenu = true,
-                            .pressMustFail = false,
-                            .knowsCoordinates = true};
-    for (const auto* const name : {"panel-6-systray", "lxqt-panel", "kded5", "plasmashell", "xapp-sn-watcher",
-                                   "gnome-shell-cal", "waybar-2", "ayatana", "", "unheard-of"}) {
-        EXPECT_EQ(trayHost(name), expected) << name;
+// A square with the title in it.
+TrayHost square(WheelHabit wheel, PanelStyle panel) {
+    return {.icon = IconForm::compact,
+            .showsLabel = false,
+            .wantsMenu = true,
+            .pressMustFail = false,
+            .knowsCoordinates = true,
+            .readsTipTitle = false,
+            .wheel = wheel,
+            .panel = panel};
+}
+
+TEST(TrayHost, OfXfceAndCinnamonHasASquareAndAWheelThatCountsDownwards) {
+    EXPECT_EQ(trayHost("panel-6-systray"), square(downByNotch, PanelStyle::unknown));
+    EXPECT_EQ(trayHost("panel-12-systra"), square(downByNotch, PanelStyle::unknown));
+    EXPECT_EQ(trayHost("xfce4-panel"), square(downByNotch, PanelStyle::unknown));
+    EXPECT_EQ(trayHost("xapp-sn-watcher"), square(downByNotch, PanelStyle::unknown));
+}
+
+TEST(TrayHost, OfPlasmaAndLxqtHasASquareAndAFineWheel) {
+    EXPECT_EQ(trayHost("kded5"), square(upByAngle, PanelStyle::plasma));
+    EXPECT_EQ(trayHost("plasmashell"), square(upByAngle, PanelStyle::plasma));
+    auto lxqt = square(upByAngle, PanelStyle::lxqt);
+    lxqt.readsTipTitle = true;
+    EXPECT_EQ(trayHost("lxqt-panel"), lxqt);
+}
+
+TEST(TrayHost, OfEveryOtherHasASquareOnAPanelThatNobodyKnows) {
+    for (const auto* const name : {"gnome-shell-cal", "waybar-2", "ayatana", "panel", "", "unheard-of"}) {
+        EXPECT_EQ(trayHost(name), square(upByNotch, PanelStyle::unknown)) << name;
     }
 }
 
