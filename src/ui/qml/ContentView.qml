@@ -16,12 +16,17 @@ FocusScope {
     required property bool dark
     required property bool animated
 
+    // Where nothing else draws the edge of the window.
+    property bool edged: false
+    property bool rounded: false
+
     property bool showSettings: false
     property bool showUninstallConfirm: false
     property bool uninstalling: false // as soon as the question is gone from the screen
     property alias scrollTop: scroll.contentY
 
     readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
+    readonly property real cornerRadius: rounded ? Theme.viewRadius : 0
     readonly property bool asking: tip.shown || uninstallQuestion.shown
 
     function scrollBy(distance: real) {
@@ -133,6 +138,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
+        radius: view.cornerRadius
         color: Theme.window
     }
 
@@ -144,7 +150,10 @@ FocusScope {
         contentHeight: column.implicitHeight + 2 * Theme.viewPadding
         boundsBehavior: Flickable.StopAtBounds
         enabled: !view.asking // neither for hands nor for assistive technology
-        T.ScrollBar.vertical: ScrollIndicator {}
+        T.ScrollBar.vertical: ScrollIndicator {
+            topPadding: padding + view.cornerRadius / 2
+            bottomPadding: padding + view.cornerRadius / 2
+        }
 
         ColumnLayout {
             id: column
@@ -191,6 +200,7 @@ FocusScope {
 
         anchors.fill: parent
         content: view.dashboard.chargingTip
+        cornerRadius: view.cornerRadius
         shown: view.dashboard.shouldShowChargingTip
         onAccepted: view.dashboard.openBatterySettings()
         onDismissed: view.dashboard.shouldShowChargingTip = false
@@ -201,8 +211,18 @@ FocusScope {
 
         anchors.fill: parent
         content: view.dashboard.uninstallConfirmation
+        cornerRadius: view.cornerRadius
         shown: view.showUninstallConfirm
         onAccepted: view.uninstalling = true
         onDismissed: view.showUninstallConfirm = false
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: view.cornerRadius
+        color: "transparent"
+        border.width: view.edged ? Theme.hairline : 0
+        border.color: Theme.edge
+        visible: view.edged
     }
 }
