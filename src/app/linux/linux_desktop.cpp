@@ -1,9 +1,7 @@
 #include "app/linux/linux_desktop.h"
 
-#include <QCursor>
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QWindow>
 
 #include "console/standard_output.h"
@@ -12,17 +10,6 @@
 namespace quelby::app {
 
 namespace {
-
-// The pointer in pixels: some hosts do not say where the item was pressed, but it is where the pointer is.
-std::optional<QPoint> pointer() {
-    const auto position = QCursor::pos();
-    const auto* const screen = QGuiApplication::screenAt(position);
-    if (screen == nullptr || QGuiApplication::platformName() != QLatin1String("xcb")) {
-        return std::nullopt;
-    }
-    const auto corner = screen->geometry().topLeft();
-    return corner + (position - corner) * screen->devicePixelRatio();
-}
 
 // The characters as the key has them without Control, which would turn them into control characters.
 KeyDown keyDown(const QKeyEvent& event) {
@@ -50,7 +37,7 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
 
 StatusItem& LinuxDesktop::makeStatusItem() {
     return item_.emplace(LinuxStatusItem::Listener{
-        .pressed = [this](std::optional<QPoint> where) { return itemPressed(where); },
+        .pressed = [this](std::optional<QPoint> told) { return popover_->itemPressed(told); },
         .shown = [this](bool shown) { itemShown(shown); }});
 }
 
@@ -85,12 +72,6 @@ void LinuxDesktop::start() {
 void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
     appearance_.setBus(bus);
     item_->setBus(bus);
-}
-
-bool LinuxDesktop::itemPressed(std::optional<QPoint> where) {
-    const auto place = where ? where : pointer();
-    popover_->setItemPlace(place);
-    return !popover_->wasClosedByThisPress(place);
 }
 
 void LinuxDesktop::itemShown(bool shown) {

@@ -36,7 +36,6 @@ public:
 private:
     void setBus(const std::optional<QDBusConnection>& bus);
     void itemShown(bool shown);
-    [[nodiscard]] bool itemPressed(std::optional<QPoint> where);
 
     SessionBus& bus_;
     Platform platform_;

@@ -37,21 +37,25 @@ bool LinuxPopover::make() {
         writeToStandardError("quelby: the library with the dashboard is missing\n");
         return false;
     }
-    window_ = library_->makeWindow(parts_, form_,
-                                   {.left = [this] { close(); },
-                                    .pressedOutside =
-                                        [this](QPoint where) {
-                                            closingPress_.happened(where, std::chrono::steady_clock::now());
-                                            close();
-                                        },
-                                    .closedByFrame =
-                                        [this] {
-                                            close();
-                                            if (form_ == PopoverForm::ordinary) {
-                                                parts_.quit();
-                                            }
-                                        }});
+    window_ = library_->makeWindow(
+        parts_, form_,
+        {.left = [this] { leave(); },
+         .wentElsewhere = [this](std::optional<QPoint> pointer) { goneElsewhere(pointer); },
+         .closedByFrame = [this] { leave(); }});
     return true;
+}
+
+// Without an item there would be no way back to an ordinary window, nor one to end the program.
+void LinuxPopover::leave() {
+    close();
+    if (form_ == PopoverForm::ordinary) {
+        parts_.quit();
+    }
+}
+
+void LinuxPopover::goneElsewhere(std::optional<QPoint> pointer) {
+    closingPress_.happened(pointer, std::chrono::steady_clock::now());
+    close();
 }
 
 void LinuxPopover::giveBack() {
@@ -77,8 +81,9 @@ bool LinuxPopover::isShown() const {
 void LinuxPopover::show() {
     givingBack_.stop();
     if (make()) {
-        window_->show(itemPlace_);
+        window_->show(itemPress_);
     }
+    itemPress_.isNew = false;
 }
 
 void LinuxPopover::showSettings() {
@@ -89,14 +94,19 @@ void LinuxPopover::showSettings() {
 }
 
 void LinuxPopover::close() {
+    itemPress_.isNew = false;
     if (isShown()) {
         window_->hide();
         givingBack_.start();
     }
 }
 
-bool LinuxPopover::wasClosedByThisPress(std::optional<QPoint> place) {
-    return closingPress_.isThePressOfTheItem(place, std::chrono::steady_clock::now());
+bool LinuxPopover::itemPressed(std::optional<QPoint> told) {
+    if (!system_) {
+        system_ = windowSystem();
+    }
+    itemPress_ = {.told = told, .pointer = pointerPlace(*system_), .isNew = true};
+    return !closingPress_.isThePressOfTheItem(itemPress_.pointer, std::chrono::steady_clock::now());
 }
 
 void LinuxPopover::appearanceChanged() {

@@ -38,7 +38,13 @@ public:
     [[nodiscard]] bool hasKeyboard(const XWindow& window) const;
     [[nodiscard]] bool hasFrame(const XWindow& window) const;
 
+    [[nodiscard]] bool isOutOfWindowLists(const XWindow& window) const;
+
     void press(QPoint where) const;
+
+    // To no window at all.
+    void takeKeyboardAway() const;
+
     void type(const std::string& key) const; // as xdotool names keys
 
     // As the button in the window's frame does.

@@ -1,0 +1,26 @@
+// Which display server the program's windows go to. Decided before Qt is there: asked for one that it cannot
+// reach, Qt ends the program in its own way.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "base/problem.h"
+
+namespace quelby::app {
+
+struct Displays {
+    std::string wanted;   // as QT_QPA_PLATFORM names Qt's plugins, one or several; empty where it is not set
+    bool x11 = false;     // an X server answers
+    bool wayland = false; // a Wayland compositor answers
+    std::function<bool(std::string_view name)> hasPlugin; // of Qt, for this kind of display
+};
+
+// The name of Qt's plugin. The problem is that nothing would show a window, and why.
+[[nodiscard]] Result<std::string> chooseDisplay(const Displays& displays);
+
+// Has Qt, which is not there yet, take the display of the environment that it can reach.
+[[nodiscard]] Result<void> prepareDisplay();
+
+} // namespace quelby::app
