@@ -15,7 +15,7 @@ class Failure(Exception):
 
 class Walk:
     """A desktop has: name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
-    session, picture(), click(x, y), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
+    aside (how many pixels at the left belong to other windows), session, picture(), click(x, y), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
 
     def __init__(self, desktop, pictures):
         self.desktop = desktop
@@ -51,7 +51,8 @@ class Walk:
     def area_of_windows(self):
         width, height = self.desktop.screen
         edge, depth = self.desktop.panel
-        return (0, depth, width, height) if edge == "top" else (0, 0, width, height - depth)
+        left = self.desktop.aside
+        return (left, depth, width, height) if edge == "top" else (left, 0, width, height - depth)
 
     def require(self, condition, sentence):
         if not condition:
@@ -106,11 +107,11 @@ class Walk:
 
     def require_place(self, area):
         scale = self.desktop.scale
-        left, top, right, bottom = self.area_of_windows()
+        _, top, right, bottom = self.area_of_windows()
         edge, _ = self.desktop.panel
         gap = GAP * scale
         height = min(VIEW[1] * scale, bottom - top - 2 * gap)
-        room = (left + gap, right - gap)
+        room = (gap, right - gap)
         wanted = self.item[0] - VIEW[0] * scale / 2
         x = max(room[0], min(wanted, room[1] - VIEW[0] * scale))
         y = top + gap if edge == "top" else bottom - gap - height

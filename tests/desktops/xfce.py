@@ -57,6 +57,7 @@ MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 
 class Xfce:
     size = 28  # points
+    aside = 0
 
     def __init__(self, session, edge, scale):
         self.name = f"XFCE with its panel at the {edge}, scale {scale}"

@@ -4,6 +4,7 @@
 
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QLoggingCategory>
 #include <QStringList>
 
 #include "app/linux/session/wayland_compositor.h"
@@ -16,6 +17,12 @@ namespace {
 constexpr std::string_view xPlugin = "xcb";
 constexpr std::string_view waylandPlugin = "wayland";
 
+// With it a window can be given another role than Qt would give it.
+constexpr auto windowsWithoutRole = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
+
+// Nothing is drawn by a GPU, whose driver would take up more memory than all the rest.
+constexpr auto graphics = "QT_WAYLAND_CLIENT_BUFFER_INTEGRATION";
+
 // What stands before the first colon; after it come the plugin's own parameters.
 std::string_view nameIn(std::string_view wish) {
     return wish.substr(0, wish.find(':'));
@@ -25,11 +32,11 @@ bool isReached(const Displays& displays, std::string_view plugin) {
     if (plugin == xPlugin) {
         return displays.x11;
     }
-    return !plugin.starts_with(waylandPlugin) || displays.wayland;
+    return !plugin.starts_with(waylandPlugin) || displays.wayland.answers;
 }
 
 bool works(const Displays& displays, std::string_view plugin) {
-    return isReached(displays, plugin) && displays.hasPlugin(plugin);
+    return !plugin.empty() && isReached(displays, plugin) && displays.hasPlugin(plugin);
 }
 
 bool anyWorks(const Displays& displays, std::string_view wishes) {
@@ -76,14 +83,15 @@ Result<std::string> chooseDisplay(const Displays& displays) {
                    : problem(
                          "the display that QT_QPA_PLATFORM names is not there; --headless works without one");
     }
-    // A window of Wayland cannot say where it stands; one of X11 can, also on a desktop of Wayland that has
-    // room for it.
-    for (const auto plugin : {xPlugin, waylandPlugin}) {
+    // An ordinary window of Wayland cannot say where it stands; one of X11 can, also on a desktop of Wayland that
+    // has room for it, and one that belongs to the desktop can do so best.
+    const bool native = displays.wayland.desktopWindows && works(displays, waylandPlugin);
+    for (const auto plugin : {native ? waylandPlugin : xPlugin, waylandPlugin}) {
         if (works(displays, plugin)) {
             return std::string(plugin);
         }
     }
-    if (displays.wayland) {
+    if (displays.wayland.answers) {
         return problem("windows on Wayland need the package qt6-wayland; --headless works without a display");
     }
     return problem("there is no display; --headless works without one");
@@ -92,13 +100,25 @@ Result<std::string> chooseDisplay(const Displays& displays) {
 Result<void> prepareDisplay() {
     const auto chosen = chooseDisplay({.wanted = qEnvironmentVariable("QT_QPA_PLATFORM").toStdString(),
                                        .x11 = reachesX(),
-                                       .wayland = reachesWayland(),
+                                       .wayland = askWayland(),
                                        .hasPlugin = isInstalled});
     if (!chosen) {
         return tl::make_unexpected(chosen.error());
     }
     qputenv("QT_QPA_PLATFORM", chosen->c_str());
+    if (std::string_view(*chosen).starts_with(waylandPlugin)) {
+        qputenv(windowsWithoutRole, "1");
+        qputenv(graphics, "none");
+        // Of both it warns, as if they were mistakes.
+        QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland*.warning=false"));
+    }
     return {};
+}
+
+void forgetDisplay() {
+    for (const auto* const name : {windowsWithoutRole, graphics}) {
+        qunsetenv(name);
+    }
 }
 
 } // namespace quelby::app

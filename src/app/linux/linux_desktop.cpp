@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QWindow>
 
+#include "app/linux/display.h"
 #include "console/standard_output.h"
 #include "platform/battery_settings.h"
 
@@ -45,7 +46,11 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
     return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
                                          .clock = platform_.clock,
                                          .quit = std::move(quit),
-                                         .openBatterySettings = openBatterySettings,
+                                         .openBatterySettings =
+                                             [] {
+                                                 forgetDisplay();
+                                                 openBatterySettings();
+                                             },
                                          .appearance = [this] { return appearance_.current(); }});
 }
 

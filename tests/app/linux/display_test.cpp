@@ -16,20 +16,27 @@ std::string chosen(const Displays& displays) {
 
 TEST(Display, IsOfX11WhereAnXServerAnswers) {
     EXPECT_EQ(chosen({.x11 = true, .hasPlugin = everyPlugin}), "xcb");
-    EXPECT_EQ(chosen({.x11 = true, .wayland = true, .hasPlugin = everyPlugin}), "xcb");
+    EXPECT_EQ(chosen({.x11 = true, .wayland = {.answers = true}, .hasPlugin = everyPlugin}), "xcb");
 }
 
 TEST(Display, IsOfWaylandWhereThereIsNoXServer) {
-    EXPECT_EQ(chosen({.wayland = true, .hasPlugin = everyPlugin}), "wayland");
+    EXPECT_EQ(chosen({.wayland = {.answers = true}, .hasPlugin = everyPlugin}), "wayland");
+}
+
+TEST(Display, IsOfWaylandWhereTheCompositorHasWindowsOfTheDesktop) {
+    const WaylandOffer offer{.answers = true, .desktopWindows = true};
+    EXPECT_EQ(chosen({.x11 = true, .wayland = offer, .hasPlugin = everyPlugin}), "wayland");
+    const auto xOnly = [](std::string_view plugin) { return plugin == "xcb"; };
+    EXPECT_EQ(chosen({.x11 = true, .wayland = offer, .hasPlugin = xOnly}), "xcb");
 }
 
 TEST(Display, IsThatWhosePluginIsInstalled) {
     const auto only = [](std::string name) {
         return [name](std::string_view plugin) { return plugin == name; };
     };
-    EXPECT_EQ(chosen({.x11 = true, .wayland = true, .hasPlugin = only("wayland")}), "wayland");
-    EXPECT_EQ(chosen({.x11 = true, .wayland = true, .hasPlugin = only("xcb")}), "xcb");
-    EXPECT_EQ(chosen({.wayland = true, .hasPlugin = only("xcb")}),
+    EXPECT_EQ(chosen({.x11 = true, .wayland = {.answers = true}, .hasPlugin = only("wayland")}), "wayland");
+    EXPECT_EQ(chosen({.x11 = true, .wayland = {.answers = true}, .hasPlugin = only("xcb")}), "xcb");
+    EXPECT_EQ(chosen({.wayland = {.answers = true}, .hasPlugin = only("xcb")}),
               "problem: windows on Wayland need the package qt6-wayland; --headless works without a display");
 }
 
@@ -40,8 +47,9 @@ TEST(Display, IsNoneWhereNothingAnswers) {
 
 TEST(Display, IsTheOneThatIsWantedWhereItIsThere) {
     EXPECT_EQ(chosen({.wanted = "offscreen", .hasPlugin = everyPlugin}), "offscreen");
-    EXPECT_EQ(chosen({.wanted = "wayland", .x11 = true, .wayland = true, .hasPlugin = everyPlugin}),
-              "wayland");
+    EXPECT_EQ(
+        chosen({.wanted = "wayland", .x11 = true, .wayland = {.answers = true}, .hasPlugin = everyPlugin}),
+        "wayland");
     EXPECT_EQ(chosen({.wanted = "vnc:size=800x600", .hasPlugin = everyPlugin}), "vnc:size=800x600");
 }
 

@@ -119,7 +119,8 @@ TEST_F(PopoverProgram, ClosesWhenTheKeyboardGoesElsewhere) {
 TEST_F(PopoverProgram, HasNoEntryInTaskbarAndPager) {
     for (int i = 0; i < 2; ++i) { // a window manager forgets it with the window
         pressItem(place);
-        EXPECT_TRUE(screen->isOutOfWindowLists(opened()));
+        const auto window = opened();
+        EXPECT_TRUE(becomes([&] { return screen->isOutOfWindowLists(window); }));
         screen->type("Escape");
         EXPECT_TRUE(closed());
     }

@@ -48,18 +48,18 @@ QMargins reservedBy(const Strut& strut, QRect screen, QSize desktop) {
 }
 
 // What Qt knows: of a single screen what the window manager says, of several nothing.
-QMargins knownToQt(const QScreen& screen) {
+QMargins knownToQt(const QScreen& screen, double scale) {
     const QRect whole = screen.geometry();
     const QRect available = screen.availableGeometry();
     const QMargins points(available.left() - whole.left(), available.top() - whole.top(),
                           whole.right() - available.right(), whole.bottom() - available.bottom());
-    return points * screen.devicePixelRatio();
+    return points * scale;
 }
 
 // Qt keeps a screen's corner where the system has it, and counts from there in points.
-QRect pixelsOf(const QScreen& screen) {
+QRect pixelsOf(const QScreen& screen, double scale) {
     const QRect points = screen.geometry();
-    return {points.topLeft(), points.size() * screen.devicePixelRatio()};
+    return {points.topLeft(), points.size() * scale};
 }
 
 } // namespace
@@ -77,10 +77,12 @@ std::vector<DesktopScreen> desktopScreens() {
     const auto panels = x11 ? panelStruts() : PanelStruts();
     std::vector<DesktopScreen> screens;
     for (const auto* const screen : QGuiApplication::screens()) {
-        const auto pixels = pixelsOf(*screen);
+        const double scale = x11 ? screen->devicePixelRatio() : 1; // elsewhere all is told in points
+        const auto pixels = pixelsOf(*screen, scale);
+        const auto reserved = reservedBy(panels.struts, pixels, panels.desktop);
         screens.push_back({.pixels = pixels,
-                           .reserved = reservedBy(panels.struts, pixels, panels.desktop) | knownToQt(*screen),
-                           .scale = screen->devicePixelRatio(),
+                           .reserved = reserved | knownToQt(*screen, scale),
+                           .scale = scale,
                            .main = screen == QGuiApplication::primaryScreen()});
     }
     return screens;

@@ -41,7 +41,8 @@ bool LinuxPopover::make() {
         parts_, form_,
         {.left = [this] { leave(); },
          .wentElsewhere = [this](std::optional<QPoint> pointer) { goneElsewhere(pointer); },
-         .closedByFrame = [this] { leave(); }});
+         .closedByFrame = [this] { leave(); },
+         .itemFound = [this](QPoint pointer) { itemPress_.pointer = pointer; }});
     return true;
 }
 

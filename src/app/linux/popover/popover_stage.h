@@ -20,6 +20,9 @@ public:
         // after the event loop was back.
         std::function<void(QSize size, Qt::Edge panel)> placed;
 
+        // Where the pointer was at the press of the item, in pixels, if that was not known before.
+        std::function<void(QPoint pointer)> itemFound;
+
         // A person pressed outside the popover. The pointer's place in pixels, where the display server knows
         // it. The listener may end the stage.
         std::function<void(std::optional<QPoint> pointer)> pressedOutside;

@@ -120,6 +120,7 @@ void PopoverWindow::showAtTheItem(const ItemPress& press) {
     stage_ = enterStage(
         *window_, press, QSize(viewWidth, viewHeight),
         {.placed = [this](QSize size, Qt::Edge panel) { placed(size, panel); },
+         .itemFound = [this](QPoint pointer) { listener_.itemFound(pointer); },
          .pressedOutside = [this](std::optional<QPoint> pointer) { listener_.wentElsewhere(pointer); },
          .dismissed = [this] { listener_.left(); }});
 }

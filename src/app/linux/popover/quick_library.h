@@ -33,6 +33,9 @@ public:
         std::function<void(std::optional<QPoint> pointer)> wentElsewhere;
 
         std::function<void()> closedByFrame;
+
+        // Where the pointer was at the press of the item, in pixels, if that was not known before.
+        std::function<void(QPoint pointer)> itemFound;
     };
 
     virtual ~DashboardWindow() = default;

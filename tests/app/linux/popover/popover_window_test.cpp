@@ -23,7 +23,8 @@ protected:
             parts, form,
             DashboardWindow::Listener{.left = [this] { ++left; },
                                       .wentElsewhere = [this](std::optional<QPoint>) { ++wentElsewhere; },
-                                      .closedByFrame = [] {}});
+                                      .closedByFrame = [] {},
+                                      .itemFound = [](QPoint) {}});
     }
 
     // The dashboard in the one window that there is.
