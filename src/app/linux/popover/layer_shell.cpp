@@ -112,10 +112,6 @@ void LayerShell::found(void* self, wl_registry* registry, std::uint32_t name, co
     }
 }
 
-bool LayerShell::lendsKeyboard() const {
-    return wl_proxy_get_version(reinterpret_cast<wl_proxy*>(shell_)) >= 4;
-}
-
 LayerSurface::LayerSurface(LayerShell& shell, QWindow& window, const LayerPlace& place,
                            std::function<void()> closed)
     : shell_(shell), window_(window), closed_(std::move(closed)) {

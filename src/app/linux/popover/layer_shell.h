@@ -31,9 +31,6 @@ public:
 
     [[nodiscard]] wl_shm* memory() const { return memory_; }
 
-    // Whether a window can have the keyboard without keeping it from all others.
-    [[nodiscard]] bool lendsKeyboard() const;
-
 private:
     explicit LayerShell(wl_display* display);
     static void found(void* self, wl_registry* registry, std::uint32_t name, const char* interface,
@@ -50,7 +47,7 @@ private:
 struct LayerPlace {
     std::uint32_t anchors = 0;
     QMargins margins;
-    QSize size = {0, 0}; // a zero: from anchor to anchor
+    QSize size = {0, 0};      // a zero: from anchor to anchor
     bool amongPanels = false; // instead of beside them
     layer::Keyboard keyboard = layer::Keyboard::none;
 };

@@ -87,6 +87,7 @@ LayerStage::LayerStage(std::unique_ptr<LayerShell> shell, QQuickWindow& window, 
 }
 
 LayerStage::~LayerStage() {
+    focus_.reset();
     popover_.reset();
     for (auto& catcher : catchers_) {
         catcher->surface.reset();
@@ -131,6 +132,7 @@ void LayerStage::bringPopover() {
     there.keyboard = layer::Keyboard::exclusive;
     popover_->move(there);
     popover_->handOver();
+    focus_ = SwayFocus::watch([this] { listener_.dismissed(); });
     listener_.placed(size, place.panel);
 }
 

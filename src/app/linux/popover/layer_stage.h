@@ -6,6 +6,7 @@
 
 #include "app/linux/popover/layer_shell.h"
 #include "app/linux/popover/popover_stage.h"
+#include "app/linux/popover/sway_focus.h"
 
 namespace quelby::app {
 
@@ -34,6 +35,7 @@ private:
     Listener listener_;
     QTimer waiting_; // for the pointer
     std::vector<std::unique_ptr<Catcher>> catchers_;
+    std::unique_ptr<SwayFocus> focus_;      // while the popover is there, on Sway
     std::unique_ptr<LayerSurface> popover_; // none before its place is known
 };
 
