@@ -71,14 +71,14 @@ class Sway:
     def picture(self):
         return Picture.from_ppm(self.session.run("grim", "-t", "ppm", "-"))
 
-    def click(self, x, y):
-        """And away again, before a tool tip is shown."""
+    def press(self, x, y):
         self.pointer.move(round(x / self.scale), round(y / self.scale), *self.points)
         time.sleep(0.1)
         self.pointer.button(True)
         time.sleep(0.06)
         self.pointer.button(False)
-        time.sleep(0.3)
+
+    def rest(self):
         self.pointer.move(9, self.points[1] // 2, *self.points)
 
     def escape(self):
@@ -87,8 +87,8 @@ class Sway:
     def steps_aside(self):
         width, height = self.screen
         return {
-            "a press on the bare desktop": lambda: self.click(width // 2, height * 7 // 8),
-            "a press on a window": lambda: self.click(width // 8, height * 3 // 8),
+            "a press on the bare desktop": lambda: self.press(width // 2, height * 7 // 8),
+            "a press on a window": lambda: self.press(width // 8, height * 3 // 8),
             "the keyboard going to another window": lambda: self.command("[app_id=foot]", "focus"),
             "another workspace": lambda: self.command("workspace", "2"),
         }
@@ -97,12 +97,12 @@ class Sway:
         self.command("workspace", "1")
 
 
-CASES = [("top", 1, "disable"), ("bottom", 1, "enable"), ("top", 2, "enable"), ("bottom", 1.5, "disable")]
+CASES = [("top", 1, "disable"), ("bottom", 1.5, "enable"), ("top", 2, "enable"), ("bottom", 1, "disable")]
 
 
 def main():
     binaries, pictures = sys.argv[1:3]
-    for edge, scale, xwayland in CASES:
+    for edge, scale, xwayland in CASES if "--all" in sys.argv else CASES[:2]:
         with Session(binaries) as session:
             desktop = Sway(session, edge, scale, xwayland)
             desktop.start()

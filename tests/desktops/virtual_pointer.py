@@ -3,6 +3,7 @@
 import os
 import socket
 import struct
+import time
 
 DISPLAY, REGISTRY, CALLBACK, MANAGER, POINTER = 1, 2, 3, 4, 5
 LEFT_BUTTON = 0x110
@@ -17,7 +18,6 @@ class VirtualPointer:
     def __init__(self, path):
         self.socket = socket.socket(socket.AF_UNIX)
         self.socket.connect(path)
-        self.time = 0
         self.send(DISPLAY, 1, struct.pack("<I", REGISTRY))
         self.send(DISPLAY, 0, struct.pack("<I", CALLBACK))
         name = self.find("zwlr_virtual_pointer_manager_v1")
@@ -46,17 +46,18 @@ class VirtualPointer:
             data += more
         return data
 
-    def tick(self):
-        self.time += 10
-        return self.time
+    @staticmethod
+    def now():
+        """In milliseconds: what comes quickly after another press is a double one."""
+        return int(time.monotonic() * 1000) & 0xFFFFFFFF
 
     def move(self, x, y, width, height):
         """In points of a desktop that large."""
-        self.send(POINTER, 1, struct.pack("<5I", self.tick(), x, y, width, height))
+        self.send(POINTER, 1, struct.pack("<5I", self.now(), x, y, width, height))
         self.send(POINTER, 4)
 
     def button(self, down):
-        self.send(POINTER, 2, struct.pack("<3I", self.tick(), LEFT_BUTTON, 1 if down else 0))
+        self.send(POINTER, 2, struct.pack("<3I", self.now(), LEFT_BUTTON, 1 if down else 0))
         self.send(POINTER, 4)
 
 

@@ -15,7 +15,8 @@ class Failure(Exception):
 
 class Walk:
     """A desktop has: name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
-    aside (how many pixels at the left belong to other windows), session, picture(), click(x, y), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
+    aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
+    meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
 
     def __init__(self, desktop, pictures):
         self.desktop = desktop
@@ -83,19 +84,25 @@ class Walk:
         self.closed = self.desktop.picture()
 
     def popover(self):
-        return self.closed.difference(self.desktop.picture(), self.area_of_windows())
+        """Where it is; None where what has changed is smaller, as a pointer is."""
+        area = self.closed.difference(self.desktop.picture(), self.area_of_windows())
+        wide = area and area[2] - area[0] >= VIEW[0] * self.desktop.scale / 2
+        return area if wide else None
 
     def press_item(self):
-        self.desktop.click(*self.item)
+        self.desktop.press(*self.item)
 
     def open(self):
         self.require(self.popover() is None, "something is in the way already")
         self.press_item()
         self.require(eventually(self.popover), "a press of the item does not open the popover")
-        return self.closed.difference(self.still(), self.area_of_windows())
+        self.desktop.rest()  # before a tool tip is shown
+        self.still()
+        return self.popover()
 
     def must_close(self, how):
-        self.require(eventually(lambda: self.popover() is None, 4), f"{how} does not close the popover")
+        self.require(eventually(lambda: self.popover() is None), f"{how} does not close the popover")
+        self.desktop.rest()
 
     def opens_at_the_item_and_closes_with_its_press(self):
         area = self.open()
@@ -116,6 +123,7 @@ class Walk:
         x = max(room[0], min(wanted, room[1] - VIEW[0] * scale))
         y = top + gap if edge == "top" else bottom - gap - height
         expected = (x, y, x + VIEW[0] * scale, y + height)
+        self.require(area, "the popover is gone again")
         near = all(abs(one - other) <= 2 * scale for one, other in zip(area, expected))
         self.require(near, f"the popover is at {area} instead of {expected}, with the item at {self.item}")
 
@@ -131,7 +139,8 @@ class Walk:
     def opens_for_a_second_start(self):
         self.desktop.session.run(*self.desktop.session.quelby)
         self.require(eventually(self.popover), "a second start does not open the popover")
-        self.require_place(self.closed.difference(self.still(), self.area_of_windows()))
+        self.still()
+        self.require_place(self.popover())
         self.desktop.escape()
         self.must_close("Escape after a second start")
 

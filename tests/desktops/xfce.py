@@ -107,10 +107,12 @@ class Xfce:
         with open(self.file, "rb") as file:
             return Picture.from_xwd(file.read())
 
-    def click(self, x, y):
-        """And away again, before a tool tip is shown."""
-        self.session.run("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "sleep", "0.05", "mouseup", "1",
-                         "sleep", "0.3", "mousemove", "9", str(self.screen[1] // 2))
+    def press(self, x, y):
+        self.session.run("xdotool", "mousemove", str(x), str(y), "mousedown", "1", "sleep", "0.05", "mouseup", "1")
+
+    def rest(self):
+        time.sleep(0.1)  # in which the panel hands the press on
+        self.session.run("xdotool", "mousemove", "9", str(self.screen[1] // 2))
 
     def escape(self):
         self.session.run("xdotool", "key", "Escape")
@@ -118,7 +120,7 @@ class Xfce:
     def steps_aside(self):
         width, height = self.screen
         return {
-            "a press on the bare desktop": lambda: self.click(width // 4, height // 2),
+            "a press on the bare desktop": lambda: self.press(width // 4, height // 2),
             "another workspace": lambda: self.session.run("xdotool", "set_desktop", "1"),
         }
 
@@ -126,9 +128,12 @@ class Xfce:
         self.session.run("xdotool", "set_desktop", "0")
 
 
+CASES = [("top", 1), ("bottom", 1), ("top", 2), ("bottom", 2)]
+
+
 def main():
-    binaries, pictures = sys.argv[1:]
-    for edge, scale in (("top", 1), ("bottom", 1), ("top", 2)):
+    binaries, pictures = sys.argv[1:3]
+    for edge, scale in CASES if "--all" in sys.argv else CASES[:1]:
         with Session(binaries) as session:
             desktop = Xfce(session, edge, scale)
             desktop.start()
