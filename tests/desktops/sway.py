@@ -106,7 +106,7 @@ def main():
         with Session(binaries) as session:
             desktop = Sway(session, edge, scale, xwayland)
             desktop.start()
-            Walk(desktop, pictures).run()
+            Walk(desktop, pictures, "--all" in sys.argv).run()
 
 
 if __name__ == "__main__":

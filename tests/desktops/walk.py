@@ -18,9 +18,10 @@ class Walk:
     aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
     meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
 
-    def __init__(self, desktop, pictures):
+    def __init__(self, desktop, pictures, keeps_all=False):
         self.desktop = desktop
         self.pictures = pictures
+        self.keeps_all = keeps_all  # not only what is not as it should be
         self.closed = None  # the picture without the popover
         self.item = None
 
@@ -107,6 +108,8 @@ class Walk:
     def opens_at_the_item_and_closes_with_its_press(self):
         area = self.open()
         self.require_place(area)
+        if self.keeps_all:
+            self.keep("open")
         self.press_item()
         self.must_close("a second press of the item")
         time.sleep(0.6)
