@@ -34,6 +34,20 @@ void PlainStage::place(const ItemPress& press, QSize size) {
     window_.setScreen(QGuiApplication::screens().at(static_cast<qsizetype>(place.screen)));
     listener_.placed(place.area.size(), place.panel);
     window_.setGeometry(place.area);
+    place_ = place.area.topLeft();
+    for (const auto moved : {&QWindow::xChanged, &QWindow::yChanged}) {
+        QObject::connect(
+            &window_, moved, &moves_, [this] { insistOnPlace(); }, Qt::QueuedConnection);
+    }
+}
+
+// Some window managers make room for the frame that it then does not get, and move it by as much. Once, so that
+// nobody quarrels with one that knows better.
+void PlainStage::insistOnPlace() {
+    if (!hasInsisted_ && window_.position() != place_) {
+        hasInsisted_ = true;
+        window_.setPosition(place_);
+    }
 }
 
 void PlainStage::watchPresses() {

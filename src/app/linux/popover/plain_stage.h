@@ -21,15 +21,19 @@ public:
 
 private:
     void place(const ItemPress& press, QSize size);
+    void insistOnPlace();
     void watchPresses();
     void catchPresses();
     [[nodiscard]] bool isInside(QPoint pixel) const;
 
     QQuickWindow& window_;
+    QPoint place_;             // of the window's corner
+    bool hasInsisted_ = false; // on it
     Listener listener_;
     WindowSystem system_;
     std::vector<DesktopScreen> screens_;
     std::vector<std::unique_ptr<QWindow>> catchers_; // one on each screen, or none
+    QObject moves_;                                  // listens to those of the window
     std::unique_ptr<OutsidePresses> presses_;        // none where the server tells of none
 };
 

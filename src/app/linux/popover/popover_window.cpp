@@ -141,13 +141,11 @@ void PopoverWindow::placed(QSize size, Qt::Edge panel) {
 
 void PopoverWindow::showAsOrdinaryWindow() {
     const int room = window_->screen()->availableGeometry().height() - frameOfAWindow;
-    const int height = std::max(lowestOrdinaryWindow, std::min(viewHeight, room));
+    const QSize size(viewWidth, std::max(lowestOrdinaryWindow, std::min(viewHeight, room)));
     window_->setFlags(Qt::Window);
-    window_->setMinimumSize({viewWidth, std::min(lowestOrdinaryWindow, height)});
-    window_->setMaximumSize({viewWidth, viewHeight});
-    if (!window_->isVisible()) {
-        window_->resize(viewWidth, height);
-    }
+    window_->setMinimumSize(size); // of one size, as window managers that tile leave such a one as it is
+    window_->setMaximumSize(size);
+    window_->resize(size);
     window_->show();
     window_->raise();
     window_->requestActivate();
