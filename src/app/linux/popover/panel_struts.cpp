@@ -26,6 +26,7 @@ public:
         const auto list = ask(root_, xAtom(connection_.get(), "_NET_CLIENT_LIST"), mostWindows);
         const auto windows = answer(list);
         std::vector<xcb_get_property_cookie_t> asked; // all at once, so that it takes no longer than one
+        asked.reserve(windows.size());
         for (const auto window : windows) {
             asked.push_back(ask(window, partial_, 12));
         }

@@ -30,7 +30,7 @@ QIcon programIcon() {
     QPainter painter(&picture);
     QSvgRenderer(QStringLiteral(":/symbols/quelby.svg")).render(&painter);
     painter.end();
-    return QIcon(picture);
+    return {picture};
 }
 
 QSurfaceFormat withTransparency(QSurfaceFormat format) {
