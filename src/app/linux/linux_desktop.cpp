@@ -3,12 +3,11 @@
 #include <chrono>
 #include <utility>
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QKeyEvent>
-#include <QScreen>
 #include <QWindow>
 
+#include "app/linux/display.h"
 #include "app/linux/session/startup_sequence.h"
 #include "app/linux/tray/panel_theme.h"
 #include "console/standard_output.h"
@@ -21,17 +20,6 @@ namespace {
 // Also on a desktop of Wayland that has a server of X for such programs.
 bool onX11() {
     return QGuiApplication::platformName() == QLatin1String("xcb");
-}
-
-// The pointer in pixels: some hosts do not say where the item was pressed, but it is where the pointer is.
-std::optional<QPoint> pointer() {
-    const auto position = QCursor::pos();
-    const auto* const screen = QGuiApplication::screenAt(position);
-    if (screen == nullptr || !onX11()) {
-        return std::nullopt;
-    }
-    const auto corner = screen->geometry().topLeft();
-    return corner + (position - corner) * screen->devicePixelRatio();
 }
 
 // The characters as the key has them without Control, which would turn them into control characters.
@@ -57,7 +45,7 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
 
 StatusItem& LinuxDesktop::makeStatusItem() {
     return item_.emplace(LinuxStatusItem::Listener{
-        .pressed = [this](std::optional<QPoint> where) { return itemPressed(where); },
+        .pressed = [this](std::optional<QPoint> told) { return itemPressed(told); },
         .tokenGiven =
             [this](const QByteArray& token) {
                 qputenv("XDG_ACTIVATION_TOKEN", token);
@@ -72,7 +60,11 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
     return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
                                          .clock = platform_.clock,
                                          .quit = std::move(quit),
-                                         .openBatterySettings = openBatterySettings,
+                                         .openBatterySettings =
+                                             [] {
+                                                 forgetDisplay();
+                                                 openBatterySettings();
+                                             },
                                          .appearance = [this] { return appearance(); }});
 }
 
@@ -143,12 +135,10 @@ void LinuxDesktop::lookAtPanel() {
                      .publishedInk = x_ ? x_->trayInk() : std::nullopt});
 }
 
-bool LinuxDesktop::itemPressed(std::optional<QPoint> where) {
-    const auto place = where ? where : pointer();
-    popover_->setItemPlace(place);
-    const bool closing = popover_->wasClosedByThisPress(place);
+bool LinuxDesktop::itemPressed(std::optional<QPoint> told) {
+    const bool opensOrCloses = popover_->itemPressed(told); // to be told of each press
     const auto now = std::chrono::steady_clock::now();
-    return !repeatedPress_.isOne(now, appearance_.doublePress()) && !closing;
+    return !repeatedPress_.isOne(now, appearance_.doublePress()) && opensOrCloses;
 }
 
 void LinuxDesktop::itemShown(bool shown) {

@@ -40,7 +40,7 @@ private:
     void setBus(const std::optional<QDBusConnection>& bus);
     void connectToX();
     void itemShown(bool shown);
-    [[nodiscard]] bool itemPressed(std::optional<QPoint> where);
+    [[nodiscard]] bool itemPressed(std::optional<QPoint> told);
     [[nodiscard]] Appearance appearance() const;
     void appearanceChanged();
     void lookAtPanel();

@@ -3,10 +3,10 @@
 #include <QGuiApplication>
 
 #include "app/app_delegate.h"
+#include "app/linux/display.h"
 #include "app/linux/linux_desktop.h"
 #include "app/linux/session/exit_guard.h"
 #include "app/linux/session/single_instance.h"
-#include "app/linux/session/x_connection.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
 #include "console/program.h"
@@ -90,36 +90,28 @@ Result<void> run(const MachineArguments& arguments, const TrayCommand& command) 
     return {};
 }
 
-bool reachesX() {
-    int screenNumber = 0;
-    return connectToX(screenNumber) != nullptr;
-}
-
-// Asked before Qt is, which would abort the program.
-bool hasDisplay() {
-    return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
-           reachesX();
-}
-
-// A window of Wayland cannot say where it stands; one of X11 can, also on a desktop of Wayland that has room
-// for it.
-void preferPlacedWindows() {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM") && reachesX()) {
-        qputenv("QT_QPA_PLATFORM", "xcb");
+void restoreVariable(const char* name, const QByteArray& before) {
+    if (before.isEmpty()) {
+        qunsetenv(name);
+    } else {
+        qputenv(name, before);
     }
 }
 
 } // namespace
 
 int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
-    if (!hasDisplay()) {
-        return reportOutcome("quelby", problem("there is no display; --headless works without one"));
+    const auto platform = qgetenv("QT_QPA_PLATFORM");
+    if (const auto prepared = prepareDisplay(); !prepared) {
+        return reportOutcome("quelby", prepared);
     }
-    preferPlacedWindows();
     QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments, command); });
+    return runProgramWith<QGuiApplication>("quelby", argv, [&] {
+        restoreVariable("QT_QPA_PLATFORM", platform); // which was for this program, not for those it starts
+        return run(arguments, command);
+    });
 }
 
 } // namespace quelby::app

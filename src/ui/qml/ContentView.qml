@@ -18,12 +18,17 @@ FocusScope {
     property bool contrast: false
     property real textScale: 1
 
+    // Where nothing else draws the edge of the window.
+    property bool edged: false
+    property bool rounded: false
+
     property bool showSettings: false
     property bool showUninstallConfirm: false
     property bool uninstalling: false // as soon as the question is gone from the screen
     property alias scrollTop: scroll.contentY
 
     readonly property bool mirrored: Application.layoutDirection === Qt.RightToLeft
+    readonly property real cornerRadius: rounded ? Theme.viewRadius : 0
     readonly property bool asking: tip.shown || uninstallQuestion.shown
 
     function scrollBy(distance: real) {
@@ -137,6 +142,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
+        radius: view.cornerRadius
         color: Theme.window
     }
 
@@ -148,7 +154,10 @@ FocusScope {
         contentHeight: column.implicitHeight + 2 * Theme.viewPadding
         boundsBehavior: Flickable.StopAtBounds
         enabled: !view.asking // neither for hands nor for assistive technology
-        T.ScrollBar.vertical: ScrollIndicator {}
+        T.ScrollBar.vertical: ScrollIndicator {
+            topPadding: padding + view.cornerRadius / 2
+            bottomPadding: padding + view.cornerRadius / 2
+        }
 
         ColumnLayout {
             id: column
@@ -195,6 +204,7 @@ FocusScope {
 
         anchors.fill: parent
         content: view.dashboard.chargingTip
+        cornerRadius: view.cornerRadius
         shown: view.dashboard.shouldShowChargingTip
         onAccepted: view.dashboard.openBatterySettings()
         onDismissed: view.dashboard.shouldShowChargingTip = false
@@ -205,8 +215,18 @@ FocusScope {
 
         anchors.fill: parent
         content: view.dashboard.uninstallConfirmation
+        cornerRadius: view.cornerRadius
         shown: view.showUninstallConfirm
         onAccepted: view.uninstalling = true
         onDismissed: view.showUninstallConfirm = false
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: view.cornerRadius
+        color: "transparent"
+        border.width: view.edged ? Theme.hairline : 0
+        border.color: Theme.edge
+        visible: view.edged
     }
 }

@@ -60,6 +60,11 @@ void DashboardView::setAppearance(Appearance appearance) {
     item_->setProperty("textScale", appearance.textScale);
 }
 
+void DashboardView::setFrame(ViewFrame frame) {
+    item_->setProperty("edged", frame != ViewFrame::none);
+    item_->setProperty("rounded", frame == ViewFrame::rounded);
+}
+
 void DashboardView::showSettings(bool shown) {
     item_->setProperty("showSettings", shown);
 }

@@ -15,6 +15,13 @@ namespace quelby {
 // to begin and needs a third of the memory.
 void drawWithoutGpu();
 
+// The edge that the dashboard draws around itself.
+enum class ViewFrame {
+    none,     // what it is in has one
+    straight, // a line
+    rounded,  // a line with round corners, behind which everything is clear
+};
+
 class DashboardView {
 public:
     // The model outlives the view. Nothing is observed until the view is watched.
@@ -32,6 +39,7 @@ public:
     void setWatched(bool watched);
 
     void setAppearance(Appearance appearance);
+    void setFrame(ViewFrame frame);
     void showSettings(bool shown);
 
     // In points from the top; the end of the column at the most.

@@ -49,10 +49,10 @@ TEST_P(PopoverAtAnEdge, OpensWholeOnTheScreen) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Edges, PopoverAtAnEdge,
-                         testing::Values(Edge{"Top", {640, 5}, {440, 6}},
-                                         Edge{"Bottom", {640, 1019}, {440, 358}},
-                                         Edge{"Left", {5, 512}, {6, 182}},
-                                         Edge{"Right", {1275, 512}, {874, 182}}),
+                         testing::Values(Edge{"Top", {640, 5}, {440, 38}},
+                                         Edge{"Bottom", {640, 1019}, {440, 326}},
+                                         Edge{"Left", {5, 512}, {38, 182}},
+                                         Edge{"Right", {1275, 512}, {842, 182}}),
                          [](const auto& edge) { return std::string(edge.param.name); });
 
 TEST_F(PopoverProgram, ShowsTheFiguresOfTheFirstCycleAtOnce) {
@@ -92,6 +92,39 @@ TEST_F(PopoverProgram, DoesNotOpenAgainWithThePressThatClosedItButWithTheNext) {
     screen->press(place);
     pressItem(place); // this one would close it, had the one before opened it
     static_cast<void>(opened());
+    expectCleanEnd();
+}
+
+// Some hosts tell of a corner of the item, or of a place in other units.
+TEST_F(PopoverProgram, DoesNotOpenAgainWithThePressThatClosedItWhereverItsHostSaysThatItWas) {
+    pressItem(place);
+    static_cast<void>(opened());
+    screen->press(place);
+    EXPECT_TRUE(closed());
+    pressItem(place + QPoint(300, 0)); // the same press
+    pressItem(place);                  // this one would close it, had the one before opened it
+    static_cast<void>(opened());
+    expectCleanEnd();
+}
+
+TEST_F(PopoverProgram, ClosesWhenTheKeyboardGoesElsewhere) {
+    pressItem(place);
+    static_cast<void>(opened());
+    screen->takeKeyboardAway();
+    EXPECT_TRUE(closed());
+    EXPECT_FALSE(program->hasEnded());
+    expectCleanEnd();
+}
+
+TEST_F(PopoverProgram, HasNoEntryInTaskbarAndPager) {
+    for (int i = 0; i < 2; ++i) {
+        pressItem(place);
+        const auto window = opened();
+        EXPECT_TRUE(screen->isOutOfWindowLists(window));
+        screen->type("Escape");
+        EXPECT_TRUE(closed());
+        EXPECT_TRUE(becomes([&] { return !screen->isOutOfWindowLists(window); })); // the manager forgets it
+    }
     expectCleanEnd();
 }
 

@@ -9,20 +9,21 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto longestWay = 500ms; // of a press through the item's host; hosts take their time
-constexpr int farthestPixels = 32; // between the pointer and what the host says of it
+constexpr int farthestPixels = 32; // that the pointer goes on meanwhile
 
 } // namespace
 
-void ClosingPress::happened(QPoint where, Time when) {
-    press_ = Press{where, when};
+void ClosingPress::happened(std::optional<QPoint> pointer, Time when) {
+    press_ = Press{pointer, when};
 }
 
-bool ClosingPress::isThePressOfTheItem(std::optional<QPoint> where, Time when) {
+bool ClosingPress::isThePressOfTheItem(std::optional<QPoint> pointer, Time when) {
     const auto press = std::exchange(press_, std::nullopt);
     if (!press || when - press->when > longestWay) {
         return false;
     }
-    return !where || (*where - press->where).manhattanLength() <= farthestPixels;
+    const bool known = pointer && press->pointer;
+    return !known || (*pointer - *press->pointer).manhattanLength() <= farthestPixels;
 }
 
 } // namespace quelby::app

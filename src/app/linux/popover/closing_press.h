@@ -7,23 +7,24 @@
 
 namespace quelby::app {
 
-// The press outside the popover that closed it. Where it was at the item, the item's host hands it on a
-// little later, and then it must not open the popover again; the press after it does.
+// The press outside the popover that closed it, by itself or by the focus that it took along. Where it was at
+// the item, the item's host hands it on a little later, and then it must not open the popover again; the press
+// after it does.
 class ClosingPress {
 public:
     using Time = std::chrono::steady_clock::time_point;
 
-    // In pixels of the screen.
-    void happened(QPoint where, Time when);
+    // The pointer's place in pixels; nothing where that is not known for sure. What hosts say of places is no
+    // help here: many say something else.
+    void happened(std::optional<QPoint> pointer, Time when);
 
-    // Whether a press of the item, as its host tells of it, is the one that closed the popover. The place is
-    // where the item was pressed; nothing where that is not known. Every press comes once, so the one that
-    // closed the popover is forgotten with the first question.
-    [[nodiscard]] bool isThePressOfTheItem(std::optional<QPoint> where, Time when);
+    // Whether a press of the item that its host tells of now is the one that closed the popover. Every press
+    // comes once, so the one that closed the popover is forgotten with the first question.
+    [[nodiscard]] bool isThePressOfTheItem(std::optional<QPoint> pointer, Time when);
 
 private:
     struct Press {
-        QPoint where;
+        std::optional<QPoint> pointer;
         Time when;
     };
 

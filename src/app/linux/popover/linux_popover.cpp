@@ -38,15 +38,26 @@ bool LinuxPopover::make() {
         return false;
     }
     shownTextScale_ = parts_.appearance().textScale;
-    window_ = library_->makeWindow(parts_, form_,
-                                   {.left = [this] { leave(); },
-                                    .pressedOutside =
-                                        [this](QPoint where) {
-                                            closingPress_.happened(where, std::chrono::steady_clock::now());
-                                            close();
-                                        },
-                                    .closedByFrame = [this] { leave(); }});
+    window_ = library_->makeWindow(
+        parts_, form_,
+        {.left = [this] { leave(); },
+         .wentElsewhere = [this](std::optional<QPoint> pointer) { goneElsewhere(pointer); },
+         .closedByFrame = [this] { leave(); },
+         .itemFound = [this](QPoint pointer) { itemPress_.pointer = pointer; }});
     return true;
+}
+
+// Without an item there would be no way back to an ordinary window, nor one to end the program.
+void LinuxPopover::leave() {
+    close();
+    if (form_ == PopoverForm::ordinary) {
+        parts_.quit();
+    }
+}
+
+void LinuxPopover::goneElsewhere(std::optional<QPoint> pointer) {
+    closingPress_.happened(pointer, std::chrono::steady_clock::now());
+    close();
 }
 
 void LinuxPopover::giveBack() {
@@ -72,8 +83,9 @@ bool LinuxPopover::isShown() const {
 void LinuxPopover::show() {
     givingBack_.stop();
     if (make()) {
-        window_->show(itemPlace_);
+        window_->show(itemPress_);
     }
+    itemPress_.isNew = false;
 }
 
 void LinuxPopover::showSettings() {
@@ -84,22 +96,19 @@ void LinuxPopover::showSettings() {
 }
 
 void LinuxPopover::close() {
+    itemPress_.isNew = false;
     if (isShown()) {
         window_->hide();
         givingBack_.start();
     }
 }
 
-// Nothing is left of the program where there is no tray to open it from again.
-void LinuxPopover::leave() {
-    close();
-    if (form_ == PopoverForm::ordinary) {
-        parts_.quit();
+bool LinuxPopover::itemPressed(std::optional<QPoint> told) {
+    if (!system_) {
+        system_ = windowSystem();
     }
-}
-
-bool LinuxPopover::wasClosedByThisPress(std::optional<QPoint> place) {
-    return closingPress_.isThePressOfTheItem(place, std::chrono::steady_clock::now());
+    itemPress_ = {.told = told, .pointer = pointerPlace(*system_), .isNew = true};
+    return !closingPress_.isThePressOfTheItem(itemPress_.pointer, std::chrono::steady_clock::now());
 }
 
 void LinuxPopover::appearanceChanged() {

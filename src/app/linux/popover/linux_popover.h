@@ -7,6 +7,7 @@
 
 #include "app/linux/popover/closing_press.h"
 #include "app/linux/popover/quick_library.h"
+#include "app/linux/session/window_system.h"
 
 namespace quelby::app {
 
@@ -24,14 +25,12 @@ public:
     void showSettings() override;
     void close() override;
 
-    // Where the item was pressed, in pixels of the screen; nothing where that is not known.
-    void setItemPlace(std::optional<QPoint> place) { itemPlace_ = place; }
+    // The item was pressed. The place is as its host tells it; nothing from hosts that are known to mean
+    // something else. False for the press that has already closed the popover from outside: nothing is to
+    // follow from it.
+    [[nodiscard]] bool itemPressed(std::optional<QPoint> told);
 
     void setForm(PopoverForm form);
-
-    // Whether the press of the item, told of now, is the one that has already closed the popover from
-    // outside. To be asked once for each press.
-    [[nodiscard]] bool wasClosedByThisPress(std::optional<QPoint> place);
 
     // The desktop likes its programs otherwise now.
     void appearanceChanged();
@@ -42,10 +41,12 @@ private:
 
     void leave();
     void giveBack();
+    void goneElsewhere(std::optional<QPoint> pointer);
 
     PopoverParts parts_;
     PopoverForm form_ = PopoverForm::atTheItem;
-    std::optional<QPoint> itemPlace_;
+    std::optional<WindowSystem> system_; // found out when it is first wanted
+    ItemPress itemPress_;
     ClosingPress closingPress_;
     std::unique_ptr<QuickLibrary> library_;   // none before the first showing
     std::unique_ptr<DashboardWindow> window_; // none while it is not needed

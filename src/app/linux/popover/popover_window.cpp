@@ -1,38 +1,41 @@
 #include "app/linux/popover/popover_window.h"
 
-#include <QGuiApplication>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QScreen>
+#include <QSvgRenderer>
 
-#include "app/linux/popover/popover_place.h"
+#include "app/linux/popover/x_window_hints.h"
+#include "app/linux/session/window_system.h"
+#include "ui/presentation/elements/metrics.h"
 #include "ui/presentation/text/words.h"
 
 namespace quelby::app {
 
 namespace {
 
-// A program of Wayland is told of nothing outside its own windows.
-bool seesWholeScreen() {
-    return QGuiApplication::platformName() == QLatin1String("xcb");
+using namespace std::chrono_literals;
+
+// The focus comes back from a question for the password, and from whatever only held the keyboard a moment.
+constexpr auto focusMayComeBack = 50ms;
+
+constexpr int lowestOrdinaryWindow = 240; // points
+constexpr int frameOfAWindow = 48;        // points, with some air
+constexpr int iconSide = 64;              // pixels
+
+QIcon programIcon() {
+    QPixmap picture(iconSide, iconSide);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    QSvgRenderer(QStringLiteral(":/symbols/quelby.svg")).render(&painter);
+    painter.end();
+    return {picture};
 }
 
-QRect nativeGeometry(const QScreen& screen) {
-    return {screen.geometry().topLeft(), screen.geometry().size() * screen.devicePixelRatio()};
-}
-
-QScreen& screenOf(std::optional<QPoint> pixel) {
-    for (auto* const screen : QGuiApplication::screens()) {
-        if (pixel && nativeGeometry(*screen).contains(*pixel)) {
-            return *screen;
-        }
-    }
-    return *QGuiApplication::primaryScreen();
-}
-
-// Qt keeps a screen's corner where the system has it, and counts from there in points.
-QPoint inPoints(QPoint pixel, const QScreen& screen) {
-    const QPoint corner = screen.geometry().topLeft();
-    return corner + (pixel - corner) / screen.devicePixelRatio();
+QSurfaceFormat withTransparency(QSurfaceFormat format) {
+    format.setAlphaBufferSize(8);
+    return format;
 }
 
 } // namespace
@@ -50,12 +53,19 @@ protected:
         }
     }
 
-    // Where no press outside can be seen, the focus that goes elsewhere has to do.
+    void focusInEvent(QFocusEvent* event) override {
+        QQuickWindow::focusInEvent(event);
+        popover_.focusAway_.stop();
+    }
+
     void focusOutEvent(QFocusEvent* event) override {
         QQuickWindow::focusOutEvent(event);
-        if (!popover_.presses_ && popover_.form_ == PopoverForm::atTheItem) {
-            popover_.listener_.left();
-        }
+        popover_.focusAway_.start(focusMayComeBack);
+    }
+
+    void resizeEvent(QResizeEvent* event) override {
+        QQuickWindow::resizeEvent(event);
+        popover_.view_.item().setHeight(height());
     }
 
     void closeEvent(QCloseEvent* event) override {
@@ -70,57 +80,97 @@ private:
 PopoverWindow::PopoverWindow(const PopoverParts& parts, PopoverForm form, Listener listener)
     : form_(form)
     , listener_(std::move(listener))
+    , appearance_(parts.appearance())
     , model_(parts.monitor, *parts.clock,
              ProgramActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
-    , view_(model_, parts.appearance())
-    , window_(std::make_unique<Window>(*this)) {
+    , view_(model_, appearance_)
+    , window_(std::make_unique<Window>(*this))
+    , entrance_(view_.item()) {
     window_->setTitle(QString::fromUtf8(words::program));
-    const QSize size = view_.item().size().toSize();
-    window_->setMinimumSize(size);
-    window_->setMaximumSize(size);
+    window_->setIcon(programIcon());
+    if (form_ == PopoverForm::atTheItem) {
+        window_->setFormat(withTransparency(window_->format()));
+        window_->setColor(Qt::transparent);
+    }
     view_.item().setParentItem(window_->contentItem());
+    focusAway_.setSingleShot(true);
+    QObject::connect(&focusAway_, &QTimer::timeout, &focusAway_, [this] { focusLeft(); });
 }
 
 PopoverWindow::~PopoverWindow() {
-    presses_.reset();
+    stage_.reset();
     view_.item().setParentItem(nullptr);
 }
 
-void PopoverWindow::show(std::optional<QPoint> itemPlace) {
+void PopoverWindow::show(const ItemPress& press) {
     view_.setWatched(true);
-    if (form_ == PopoverForm::atTheItem) {
-        window_->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
-        placeAt(itemPlace);
-        presses_ = seesWholeScreen()
-                       ? OutsidePresses::watch([this](QPoint where) { pressedSomewhere(where); })
-                       : nullptr;
+    if (form_ == PopoverForm::ordinary) {
+        showAsOrdinaryWindow();
+    } else if (!stage_ || press.isNew) {
+        showAtTheItem(press);
     } else {
-        window_->setFlags(Qt::Window);
+        window_->raise();
+        window_->requestActivate();
     }
-    window_->show();
-    window_->raise();
-    window_->requestActivate();
     view_.item().forceActiveFocus();
 }
 
-void PopoverWindow::placeAt(std::optional<QPoint> itemPlace) {
-    const auto& screen = screenOf(itemPlace);
-    const auto item = itemPlace ? std::optional(inPoints(*itemPlace, screen)) : std::nullopt;
-    window_->setScreen(const_cast<QScreen*>(&screen));
-    window_->setPosition(
-        popoverPlace(item, {screen.geometry(), screen.availableGeometry()}, window_->minimumSize()));
+QSize PopoverWindow::wholeView() const {
+    return (QSizeF(viewWidth, viewHeight) * appearance_.textScale).toSize();
+}
+
+void PopoverWindow::showAtTheItem(const ItemPress& press) {
+    stage_.reset();
+    stage_ = enterStage(
+        *window_, press, wholeView(),
+        {.placed = [this](QSize size, Qt::Edge panel) { placed(size, panel); },
+         .itemFound = [this](QPoint pointer) { listener_.itemFound(pointer); },
+         .pressedOutside = [this](std::optional<QPoint> pointer) { listener_.wentElsewhere(pointer); },
+         .dismissed = [this] { listener_.left(); }});
+}
+
+void PopoverWindow::placed(QSize size, Qt::Edge panel) {
+    window_->setMinimumSize(size);
+    window_->setMaximumSize(size);
+    window_->resize(size);
+    view_.item().setHeight(size.height());
+    const bool seenThrough = showsTransparency();
+    view_.setFrame(seenThrough ? ViewFrame::rounded : ViewFrame::straight);
+    if (seenThrough && appearance_.animated) {
+        entrance_.begin(panel);
+    } else {
+        entrance_.end();
+    }
+}
+
+void PopoverWindow::showAsOrdinaryWindow() {
+    const int room = window_->screen()->availableGeometry().height() - frameOfAWindow;
+    const auto whole = wholeView();
+    const QSize size(whole.width(), std::max(lowestOrdinaryWindow, std::min(whole.height(), room)));
+    window_->setFlags(Qt::Window);
+    window_->setMinimumSize(size); // of one size, as window managers that tile leave such a one as it is
+    window_->setMaximumSize(size);
+    window_->resize(size);
+    window_->show();
+    window_->raise();
+    window_->requestActivate();
 }
 
 void PopoverWindow::hide() {
-    presses_.reset();
+    focusAway_.stop();
+    stage_.reset();
     window_->hide();
     view_.setWatched(false);
 }
 
-void PopoverWindow::pressedSomewhere(QPoint where) const {
-    const QRect inside(window_->position(), window_->size());
-    if (!inside.contains(inPoints(where, screenOf(where)))) {
-        listener_.pressedOutside(where);
+void PopoverWindow::setAppearance(Appearance appearance) {
+    appearance_ = appearance;
+    view_.setAppearance(appearance);
+}
+
+void PopoverWindow::focusLeft() {
+    if (stage_ && !window_->isActive()) {
+        listener_.wentElsewhere(pointerPlace(windowSystem()));
     }
 }
 

@@ -4,8 +4,10 @@
 #include <optional>
 
 #include <QQuickWindow>
+#include <QTimer>
 
-#include "app/linux/popover/outside_presses.h"
+#include "app/linux/popover/popover_entrance.h"
+#include "app/linux/popover/popover_stage.h"
 #include "app/linux/popover/quick_library.h"
 #include "ui/view/dashboard_view.h"
 
@@ -19,28 +21,34 @@ public:
     PopoverWindow& operator=(const PopoverWindow&) = delete;
     ~PopoverWindow() override;
 
-    [[nodiscard]] bool isShown() const override { return window_->isVisible(); }
+    [[nodiscard]] bool isShown() const override { return stage_ || window_->isVisible(); }
 
-    void show(std::optional<QPoint> itemPlace) override;
+    void show(const ItemPress& press) override;
 
     void showSettings() override { view_.showSettings(true); }
 
     void hide() override;
 
-    void setAppearance(Appearance appearance) override { view_.setAppearance(appearance); }
+    void setAppearance(Appearance appearance) override;
 
 private:
     class Window;
 
-    void placeAt(std::optional<QPoint> itemPlace);
-    void pressedSomewhere(QPoint where) const;
+    [[nodiscard]] QSize wholeView() const; // where there is room for it
+    void showAtTheItem(const ItemPress& press);
+    void showAsOrdinaryWindow();
+    void placed(QSize size, Qt::Edge panel);
+    void focusLeft();
 
     PopoverForm form_;
     Listener listener_;
+    Appearance appearance_;
     DashboardModel model_;
     DashboardView view_;
     std::unique_ptr<QQuickWindow> window_;
-    std::unique_ptr<OutsidePresses> presses_; // while it is shown
+    PopoverEntrance entrance_;
+    QTimer focusAway_;                    // runs while it is not yet certain that the focus stays away
+    std::unique_ptr<PopoverStage> stage_; // while it is shown at the item
 };
 
 } // namespace quelby::app

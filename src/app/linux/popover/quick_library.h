@@ -9,6 +9,7 @@
 
 #include <QPoint>
 
+#include "app/linux/popover/popover_place.h"
 #include "app/picture_painter.h"
 #include "app/popover.h"
 #include "ui/view/appearance.h"
@@ -25,19 +26,25 @@ class DashboardWindow {
 public:
     // What happens to the window. It decides nothing by itself: whoever hears of it hides the window.
     struct Listener {
-        std::function<void()> left;                       // by Escape, or with the focus
-        std::function<void(QPoint where)> pressedOutside; // in pixels of the screen
+        std::function<void()> left; // by Escape, or by a press that nobody else is told of
+
+        // A person went elsewhere, by a press outside that others are told of as well, or with the keyboard.
+        // The pointer's place in pixels, where the display server knows it.
+        std::function<void(std::optional<QPoint> pointer)> wentElsewhere;
+
         std::function<void()> closedByFrame;
+
+        // Where the pointer was at the press of the item, in pixels, if that was not known before.
+        std::function<void(QPoint pointer)> itemFound;
     };
 
     virtual ~DashboardWindow() = default;
 
     [[nodiscard]] virtual bool isShown() const = 0;
 
-    // In front of everything else and with the keyboard: the cards the first time, later the side that was
-    // shown last. The place is where the item was pressed, in pixels of the screen; nothing where that is not
-    // known.
-    virtual void show(std::optional<QPoint> itemPlace) = 0;
+    // In front of everything else and with the keyboard, at the item that was pressed: the cards the first
+    // time, later the side that was shown last.
+    virtual void show(const ItemPress& press) = 0;
 
     // The settings in place of the cards.
     virtual void showSettings() = 0;

@@ -10,6 +10,7 @@ FocusScope {
     required property dialogContent content
     property bool shown: false
     property Item focusedBefore: null // and again afterwards
+    property real cornerRadius: 0 // of the view
 
     signal accepted
     signal dismissed // after either answer
@@ -38,6 +39,7 @@ FocusScope {
 
     Rectangle {
         anchors.fill: parent
+        radius: dialog.cornerRadius
         color: Theme.scrim
     }
 

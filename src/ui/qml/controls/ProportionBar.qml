@@ -31,27 +31,12 @@ Item {
         }
     }
 
-    Rectangle {
+    BarItem {
         anchors.fill: parent
-        radius: height / 2
-        color: Theme.track
-    }
-
-    Rectangle {
-        id: fill
-
-        anchors.left: parent.left
-        anchors.top: parent.top
-        anchors.bottom: parent.bottom
-        width: bar.width * bar.fraction
-        radius: Math.min(height, width) / 2
-        visible: width > 0
-
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-
-            GradientStop { position: 0; color: fill.LayoutMirroring.enabled ? bar.full : bar.pale }
-            GradientStop { position: 1; color: fill.LayoutMirroring.enabled ? bar.pale : bar.full }
-        }
+        fraction: bar.fraction
+        track: Theme.track
+        first: bar.pale
+        last: bar.full
+        fromRight: LayoutMirroring.enabled
     }
 }

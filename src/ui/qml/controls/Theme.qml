@@ -20,6 +20,7 @@ QtObject {
     readonly property real viewHeight: Math.round(Metrics.viewHeight * textScale)
     readonly property real viewPadding: 8 * unit
     readonly property real viewSpacing: 7 * unit
+    readonly property real viewRadius: 5 * unit // where the view's own edge is seen
     readonly property real cardPadding: 6 * unit
     readonly property real cardRadius: 6 * unit
     readonly property real controlRadius: 3 * unit
@@ -47,6 +48,7 @@ QtObject {
     readonly property int fade: animated ? 120 : 0 // ms
 
     readonly property color window: dark ? "#1b1b1f" : "#e9e9ee"
+    readonly property color edge: dark ? "#4d4d54" : "#c3c3ca"
     readonly property color card: contrast ? (dark ? "#000000" : "#ffffff") : dark ? "#12ffffff" : "#b8ffffff"
     readonly property color track: dark ? "#598e8e93" : "#408e8e93"
     readonly property color divider: contrast ? inks[Ink.Secondary] : dark ? "#1fffffff" : "#1a000000"

@@ -33,7 +33,7 @@ TEST_F(ClosingPressTest, IsTheItemsForHalfASecond) {
     EXPECT_FALSE(press.isThePressOfTheItem(pressPlace, pressTime + 501ms));
 }
 
-TEST_F(ClosingPressTest, IsTheItemsWithin32Pixels) {
+TEST_F(ClosingPressTest, IsTheItemsWhereThePointerIsStillWithin32Pixels) {
     EXPECT_TRUE(press.isThePressOfTheItem(pressPlace + QPoint(16, -16), pressTime));
     press.happened(pressPlace, pressTime);
     EXPECT_FALSE(press.isThePressOfTheItem(pressPlace + QPoint(16, 17), pressTime));
@@ -44,8 +44,10 @@ TEST_F(ClosingPressTest, ElsewhereIsForgottenWithThePressOfTheItemThatFollows) {
     EXPECT_FALSE(press.isThePressOfTheItem(pressPlace, pressTime + 40ms));
 }
 
-TEST_F(ClosingPressTest, IsTakenForTheItemsWhereNobodyKnowsThePlace) {
+TEST_F(ClosingPressTest, IsTakenForTheItemsWhereNobodyKnowsThePointer) {
     EXPECT_TRUE(press.isThePressOfTheItem(std::nullopt, pressTime + 20ms));
+    press.happened(std::nullopt, pressTime);
+    EXPECT_TRUE(press.isThePressOfTheItem(pressPlace, pressTime + 20ms));
 }
 
 TEST_F(ClosingPressTest, IsTheLastOneThatHappened) {

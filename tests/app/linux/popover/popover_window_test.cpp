@@ -1,8 +1,11 @@
 #include "app/linux/popover/popover_window.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
 #include <gtest/gtest.h>
 
+#include "app/linux/support/eventually.h"
 #include "support/fake_platform.h"
 
 namespace quelby::app {
@@ -10,16 +13,18 @@ namespace {
 
 class PopoverWindowTest : public testing::Test {
 protected:
-    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow() {
+    [[nodiscard]] std::unique_ptr<DashboardWindow> makeWindow(PopoverForm form = PopoverForm::ordinary) {
         const PopoverParts parts{.monitor = monitor,
                                  .clock = computer.clock,
                                  .quit = [] {},
                                  .openBatterySettings = [] {},
                                  .appearance = [] { return Appearance{.animated = false}; }};
-        return std::make_unique<PopoverWindow>(parts, PopoverForm::ordinary,
-                                               DashboardWindow::Listener{.left = [] {},
-                                                                         .pressedOutside = [](QPoint) {},
-                                                                         .closedByFrame = [] {}});
+        return std::make_unique<PopoverWindow>(
+            parts, form,
+            DashboardWindow::Listener{.left = [this] { ++left; },
+                                      .wentElsewhere = [this](std::optional<QPoint>) { ++wentElsewhere; },
+                                      .closedByFrame = [] {},
+                                      .itemFound = [](QPoint) {}});
     }
 
     // The dashboard in the one window that there is.
@@ -37,13 +42,17 @@ protected:
     // As the buttons in the header do.
     static void turnTo(bool settings) { dashboard().setProperty("showSettings", settings); }
 
+    [[nodiscard]] static QWindow& shownWindow() { return *dashboard().window(); }
+
+    int left = 0;
+    int wentElsewhere = 0;
     fake::Computer computer;
     std::shared_ptr<PowerMonitor> monitor = PowerMonitor::create(computer.platform());
 };
 
 TEST_F(PopoverWindowTest, ShowsTheCardsWhenItIsMade) {
     const auto window = makeWindow();
-    window->show(std::nullopt);
+    window->show({});
     EXPECT_TRUE(window->isShown());
     EXPECT_FALSE(showsSettings());
 }
@@ -51,10 +60,10 @@ TEST_F(PopoverWindowTest, ShowsTheCardsWhenItIsMade) {
 TEST_F(PopoverWindowTest, KeepsItsSideUntilItIsOpenedAgain) {
     const auto window = makeWindow();
     for (const bool settings : {true, false}) {
-        window->show(std::nullopt);
+        window->show({});
         turnTo(settings);
         window->hide();
-        window->show(std::nullopt);
+        window->show({});
         EXPECT_EQ(showsSettings(), settings);
         window->hide();
     }
@@ -62,20 +71,75 @@ TEST_F(PopoverWindowTest, KeepsItsSideUntilItIsOpenedAgain) {
 
 TEST_F(PopoverWindowTest, ShowsTheSettingsWhereTheyAreAskedFor) {
     const auto window = makeWindow();
-    window->show(std::nullopt);
+    window->show({});
     window->showSettings();
     EXPECT_TRUE(showsSettings());
 }
 
 TEST_F(PopoverWindowTest, ShowsTheCardsAgainWhereItIsMadeAnew) {
     auto window = makeWindow();
-    window->show(std::nullopt);
+    window->show({});
     turnTo(true);
     window->hide();
     window.reset();
     window = makeWindow();
-    window->show(std::nullopt);
+    window->show({});
     EXPECT_FALSE(showsSettings());
+}
+
+TEST_F(PopoverWindowTest, AtTheItemIsAsHighAsTheScreenAllows) {
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    EXPECT_TRUE(window->isShown());
+    const auto room = shownWindow().screen()->availableGeometry();
+    EXPECT_TRUE(room.contains(shownWindow().geometry()));
+    EXPECT_EQ(shownWindow().width(), 400);
+    EXPECT_EQ(dashboard().height(), shownWindow().height());
+    window->hide();
+    EXPECT_FALSE(window->isShown());
+}
+
+TEST_F(PopoverWindowTest, DrawsItsOwnEdgeOnlyAtTheItem) {
+    for (const auto form : {PopoverForm::atTheItem, PopoverForm::ordinary}) {
+        const auto window = makeWindow(form);
+        window->show({});
+        EXPECT_EQ(dashboard().property("edged").toBool(), form == PopoverForm::atTheItem);
+    }
+}
+
+TEST_F(PopoverWindowTest, IsLeftWhenTheFocusStaysAway) {
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    ASSERT_TRUE(eventually([&] { return shownWindow().isActive(); }));
+    EXPECT_EQ(wentElsewhere, 0);
+    QWindow other;
+    other.show();
+    other.requestActivate();
+    EXPECT_TRUE(eventually([this] { return wentElsewhere > 0; }));
+}
+
+// A question for a password holds it that long.
+TEST_F(PopoverWindowTest, StaysWhenTheFocusIsBackAtOnce) {
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    ASSERT_TRUE(eventually([&] { return shownWindow().isActive(); }));
+    auto& popover = shownWindow();
+    for (const auto type : {QEvent::FocusOut, QEvent::FocusIn}) {
+        QFocusEvent event(type, Qt::ActiveWindowFocusReason);
+        QCoreApplication::sendEvent(&popover, &event);
+    }
+    QTimer::singleShot(200, &popover, [&popover] { popover.setTitle(QStringLiteral("later")); });
+    EXPECT_TRUE(eventually([&] { return popover.title() == QLatin1String("later"); }));
+    EXPECT_EQ(wentElsewhere, 0);
+}
+
+TEST_F(PopoverWindowTest, IsLeftWithEscape) {
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(&shownWindow(), &escape);
+    EXPECT_EQ(left, 1);
+    EXPECT_EQ(wentElsewhere, 0);
 }
 
 } // namespace

@@ -160,6 +160,19 @@ bool XScreen::hasFrame(const XWindow& window) const {
     return std::any_of(extents.begin(), extents.end(), [](std::uint32_t extent) { return extent > 1; });
 }
 
+bool XScreen::isOutOfWindowLists(const XWindow& window) const {
+    const auto states = property(window.id, "_NET_WM_STATE");
+    const auto has = [&](const char* name) {
+        return std::count(states.begin(), states.end(), xAtom(connection_.get(), name)) == 1;
+    };
+    return has("_NET_WM_STATE_SKIP_TASKBAR") && has("_NET_WM_STATE_SKIP_PAGER");
+}
+
+void XScreen::takeKeyboardAway() const {
+    xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, root_, XCB_CURRENT_TIME);
+    xcb_flush(connection_.get());
+}
+
 void XScreen::byHand(std::vector<std::string> words) const {
     words.insert(words.begin(), "xdotool");
     EXPECT_EQ(runProgram(named(std::move(words)), {{"DISPLAY", display_}}).exitStatus, 0);

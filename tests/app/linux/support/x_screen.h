@@ -39,7 +39,13 @@ public:
     [[nodiscard]] bool hasKeyboard(const XWindow& window) const;
     [[nodiscard]] bool hasFrame(const XWindow& window) const;
 
+    [[nodiscard]] bool isOutOfWindowLists(const XWindow& window) const;
+
     void press(QPoint where) const;
+
+    // To no window at all.
+    void takeKeyboardAway() const;
+
     void type(const std::string& key) const; // as xdotool names keys
 
     // The settings that the programs of the desktop share. To begin with, no two presses are a double one.

@@ -1,0 +1,66 @@
+"""Pictures of a screen, and where two of them differ."""
+
+import struct
+import zlib
+
+
+class Picture:
+    """Rows of pixels of three bytes each."""
+
+    def __init__(self, width, height, pixels):
+        self.width = width
+        self.height = height
+        self.pixels = pixels
+
+    @staticmethod
+    def from_ppm(data):
+        """As most programs can write it: P6, width, height, 255, pixels."""
+        words = data.split(maxsplit=4)
+        assert words[0] == b"P6" and words[3] == b"255", data[:20]
+        width, height = int(words[1]), int(words[2])
+        return Picture(width, height, data[len(data) - 3 * width * height:])
+
+    @staticmethod
+    def from_xwd(data):
+        """As Xvfb keeps its screen: 32 bits a pixel, blue first."""
+        header = struct.unpack(">25I", data[:100])
+        size, width, height, line, colors = header[0], header[4], header[5], header[12], header[19]
+        start = size + 12 * colors
+        pixels = bytearray(3 * width * height)
+        body = b"".join(data[start + y * line:start + y * line + 4 * width] for y in range(height))
+        pixels[0::3], pixels[1::3], pixels[2::3] = body[2::4], body[1::4], body[0::4]
+        return Picture(width, height, bytes(pixels))
+
+    def row(self, y):
+        return self.pixels[3 * self.width * y:3 * self.width * (y + 1)]
+
+    def difference(self, other, area=None):
+        """The smallest rectangle (left, top, right, bottom; the latter two outside) within the area in which both
+        differ; None where they do not."""
+        left, top, right, bottom = area or (0, 0, self.width, self.height)
+        rows = [y for y in range(top, bottom)
+                if self.row(y)[3 * left:3 * right] != other.row(y)[3 * left:3 * right]]
+        if not rows:
+            return None
+        columns = [right, left]
+        for y in rows:
+            mine, theirs = self.row(y), other.row(y)
+            for first in range(left, min(columns[0], right)):
+                if mine[3 * first:3 * first + 3] != theirs[3 * first:3 * first + 3]:
+                    columns[0] = first
+                    break
+            for last in range(right - 1, max(columns[1], left) - 1, -1):
+                if mine[3 * last:3 * last + 3] != theirs[3 * last:3 * last + 3]:
+                    columns[1] = max(columns[1], last + 1)
+                    break
+        return (columns[0], rows[0], columns[1], rows[-1] + 1)
+
+    def write_png(self, path):
+        def chunk(kind, data):
+            return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+        lines = b"".join(b"\0" + self.row(y) for y in range(self.height))
+        with open(path, "wb") as file:
+            file.write(b"\x89PNG\r\n\x1a\n"
+                       + chunk(b"IHDR", struct.pack(">2I5B", self.width, self.height, 8, 2, 0, 0, 0))
+                       + chunk(b"IDAT", zlib.compress(lines, 6)) + chunk(b"IEND", b""))

@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+"""Sway with waybar, on an output that nobody sees."""
+
+import glob
+import os
+import sys
+import time
+
+from picture import Picture
+from session import Session, eventually
+from virtual_pointer import VirtualPointer, socket_path
+from walk import Walk
+
+CONFIG = """
+xwayland {xwayland}
+output * mode --custom {width}x{height} scale {scale} bg #336655 solid_color
+default_border none
+for_window [app_id="foot"] floating enable, resize set 400 300, move position 40 200
+focus_follows_mouse no
+"""
+
+BAR = '{{"position": "{edge}", "height": 30, "modules-right": ["tray"], "tray": {{"icon-size": 21}}}}'
+
+STYLE = "* {{ font-family: sans-serif; font-size: 13px; }} window {{ background: #222222; color: #ffffff; }}"
+
+
+class Sway:
+    points = (1280, 800)
+
+    def __init__(self, session, edge, scale, xwayland):
+        self.name = f"sway with waybar at the {edge}, scale {scale}, XWayland {xwayland}"
+        self.session = session
+        self.scale = scale
+        self.edge = edge
+        self.screen = (round(self.points[0] * scale), round(self.points[1] * scale))
+        self.panel = None  # as deep as it turns out to be
+        self.aside = round(480 * scale)
+        session.write("config/sway/config", CONFIG.format(xwayland=xwayland, width=self.screen[0],
+                                                          height=self.screen[1], scale=scale))
+        session.write("config/waybar/config", BAR.format(edge=edge))
+        session.write("config/waybar/style.css", STYLE.format())
+
+    def start(self):
+        environment = self.session.environment
+        self.session.start(["sway"], WLR_BACKENDS="headless", WLR_RENDERER="pixman", WLR_LIBINPUT_NO_DEVICES="1")
+        runtime = environment["XDG_RUNTIME_DIR"]
+        sockets = eventually(lambda: glob.glob(os.path.join(runtime, "sway-ipc.*")))
+        assert sockets, f"sway does not start: {self.session.log('sway')}"
+        environment["SWAYSOCK"] = sockets[0]
+        told = self.session.path("run/told")
+        self.command("exec", f"env > {told}.new && mv {told}.new {told}")
+        assert eventually(lambda: os.path.exists(told)), "sway starts no programs"
+        with open(told, encoding="utf-8") as file:
+            for line in file:
+                name, _, value = line.rstrip("\n").partition("=")
+                if name in ("WAYLAND_DISPLAY", "DISPLAY"):
+                    environment[name] = value
+        self.pointer = VirtualPointer(socket_path(environment))
+        empty = self.picture()
+        self.session.start(["waybar"])
+        assert eventually(lambda: empty.difference(self.picture())), "the bar does not start"
+        time.sleep(0.5)
+        area = empty.difference(self.picture())
+        self.panel = (self.edge, area[3] - area[1])
+        self.session.start(["foot", "sleep", "infinity"])
+        assert eventually(lambda: b'"foot"' in self.session.run("swaymsg", "-t", "get_tree")), "no window comes"
+
+    def command(self, *words):
+        self.session.run("swaymsg", "--", *words)
+
+    def picture(self):
+        return Picture.from_ppm(self.session.run("grim", "-t", "ppm", "-"))
+
+    def press(self, x, y):
+        self.pointer.move(round(x / self.scale), round(y / self.scale), *self.points)
+        time.sleep(0.1)
+        self.pointer.button(True)
+        time.sleep(0.06)
+        self.pointer.button(False)
+
+    def rest(self):
+        self.pointer.move(9, self.points[1] // 2, *self.points)
+
+    def escape(self):
+        self.session.run("wtype", "-s", "200", "-k", "Escape", "-s", "50")
+
+    def steps_aside(self):
+        width, height = self.screen
+        return {
+            "a press on the bare desktop": lambda: self.press(width // 2, height * 7 // 8),
+            "a press on a window": lambda: self.press(width // 8, height * 3 // 8),
+            "the keyboard going to another window": lambda: self.command("[app_id=foot]", "focus"),
+            "another workspace": lambda: self.command("workspace", "2"),
+        }
+
+    def tidy(self):
+        self.command("workspace", "1")
+
+
+CASES = [("top", 1, "disable"), ("bottom", 1.5, "enable"), ("top", 2, "enable"), ("bottom", 1, "disable")]
+
+
+def main():
+    binaries, pictures = sys.argv[1:3]
+    for edge, scale, xwayland in CASES if "--all" in sys.argv else CASES[:2]:
+        with Session(binaries) as session:
+            desktop = Sway(session, edge, scale, xwayland)
+            desktop.start()
+            Walk(desktop, pictures, "--all" in sys.argv).run()
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,153 @@
+"""What a person does with the popover, on whatever desktop it is, and what must come of it."""
+
+import os
+import time
+
+from session import eventually
+
+VIEW = (400, 660)  # points
+GAP = 6  # points
+
+
+class Failure(Exception):
+    pass
+
+
+class Walk:
+    """A desktop has: name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
+    aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
+    meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
+
+    def __init__(self, desktop, pictures, keeps_all=False):
+        self.desktop = desktop
+        self.pictures = pictures
+        self.keeps_all = keeps_all  # not only what is not as it should be
+        self.closed = None  # the picture without the popover
+        self.item = None
+
+    def run(self):
+        try:
+            self.find_item()
+            self.opens_at_the_item_and_closes_with_its_press()
+            self.closes("Escape", self.desktop.escape)
+            for name, step in self.desktop.steps_aside().items():
+                self.closes(name, step)
+            self.opens_for_a_second_start()
+            self.ends_cleanly()
+        except Failure as failure:
+            self.keep("failure")
+            raise SystemExit(f"{self.desktop.name}: {failure}\n{self.desktop.session.log('quelby')}") from None
+        print(f"{self.desktop.name}: as it should be")
+
+    def keep(self, name):
+        os.makedirs(self.pictures, exist_ok=True)
+        path = os.path.join(self.pictures, f"{self.desktop.name}-{name}.png".replace(" ", "-"))
+        self.desktop.picture().write_png(path)
+        print(f"{self.desktop.name}: see {path}")
+
+    def area_of_panel(self):
+        width, height = self.desktop.screen
+        edge, depth = self.desktop.panel
+        return (0, 0, width, depth) if edge == "top" else (0, height - depth, width, height)
+
+    def area_of_windows(self):
+        width, height = self.desktop.screen
+        edge, depth = self.desktop.panel
+        left = self.desktop.aside
+        return (left, depth, width, height) if edge == "top" else (left, 0, width, height - depth)
+
+    def require(self, condition, sentence):
+        if not condition:
+            raise Failure(sentence)
+
+    def still(self, patience=10):
+        """The picture as soon as nothing moves in it."""
+        last = [self.desktop.picture()]
+
+        def at_rest():
+            time.sleep(0.15)
+            now = self.desktop.picture()
+            rests = now.pixels == last[0].pixels
+            last[0] = now
+            return rests
+
+        eventually(at_rest, patience)
+        return last[0]
+
+    def find_item(self):
+        """The item is what comes into the panel with the program."""
+        before = self.still()
+        self.quelby = self.desktop.session.start(self.desktop.session.quelby)
+        area = eventually(lambda: before.difference(self.desktop.picture(), self.area_of_panel()))
+        self.require(area, "no item appears in the panel")
+        area = before.difference(self.still(), self.area_of_panel())
+        self.item = ((area[0] + area[2]) // 2, (area[1] + area[3]) // 2)
+        self.closed = self.desktop.picture()
+
+    def popover(self):
+        """Where it is; None where what has changed is smaller, as a pointer is."""
+        area = self.closed.difference(self.desktop.picture(), self.area_of_windows())
+        wide = area and area[2] - area[0] >= VIEW[0] * self.desktop.scale / 2
+        return area if wide else None
+
+    def press_item(self):
+        self.desktop.press(*self.item)
+
+    def open(self):
+        self.require(self.popover() is None, "something is in the way already")
+        self.press_item()
+        self.require(eventually(self.popover), "a press of the item does not open the popover")
+        self.desktop.rest()  # before a tool tip is shown
+        self.still()
+        return self.popover()
+
+    def must_close(self, how):
+        self.require(eventually(lambda: self.popover() is None), f"{how} does not close the popover")
+        self.desktop.rest()
+
+    def opens_at_the_item_and_closes_with_its_press(self):
+        area = self.open()
+        self.require_place(area)
+        if self.keeps_all:
+            self.keep("open")
+        self.press_item()
+        self.must_close("a second press of the item")
+        time.sleep(0.6)
+        self.require(self.popover() is None, "the press that closed the popover opens it again")
+
+    def require_place(self, area):
+        scale = self.desktop.scale
+        _, top, right, bottom = self.area_of_windows()
+        edge, _ = self.desktop.panel
+        gap = GAP * scale
+        height = min(VIEW[1] * scale, bottom - top - 2 * gap)
+        room = (gap, right - gap)
+        wanted = self.item[0] - VIEW[0] * scale / 2
+        x = max(room[0], min(wanted, room[1] - VIEW[0] * scale))
+        y = top + gap if edge == "top" else bottom - gap - height
+        expected = (x, y, x + VIEW[0] * scale, y + height)
+        self.require(area, "the popover is gone again")
+        near = all(abs(one - other) <= 2 * scale for one, other in zip(area, expected))
+        self.require(near, f"the popover is at {area} instead of {expected}, with the item at {self.item}")
+
+    def closes(self, how, step):
+        self.open()
+        step()
+        self.must_close(how)
+        time.sleep(0.4)  # for a moment the focus may be away
+        self.desktop.tidy()
+        self.require(eventually(lambda: self.popover() is None, 4), f"after {how} something is left")
+        time.sleep(0.6)  # until the next press is not taken for this one
+
+    def opens_for_a_second_start(self):
+        self.desktop.session.run(*self.desktop.session.quelby)
+        self.require(eventually(self.popover), "a second start does not open the popover")
+        self.still()
+        self.require_place(self.popover())
+        self.desktop.escape()
+        self.must_close("Escape after a second start")
+
+    def ends_cleanly(self):
+        self.quelby.terminate()
+        status = self.quelby.wait(10)
+        self.require(status == 0, f"the program ends with status {status}")
