@@ -44,16 +44,16 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
     , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
-    return item_.emplace(LinuxStatusItem::Listener{
-        .pressed = [this](std::optional<QPoint> told) { return itemPressed(told); },
-        .tokenGiven =
-            [this](const QByteArray& token) {
-                qputenv("XDG_ACTIVATION_TOKEN", token);
-                if (x_) {
-                    endStartupSequence(token.toStdString());
-                }
-            },
-        .shown = [this](bool shown) { itemShown(shown); }});
+    return item_.emplace(
+        LinuxStatusItem::Listener{.pressed = [this](std::optional<QPoint> told) { return itemPressed(told); },
+                                  .tokenGiven =
+                                      [this](const QByteArray& token) {
+                                          qputenv("XDG_ACTIVATION_TOKEN", token);
+                                          if (x_) {
+                                              endStartupSequence(token.toStdString());
+                                          }
+                                      },
+                                  .shown = [this](bool shown) { itemShown(shown); }});
 }
 
 Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 using testing::ElementsAre;
 using testing::HasSubstr;
 
-const fs::path packaging = fs::path(QUELBY_SOURCE_DIR) / "packaging" / "linux";
+const fs::path packaging = fs::path(QUELBY_SOURCE_DIR) / "packaging" / "linux" / "polkit";
 
 TEST(Pkexec, AsksForTheShellWhereNothingOfItsOwnIsInstalled) {
     const TemporaryFolder root;
