@@ -11,11 +11,11 @@
 namespace quelby {
 
 std::shared_ptr<PowerMonitor> PowerMonitor::create(Platform platform, MonitorOptions options) {
-    return std::make_shared<PowerMonitor>(Private{}, std::move(platform), std::move(options));
+    return std::make_shared<PowerMonitor>(Private{}, platform, std::move(options));
 }
 
 PowerMonitor::PowerMonitor(Private, Platform platform, MonitorOptions options)
-    : platform_(std::move(platform))
+    : platform_(platform)
     , options_(std::move(options))
     , storeDisplay_(menuBarDisplay.observe([preferences = platform_.preferences](MenuBarDisplay coming) {
         preferences->setText(preference_keys::menuBarDisplay, rawValue(coming));

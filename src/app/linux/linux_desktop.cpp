@@ -1,6 +1,5 @@
 #include "app/linux/linux_desktop.h"
 
-#include <chrono>
 #include <utility>
 
 #include <QGuiApplication>
@@ -44,16 +43,19 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
     , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
-    return item_.emplace(
-        LinuxStatusItem::Listener{.pressed = [this](std::optional<QPoint> told) { return itemPressed(told); },
-                                  .tokenGiven =
-                                      [this](const QByteArray& token) {
-                                          qputenv("XDG_ACTIVATION_TOKEN", token);
-                                          if (x_) {
-                                              endStartupSequence(token.toStdString());
-                                          }
-                                      },
-                                  .shown = [this](bool shown) { itemShown(shown); }});
+    return item_.emplace(LinuxStatusItem::Listener{.pressed =
+                                                       [this](std::optional<QPoint> told) {
+                                                           return popover_->itemPressed(
+                                                               told, appearance_.doublePress());
+                                                       },
+                                                   .tokenGiven =
+                                                       [this](const QByteArray& token) {
+                                                           qputenv("XDG_ACTIVATION_TOKEN", token);
+                                                           if (x_) {
+                                                               endStartupSequence(token.toStdString());
+                                                           }
+                                                       },
+                                                   .shown = [this](bool shown) { itemShown(shown); }});
 }
 
 Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
@@ -133,12 +135,6 @@ void LinuxDesktop::lookAtPanel() {
     item_->setPanel({.darkScheme = appearance_.darkScheme(),
                      .panelTheme = panelTheme(item_->panelStyle(), configurationFolder_),
                      .publishedInk = x_ ? x_->trayInk() : std::nullopt});
-}
-
-bool LinuxDesktop::itemPressed(std::optional<QPoint> told) {
-    const bool opensOrCloses = popover_->itemPressed(told); // to be told of each press
-    const auto now = std::chrono::steady_clock::now();
-    return !repeatedPress_.isOne(now, appearance_.doublePress()) && opensOrCloses;
 }
 
 void LinuxDesktop::itemShown(bool shown) {

@@ -10,7 +10,6 @@
 #include "app/linux/session/session_bus.h"
 #include "app/linux/session/x_desktop.h"
 #include "app/linux/tray/linux_status_item.h"
-#include "app/linux/tray/repeated_press.h"
 
 namespace quelby::app {
 
@@ -40,7 +39,6 @@ private:
     void setBus(const std::optional<QDBusConnection>& bus);
     void connectToX();
     void itemShown(bool shown);
-    [[nodiscard]] bool itemPressed(std::optional<QPoint> told);
     [[nodiscard]] Appearance appearance() const;
     void appearanceChanged();
     void lookAtPanel();
@@ -50,7 +48,6 @@ private:
     WithoutTray withoutTray_; // asked once: a tray that goes away later comes back
     QString configurationFolder_;
     DesktopAppearance appearance_;
-    RepeatedPress repeatedPress_;
     std::function<bool(const KeyDown&)> keyMonitor_;
     std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover
     std::optional<LinuxPopover> popover_;

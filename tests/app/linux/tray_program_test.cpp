@@ -232,6 +232,38 @@ TEST_F(TrayProgram, OpensOnceWithADoublePress) {
     expectCleanEnd();
 }
 
+TEST_F(TrayProgram, OpensOnceWithADoublePressThatThePopoverSeesFirst) {
+    screen->setSettings({{"Net/DoubleClickTime", 2000}});
+    startInTray();
+    pressItem({640, 5});
+    static_cast<void>(opened());
+    screen->type("Escape"); // the first opening takes its time
+    EXPECT_TRUE(closed());
+    screen->press({640, 5});
+    pressItem({640, 5});
+    static_cast<void>(opened());
+    screen->press({640, 5}); // would close it
+    pressItem({640, 5});     // and then this could not open it again
+    EXPECT_THAT(screen->windows(), SizeIs(1));
+    screen->press({1200, 1000});
+    EXPECT_TRUE(closed());
+    expectCleanEnd();
+}
+
+TEST_F(TrayProgram, IsOpenAgainAfterTwoQuickPressesOfItsItem) {
+    screen->setSettings({{"Net/DoubleClickTime", 2000}});
+    startInTray();
+    RunningProgram second(words(), environment());
+    EXPECT_EQ(second.end().exitStatus, 0);
+    static_cast<void>(opened());
+    screen->press({640, 5});
+    EXPECT_TRUE(closed());
+    pressItem({640, 5}); // the same press, by way of the host
+    pressItem({640, 5});
+    static_cast<void>(opened());
+    expectCleanEnd();
+}
+
 TEST_F(TrayProgram, EndsCleanlyWithTheScreenAndKeepsItsHistory) {
     for (const bool open : {false, true}) {
         startInTray();

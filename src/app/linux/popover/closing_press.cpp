@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "app/linux/popover/press_place.h"
+
 namespace quelby::app {
 
 namespace {
@@ -9,7 +11,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto longestWay = 500ms; // of a press through the item's host; hosts take their time
-constexpr int farthestPixels = 32; // that the pointer goes on meanwhile
 
 } // namespace
 
@@ -22,8 +23,7 @@ bool ClosingPress::isThePressOfTheItem(std::optional<QPoint> pointer, Time when)
     if (!press || when - press->when > longestWay) {
         return false;
     }
-    const bool known = pointer && press->pointer;
-    return !known || (*pointer - *press->pointer).manhattanLength() <= farthestPixels;
+    return mayBeOnePlace(pointer, press->pointer);
 }
 
 } // namespace quelby::app

@@ -56,8 +56,11 @@ void LinuxPopover::leave() {
 }
 
 void LinuxPopover::goneElsewhere(std::optional<QPoint> pointer) {
-    closingPress_.happened(pointer, std::chrono::steady_clock::now());
-    close();
+    const auto now = std::chrono::steady_clock::now();
+    if (!openingPress_.goesOn(pointer, now)) {
+        closingPress_.happened(pointer, now);
+        close();
+    }
 }
 
 void LinuxPopover::giveBack() {
@@ -103,12 +106,21 @@ void LinuxPopover::close() {
     }
 }
 
-bool LinuxPopover::itemPressed(std::optional<QPoint> told) {
+bool LinuxPopover::itemPressed(std::optional<QPoint> told, std::chrono::milliseconds doublePress) {
     if (!system_) {
         system_ = windowSystem();
     }
-    itemPress_ = {.told = told, .pointer = pointerPlace(*system_), .isNew = true};
-    return !closingPress_.isThePressOfTheItem(itemPress_.pointer, std::chrono::steady_clock::now());
+    const auto now = std::chrono::steady_clock::now();
+    const auto pointer = pointerPlace(*system_);
+    const bool closedIt = closingPress_.isThePressOfTheItem(pointer, now);
+    if (closedIt || (isShown() && openingPress_.goesOn(pointer, now))) {
+        return false;
+    }
+    itemPress_ = {.told = told, .pointer = pointer, .isNew = true};
+    if (!isShown()) {
+        openingPress_.happened(pointer, now, doublePress);
+    }
+    return true;
 }
 
 void LinuxPopover::appearanceChanged() {

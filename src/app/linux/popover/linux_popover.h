@@ -1,11 +1,13 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 #include <optional>
 
 #include <QTimer>
 
 #include "app/linux/popover/closing_press.h"
+#include "app/linux/popover/opening_press.h"
 #include "app/linux/popover/quick_library.h"
 #include "app/linux/session/window_system.h"
 
@@ -26,9 +28,9 @@ public:
     void close() override;
 
     // The item was pressed. The place is as its host tells it; nothing from hosts that are known to mean
-    // something else. False for the press that has already closed the popover from outside: nothing is to
-    // follow from it.
-    [[nodiscard]] bool itemPressed(std::optional<QPoint> told);
+    // something else. False for the press that has already closed the popover from outside, and for the rest of
+    // the double press that opened it: nothing is to follow from these.
+    [[nodiscard]] bool itemPressed(std::optional<QPoint> told, std::chrono::milliseconds doublePress);
 
     void setForm(PopoverForm form);
 
@@ -48,6 +50,7 @@ private:
     std::optional<WindowSystem> system_; // found out when it is first wanted
     ItemPress itemPress_;
     ClosingPress closingPress_;
+    OpeningPress openingPress_;
     std::unique_ptr<QuickLibrary> library_;   // none before the first showing
     std::unique_ptr<DashboardWindow> window_; // none while it is not needed
     double shownTextScale_ = 1;               // of the window

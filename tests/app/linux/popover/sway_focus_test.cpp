@@ -35,7 +35,7 @@ protected:
         qputenv("SWAYSOCK", path.c_str());
     }
 
-    ~SwayFocusTest() override { qunsetenv("SWAYSOCK"); }
+    void TearDown() override { qunsetenv("SWAYSOCK"); }
 
     void accept() { connection = FileDescriptor(::accept(listening.number(), nullptr, nullptr)); }
 
