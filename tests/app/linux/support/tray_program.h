@@ -22,7 +22,8 @@ protected:
     }
 
     [[nodiscard]] std::vector<std::string> words(const std::vector<std::string>& more = {}) const {
-        std::vector<std::string> all{QUELBY_BINARY_DIR "/quelby",
+        const std::string quelby = QUELBY_BINARY_DIR "/quelby";
+        std::vector<std::string> all{quelby,
                                      "--replay",
                                      recording,
                                      "--data-dir",
