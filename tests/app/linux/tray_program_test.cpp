@@ -265,6 +265,7 @@ TEST_F(TrayProgram, IsOpenAgainAfterTwoQuickPressesOfItsItem) {
 }
 
 TEST_F(TrayProgram, EndsCleanlyWithTheScreenAndKeepsItsHistory) {
+    leavesAllStanding = true;
     for (const bool open : {false, true}) {
         startInTray();
         if (open) {
