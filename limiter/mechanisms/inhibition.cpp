@@ -13,59 +13,65 @@ const std::string usual = "auto";
 const std::string inhibited = "inhibit-charge";
 const std::string inhibitedAwake = "inhibit-charge-awake"; // charges while the computer sleeps
 
-std::string attributeIn(const std::string& batteryFolder) {
-    return batteryFolder + "/charge_behaviour";
-}
-
 bool inhibits(const std::optional<std::string>& mode) {
     return mode == inhibited || mode == inhibitedAwake;
 }
 
+class Inhibition final : public Mechanism {
+public:
+    Inhibition(Attributes& attributes, std::string attribute)
+        : attributes_(attributes), attribute_(std::move(attribute)) {}
+
+    [[nodiscard]] std::string_view name() const override { return "charge_behaviour"; }
+
+    [[nodiscard]] bool holdsByItself() const override { return false; }
+
+    [[nodiscard]] Setting read() const override {
+        return {.mode = readChoices(attributes_.read(attribute_).value_or("")).active};
+    }
+
+    [[nodiscard]] Setting limitedTo(int percent, int batteryPercent) const override {
+        const auto choices = readChoices(attributes_.read(attribute_).value_or(""));
+        const bool awakeOnly = choices.offer(inhibitedAwake) && !choices.offer(inhibited);
+        const bool isHeld = inhibits(choices.active);
+        const bool hold = batteryPercent >= percent || (isHeld && batteryPercent > percent - distance);
+        if (!hold || percent >= full) {
+            return {.mode = usual};
+        }
+        return {.mode = awakeOnly ? inhibitedAwake : inhibited};
+    }
+
+    [[nodiscard]] Setting lifted(const Setting& /*found*/) const override { return {.mode = usual}; }
+
+    // Charging as usual, whatever was found: nobody wants a battery back that cannot be charged.
+    [[nodiscard]] Setting restored(const Setting& /*found*/) const override { return {.mode = usual}; }
+
+    [[nodiscard]] Result<void> write(const Setting& setting) override {
+        return writeValue(attributes_, attribute_, setting.mode.value_or(usual));
+    }
+
+    [[nodiscard]] Level levelOf(const Setting& setting, std::optional<int> limit) const override {
+        if (!setting.mode) {
+            return {};
+        }
+        if (!limit) {
+            return inhibits(setting.mode) ? Level{.limits = true} : Level{.percent = full};
+        }
+        return {.limits = *limit < full, .percent = limit};
+    }
+
+private:
+    Attributes& attributes_;
+    std::string attribute_;
+};
+
 } // namespace
 
-Inhibition::Inhibition(Attributes& attributes, const std::string& batteryFolder)
-    : attributes_(attributes), attribute_(attributeIn(batteryFolder)) {}
-
-bool Inhibition::isPresent(const Attributes& attributes, const std::string& batteryFolder) {
-    const auto choices = readChoices(attributes.read(attributeIn(batteryFolder)).value_or(""));
-    return choices.offer(inhibited) || choices.offer(inhibitedAwake);
-}
-
-Setting Inhibition::read() const {
-    return {.mode = readChoices(attributes_.read(attribute_).value_or("")).active};
-}
-
-Setting Inhibition::limitedTo(int percent, int batteryPercent) const {
-    const auto choices = readChoices(attributes_.read(attribute_).value_or(""));
-    const bool awakeOnly = choices.offer(inhibitedAwake) && !choices.offer(inhibited);
-    const bool isHeld = inhibits(choices.active);
-    const bool hold = batteryPercent >= percent || (isHeld && batteryPercent > percent - distance);
-    if (!hold || percent >= full) {
-        return {.mode = usual};
-    }
-    return {.mode = awakeOnly ? inhibitedAwake : inhibited};
-}
-
-Setting Inhibition::lifted(const Setting& /*found*/) const {
-    return {.mode = usual};
-}
-
-Setting Inhibition::restored(const Setting& /*found*/) const {
-    return {.mode = usual};
-}
-
-Result<void> Inhibition::write(const Setting& setting) {
-    return writeValue(attributes_, attribute_, setting.mode.value_or(usual));
-}
-
-Level Inhibition::levelOf(const Setting& setting, std::optional<int> limit) const {
-    if (!setting.mode) {
-        return {};
-    }
-    if (!limit) {
-        return inhibits(setting.mode) ? Level{.limits = true} : Level{.percent = full};
-    }
-    return {.limits = *limit < full, .percent = limit};
+std::unique_ptr<Mechanism> inhibition(Attributes& attributes, const std::string& batteryFolder) {
+    const auto attribute = batteryFolder + "/charge_behaviour";
+    const auto choices = readChoices(attributes.read(attribute).value_or(""));
+    const bool isPresent = choices.offer(inhibited) || choices.offer(inhibitedAwake);
+    return isPresent ? std::make_unique<Inhibition>(attributes, attribute) : nullptr;
 }
 
 } // namespace quelby::limiter

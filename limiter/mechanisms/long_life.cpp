@@ -8,50 +8,57 @@ namespace quelby::limiter {
 namespace {
 
 constexpr int full = 100;
-const std::string longLife = "Long_Life";
-const std::string standard = "Standard";
+const std::string longLifeType = "Long_Life";
+const std::string standardType = "Standard";
 
-std::string attributeIn(const std::string& batteryFolder) {
-    return batteryFolder + "/charge_types";
-}
+class LongLife final : public Mechanism {
+public:
+    LongLife(Attributes& attributes, std::string attribute)
+        : attributes_(attributes), attribute_(std::move(attribute)) {}
+
+    [[nodiscard]] std::string_view name() const override { return "charge_types"; }
+
+    [[nodiscard]] Setting read() const override {
+        return {.mode = readChoices(attributes_.read(attribute_).value_or("")).active};
+    }
+
+    [[nodiscard]] Setting limitedTo(int percent, int /*batteryPercent*/) const override {
+        return {.mode = percent < full ? longLifeType : standardType};
+    }
+
+    [[nodiscard]] Setting lifted(const Setting& found) const override {
+        return {.mode = found.mode && found.mode != longLifeType ? found.mode : standardType};
+    }
+
+    [[nodiscard]] Setting restored(const Setting& found) const override {
+        const bool isKnown =
+            found.mode == longLifeType || found.mode == standardType ||
+            readChoices(attributes_.read(attribute_).value_or("")).offer(found.mode.value_or(""));
+        return {.mode = isKnown ? found.mode : standardType};
+    }
+
+    [[nodiscard]] Result<void> write(const Setting& setting) override {
+        return writeValue(attributes_, attribute_, setting.mode.value_or(standardType));
+    }
+
+    [[nodiscard]] Level levelOf(const Setting& setting, std::optional<int> /*limit*/) const override {
+        if (!setting.mode) {
+            return {};
+        }
+        return setting.mode == longLifeType ? Level{.limits = true} : Level{.percent = full};
+    }
+
+private:
+    Attributes& attributes_;
+    std::string attribute_;
+};
 
 } // namespace
 
-LongLife::LongLife(Attributes& attributes, const std::string& batteryFolder)
-    : attributes_(attributes), attribute_(attributeIn(batteryFolder)) {}
-
-bool LongLife::isPresent(const Attributes& attributes, const std::string& batteryFolder) {
-    return readChoices(attributes.read(attributeIn(batteryFolder)).value_or("")).offer(longLife);
-}
-
-Setting LongLife::read() const {
-    return {.mode = readChoices(attributes_.read(attribute_).value_or("")).active};
-}
-
-Setting LongLife::limitedTo(int percent, int /*batteryPercent*/) const {
-    return {.mode = percent < full ? longLife : standard};
-}
-
-Setting LongLife::lifted(const Setting& found) const {
-    return {.mode = found.mode && found.mode != longLife ? found.mode : standard};
-}
-
-Setting LongLife::restored(const Setting& found) const {
-    const bool isKnown =
-        found.mode == longLife || found.mode == standard ||
-        readChoices(attributes_.read(attribute_).value_or("")).offer(found.mode.value_or(""));
-    return {.mode = isKnown ? found.mode : standard};
-}
-
-Result<void> LongLife::write(const Setting& setting) {
-    return writeValue(attributes_, attribute_, setting.mode.value_or(standard));
-}
-
-Level LongLife::levelOf(const Setting& setting, std::optional<int> /*limit*/) const {
-    if (!setting.mode) {
-        return {};
-    }
-    return setting.mode == longLife ? Level{.limits = true} : Level{.percent = full};
+std::unique_ptr<Mechanism> longLife(Attributes& attributes, const std::string& batteryFolder) {
+    const auto attribute = batteryFolder + "/charge_types";
+    const bool isPresent = readChoices(attributes.read(attribute).value_or("")).offer(longLifeType);
+    return isPresent ? std::make_unique<LongLife>(attributes, attribute) : nullptr;
 }
 
 } // namespace quelby::limiter

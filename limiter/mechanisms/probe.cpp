@@ -16,7 +16,7 @@ std::unique_ptr<Mechanism> conservationMode(Attributes& attributes) {
     for (const auto& device : attributes.names(driver)) {
         const auto attribute = driver + '/' + device + "/conservation_mode";
         if (attributes.exists(attribute)) {
-            return std::make_unique<FirmwareSwitch>(attributes, attribute, "conservation_mode", std::nullopt);
+            return firmwareSwitch(attributes, attribute, "conservation_mode", std::nullopt);
         }
     }
     return nullptr;
@@ -40,12 +40,11 @@ std::unique_ptr<Mechanism> ofTheMachine(Attributes& attributes, const PowerSuppl
     }
     if (const std::string samsung = "devices/platform/samsung/battery_life_extender";
         attributes.exists(samsung)) {
-        return std::make_unique<FirmwareSwitch>(attributes, samsung, "battery_life_extender", 80);
+        return firmwareSwitch(attributes, samsung, "battery_life_extender", 80);
     }
     if (const std::string sony = "devices/platform/sony-laptop/battery_care_limiter";
         attributes.exists(sony)) {
-        return std::make_unique<CareLevels>(attributes, sony, "battery_care_limiter",
-                                            std::vector{50, 80, 100});
+        return careLevels(attributes, sony, "battery_care_limiter", std::vector{50, 80, 100});
     }
     return nullptr;
 }
@@ -61,18 +60,15 @@ std::unique_ptr<Mechanism> probe(Attributes& attributes, const PowerSupplies& su
     if (Thresholds::arePresent(attributes, battery.folder)) {
         return std::make_unique<Thresholds>(attributes, battery.folder);
     }
-    if (LongLife::isPresent(attributes, battery.folder)) {
-        return std::make_unique<LongLife>(attributes, battery.folder);
+    if (auto mechanism = longLife(attributes, battery.folder)) {
+        return mechanism;
     }
     if (isFirst) {
         if (auto mechanism = ofTheMachine(attributes, supplies)) {
             return mechanism;
         }
     }
-    if (Inhibition::isPresent(attributes, battery.folder)) {
-        return std::make_unique<Inhibition>(attributes, battery.folder);
-    }
-    return nullptr;
+    return inhibition(attributes, battery.folder);
 }
 
 } // namespace quelby::limiter

@@ -92,7 +92,7 @@ TEST_F(FolderTest, IsNotReachedThroughALink) {
 }
 
 TEST_F(FolderTest, OfAnotherUserIsNoneOfTheHelpersOwn) {
-    if (::geteuid() != 0) {
+    if (::geteuid() != 0) { // nobody else can make what is tested here
         GTEST_SKIP() << "only root can give a folder away";
     }
     const auto theirs = outer.path() / "theirs";
@@ -146,7 +146,8 @@ TEST_F(FolderTest, NeverWaitsForAFileThatIsLeased) {
     fs::permissions(at("file"), fs::perms(0666));
     const FileDescriptor leased(::open(at("file").c_str(), O_RDWR | O_CLOEXEC));
     std::signal(SIGIO, SIG_IGN);
-    if (::fcntl(leased.number(), F_SETLEASE, F_WRLCK) != 0) {
+    if (::fcntl(leased.number(), F_SETLEASE, F_WRLCK) !=
+        0) { // as on network file systems; nothing to wait for
         GTEST_SKIP() << "this file system has no leases";
     }
     EXPECT_EQ(folder.read("file"), std::nullopt);
@@ -184,7 +185,7 @@ TEST_F(FolderTest, ReadsNothingThatIsMountedOverAName) {
                     : 1);
     }
     const int status = exitStatusOf(process);
-    if (status == 2) {
+    if (status == 2) { // containers and ordinary users have no right to mount
         GTEST_SKIP() << "nothing can be mounted here";
     }
     EXPECT_EQ(status, 0);
@@ -197,7 +198,7 @@ TEST_F(FolderTest, LeavesAFileThatCannotBeReplaced) {
     int flags = 0;
     ::ioctl(file.number(), FS_IOC_GETFLAGS, &flags);
     int immutable = flags | FS_IMMUTABLE_FL;
-    if (::ioctl(file.number(), FS_IOC_SETFLAGS, &immutable) != 0) {
+    if (::ioctl(file.number(), FS_IOC_SETFLAGS, &immutable) != 0) { // tmpfs has no such flag; it takes root
         GTEST_SKIP() << "no file can be made immutable here";
     }
     EXPECT_FALSE(replace("new"));
@@ -230,7 +231,7 @@ TEST_F(FolderTest, KeepsTheOldFileWhereTheDiskIsFull) {
         ::_exit(before && filled && !during && kept && after ? 0 : 1);
     }
     const int status = exitStatusOf(process);
-    if (status == 2) {
+    if (status == 2) { // containers and ordinary users have no right to mount
         GTEST_SKIP() << "nothing can be mounted here";
     }
     EXPECT_EQ(status, 0);

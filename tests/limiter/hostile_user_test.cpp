@@ -225,7 +225,7 @@ TEST_F(HostileUserTest, CannotForgeTheKernelsMessages) {
 TEST_F(HostileUserTest, CannotUseItsOwnFolder) {
     wish(limitOn);
     ASSERT_EQ(run({"--once"}).exitStatus, 0);
-    if (::geteuid() != 0) {
+    if (::geteuid() != 0) { // the helper then is no other user than the one who attacks
         GTEST_SKIP() << "the folder is this user's own";
     }
     EXPECT_FALSE(asOrdinaryUser([&] {

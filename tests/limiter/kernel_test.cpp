@@ -124,8 +124,8 @@ TEST_F(PowerSuppliesTest, TellByTheBatteryWhereThereIsNoAdapter) {
 
 TEST_F(PowerSuppliesTest, SurviveABatteryThatVanishesBetweenTwoReadings) {
     addLaptop(hardware);
-    hardware[supplies + "BAT0/capacity"].readFailure = std::errc::no_such_device;
-    hardware[supplies + "BAT0/status"].readFailure = std::errc::no_such_device;
+    hardware[bat0 + "capacity"].readFailure = std::errc::no_such_device;
+    hardware[bat0 + "status"].readFailure = std::errc::no_such_device;
     const auto read = readPowerSupplies(hardware);
     ASSERT_EQ(read.batteries.size(), 1U);
     EXPECT_EQ(read.batteries[0].percent, std::nullopt);

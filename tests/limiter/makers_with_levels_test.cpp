@@ -40,13 +40,13 @@ TEST_F(MakersWithLevels, DellLooksAtItsLevelsOnlyInCustomMode) {
     addLaptop(hardware);
     addDell(hardware);
     limitTo(80);
-    EXPECT_EQ(text(supplies + "BAT0/charge_types"), "Trickle Fast Standard Adaptive [Custom]");
+    EXPECT_EQ(text(bat0 + "charge_types"), "Trickle Fast Standard Adaptive [Custom]");
     EXPECT_EQ(battery().inForcePercent, 80);
     EXPECT_EQ(battery().inForceStartPercent, 75);
     switchOff();
-    EXPECT_EQ(text(supplies + "BAT0/charge_types"), "Trickle Fast Standard [Adaptive] Custom");
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_end_threshold"), "100");
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_start_threshold"), "50");
+    EXPECT_EQ(text(bat0 + "charge_types"), "Trickle Fast Standard [Adaptive] Custom");
+    EXPECT_EQ(text(endThreshold), "100");
+    EXPECT_EQ(text(startThreshold), "50");
 }
 
 TEST_F(MakersWithLevels, DellClampsWithoutAWordAndItsOwnLevelIsTold) {
@@ -70,9 +70,7 @@ TEST_F(MakersWithLevels, DellWithAPasswordInItsFirmwareSaysSo) {
     addLaptop(hardware);
     addDell(hardware);
     for (const char* const name : {"charge_control_end_threshold", "charge_types"}) {
-        hardware[supplies + "BAT0/" + name].take = [](const std::string&) {
-            return std::errc::permission_denied;
-        };
+        hardware[bat0 + name].take = [](const std::string&) { return std::errc::permission_denied; };
     }
     limitTo(80);
     EXPECT_THAT(last.details.lastError.value_or(""), HasSubstr("a password of the firmware's setup"));
@@ -168,8 +166,8 @@ TEST_F(MakersWithLevels, System76TakesAnyPair) {
     EXPECT_EQ(battery().inForcePercent, 20);
     EXPECT_EQ(battery().inForceStartPercent, 15);
     switchOff();
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_start_threshold"), "0");
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_end_threshold"), "100");
+    EXPECT_EQ(text(startThreshold), "0");
+    EXPECT_EQ(text(endThreshold), "100");
 }
 
 TEST_F(MakersWithLevels, TuxedoListsItsLevels) {
@@ -183,9 +181,9 @@ TEST_F(MakersWithLevels, TuxedoListsItsLevels) {
     EXPECT_EQ(battery().inForcePercent, 60);
     EXPECT_EQ(battery().inForceStartPercent, 50);
     switchOff();
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_end_threshold"), "100");
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_start_threshold"), "95");
-    EXPECT_EQ(text(supplies + "BAT0/charge_type"), "Standard");
+    EXPECT_EQ(text(endThreshold), "100");
+    EXPECT_EQ(text(startThreshold), "95");
+    EXPECT_EQ(text(bat0 + "charge_type"), "Standard");
 }
 
 TEST_F(MakersWithLevels, WilcoHasItsLevelsOnTheCharger) {

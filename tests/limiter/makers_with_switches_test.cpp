@@ -107,7 +107,6 @@ TEST_F(MakersWithSwitches, AppleIsHeldByTheHelperItself) {
 TEST_F(MakersWithSwitches, AChargerThatDoesNotFollowIsTriedAgainLater) {
     addLaptop(hardware);
     addBehaviour(hardware, "BAT0", {"auto", "inhibit-charge", "force-discharge"});
-    const auto behaviour = supplies + "BAT0/charge_behaviour";
     const auto take = hardware[behaviour].take;
     hardware[behaviour].take = [](const std::string&) { return std::errc::io_error; };
     limitTo(60);
@@ -122,16 +121,16 @@ TEST_F(MakersWithSwitches, AChargerThatDoesNotFollowIsTriedAgainLater) {
 TEST_F(MakersWithSwitches, OneThatIsLeftDischargingIsSetToCharging) {
     addLaptop(hardware);
     addBehaviour(hardware, "BAT0", {"auto", "inhibit-charge", "force-discharge"});
-    hardware[supplies + "BAT0/charge_behaviour"].text = "force-discharge";
+    hardware[behaviour].text = "force-discharge";
     limitTo(90);
-    EXPECT_EQ(text(supplies + "BAT0/charge_behaviour"), "[auto] inhibit-charge force-discharge");
+    EXPECT_EQ(text(behaviour), "[auto] inhibit-charge force-discharge");
 }
 
 TEST_F(MakersWithSwitches, SomeChargersAreInhibitedOnlyWhileTheComputerIsAwake) {
     addLaptop(hardware);
     addBehaviour(hardware, "BAT0", {"auto", "inhibit-charge-awake"});
     limitTo(60);
-    EXPECT_EQ(text(supplies + "BAT0/charge_behaviour"), "auto [inhibit-charge-awake]");
+    EXPECT_EQ(text(behaviour), "auto [inhibit-charge-awake]");
 }
 
 TEST_F(MakersWithSwitches, SurfaceSaysThatItsFirmwareDoesNot) {

@@ -36,6 +36,7 @@ protected:
     }
 
     void SetUp() override {
+        // Namespaces of one's own take root, and containers may refuse them even then.
         if (::geteuid() != 0 || runProgram(confined({"true"})).exitStatus != 0) {
             GTEST_SKIP() << "no such place can be made here";
         }

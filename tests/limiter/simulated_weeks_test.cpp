@@ -62,7 +62,7 @@ protected:
 
     [[nodiscard]] RecordedCycle cycle() {
         auto cycle = laptopCycle(0);
-        const auto state = hardware.text(supplies + "BAT0/status");
+        const auto state = hardware.text(bat0 + "status");
         auto& battery = std::get<PropertyTable>(cycle.battery);
         battery["AppleRawCurrentCapacity"] = static_cast<std::int64_t>(laptop.percent() * 50);
         battery["ExternalConnected"] = state != "Discharging";

@@ -43,20 +43,18 @@ TEST_F(ThinkPad, HoldsEachOfTwoBatteries) {
     addThinkPad(hardware, "BAT0");
     addThinkPad(hardware, "BAT1");
     limitTo(70);
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_end_threshold"), "70");
+    EXPECT_EQ(text(endThreshold), "70");
     EXPECT_EQ(text(supplies + "BAT1/charge_control_end_threshold"), "70");
     EXPECT_EQ(last.details.batteries.size(), 2U);
     switchOff();
-    EXPECT_EQ(text(supplies + "BAT0/charge_control_end_threshold"), "100");
+    EXPECT_EQ(text(endThreshold), "100");
     EXPECT_EQ(text(supplies + "BAT1/charge_control_end_threshold"), "100");
 }
 
 TEST_F(ThinkPad, OfTheESeriesMayTellAStartAboveTheEndWhichCountsAsUnknown) {
     addLaptop(hardware);
     addThinkPad(hardware);
-    hardware[supplies + "BAT0/charge_control_start_threshold"].give = [](const std::string&) {
-        return "100";
-    };
+    hardware[startThreshold].give = [](const std::string&) { return "100"; };
     limitTo(80);
     EXPECT_EQ(battery().inForcePercent, 80);
     EXPECT_EQ(battery().inForceStartPercent, std::nullopt);
@@ -67,7 +65,7 @@ TEST_F(ThinkPad, OfTheESeriesMayTellAStartAboveTheEndWhichCountsAsUnknown) {
 TEST_F(ThinkPad, ThatGivesTheOldValueOnceMoreIsReadTwice) {
     addLaptop(hardware);
     addThinkPad(hardware);
-    const auto end = supplies + "BAT0/charge_control_end_threshold";
+    const auto end = endThreshold;
     auto told = std::make_shared<std::string>("100");
     hardware[end].give = [told, give = hardware[end].give](const std::string& text) {
         return std::exchange(*told, give(text)); // the truth comes with the next reading
@@ -83,7 +81,7 @@ TEST_F(ThinkPad, ThatGivesTheOldValueOnceMoreIsReadTwice) {
 TEST_F(ThinkPad, WhoseControllerRefusesIsTriedAgainLater) {
     addLaptop(hardware);
     addThinkPad(hardware);
-    const auto end = supplies + "BAT0/charge_control_end_threshold";
+    const auto end = endThreshold;
     const auto take = hardware[end].take;
     hardware[end].take = [](const std::string&) { return std::errc::io_error; };
     limitTo(80);

@@ -9,6 +9,10 @@
 namespace quelby::limiter {
 
 inline const std::string supplies = "class/power_supply/";
+inline const std::string bat0 = supplies + "BAT0/";
+inline const std::string endThreshold = bat0 + "charge_control_end_threshold";
+inline const std::string startThreshold = bat0 + "charge_control_start_threshold";
+inline const std::string behaviour = bat0 + "charge_behaviour";
 
 // A laptop with one battery that says nothing about limits, on external power.
 void addLaptop(OddHardware& hardware, const std::string& battery = "BAT0");

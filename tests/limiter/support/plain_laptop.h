@@ -8,10 +8,6 @@
 
 namespace quelby::limiter {
 
-inline const std::string bat0 = supplies + "BAT0/";
-inline const std::string endThreshold = bat0 + "charge_control_end_threshold";
-inline const std::string behaviour = bat0 + "charge_behaviour";
-
 class PlainLaptop : public testing::Test, protected TestBench {
 protected:
     PlainLaptop() {

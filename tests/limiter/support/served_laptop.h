@@ -11,9 +11,6 @@
 
 namespace quelby::limiter {
 
-inline const std::string endThreshold = supplies + "BAT0/charge_control_end_threshold";
-inline const std::string startThreshold = supplies + "BAT0/charge_control_start_threshold";
-
 class ServedLaptop : public testing::Test {
 protected:
     ServedLaptop() {
