@@ -62,6 +62,7 @@ bool StatusNotifierItem::draws(const ItemContent& former) const {
 }
 
 void StatusNotifierItem::announceIcon() {
+    pictures_.reset();
     if (host_.icon == IconForm::file) {
         writeIconFile();
     }
@@ -103,7 +104,15 @@ QString StatusNotifierItem::iconName() const {
     return {};
 }
 
-DBusPictures StatusNotifierItem::pictures() const {
+// Some hosts ask for one property after the other, and each answer is taken from all of them.
+const DBusPictures& StatusNotifierItem::pictures() const {
+    if (!pictures_) {
+        pictures_ = drawn();
+    }
+    return *pictures_;
+}
+
+DBusPictures StatusNotifierItem::drawn() const {
     DBusPictures pictures;
     for (const int side : iconSides) {
         switch (host_.icon) {

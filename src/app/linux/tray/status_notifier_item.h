@@ -39,7 +39,8 @@ private:
     [[nodiscard]] QString members() const override;
     bool call(const QDBusMessage& message) override;
 
-    [[nodiscard]] DBusPictures pictures() const;
+    [[nodiscard]] const DBusPictures& pictures() const;
+    [[nodiscard]] DBusPictures drawn() const;
     [[nodiscard]] QString iconName() const;
     [[nodiscard]] bool draws(const ItemContent& former) const;
     [[nodiscard]] DBusToolTip toolTip() const;
@@ -57,6 +58,7 @@ private:
     TrayMenu menu_;
     TrayHost host_;
     ItemContent content_;
+    mutable std::optional<DBusPictures> pictures_; // of what is shown, once a host has asked for them
     std::optional<QTemporaryDir> iconFolder_; // for hosts that read icons from files
     int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
 };
