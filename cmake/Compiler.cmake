@@ -44,8 +44,8 @@ if(QUELBY_SANITIZERS)
 endif()
 
 # quelby_floor(NAME SOURCES ... [USES ...] [PRECOMPILED ...]) makes one floor of the program: a static library whose
-# folder is its name, which may use only what stands below it. PRECOMPILED are large headers of other libraries that
-# most of its files include all the same.
+# folder is its name, which may use only what stands below it. PRECOMPILED are large headers that most of its files
+# include all the same.
 function(quelby_floor name)
     cmake_parse_arguments(FLOOR "" "" "SOURCES;USES;PRECOMPILED" ${ARGN})
     add_library(quelby_${name} STATIC ${FLOOR_SOURCES})
