@@ -1,5 +1,6 @@
 // describe bash|zsh|fish PROGRAM prints the completion of quelby or quelbyctl; describe man PROGRAM TEMPLATE its man
-// page; describe unit EXECUTABLE the service of the charge-limit helper, for a helper that lies there.
+// page; describe unit EXECUTABLE the service of the charge-limit helper, for a helper that lies there; describe
+// run-as-root RESOURCES the program that installs and removes that helper, where it lies in this folder.
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -9,6 +10,8 @@
 #include "app/command_line_description.h"
 #include "cli/arguments/command_line_description.h"
 #include "packaging/describe/texts.h"
+#include "platform/installer/linux_helper_scripts.h"
+#include "platform/installer/root_program.h"
 #include "platform/installer/systemd_unit.h"
 
 namespace quelby::packaging {
@@ -31,6 +34,9 @@ std::string textFor(const std::vector<std::string>& words) {
     if (kind == "unit") {
         return systemdUnit(words[1]);
     }
+    if (kind == "run-as-root") {
+        return rootProgram({linuxInstallScript(words[1]), linuxUninstallScript()});
+    }
     const auto program = wordsOf(words[1]);
     if (kind == "bash") {
         return bashCompletion(program);
@@ -47,7 +53,8 @@ std::string textFor(const std::vector<std::string>& words) {
 int main(int argc, char** argv) {
     const std::vector<std::string> words(argv + 1, argv + argc);
     if (words.size() < 2 || (words[0] == "man" && words.size() < 3)) {
-        std::fputs("usage: describe bash|zsh|fish PROGRAM | man PROGRAM TEMPLATE | unit EXECUTABLE\n",
+        std::fputs("usage: describe bash|zsh|fish PROGRAM | man PROGRAM TEMPLATE | unit EXECUTABLE | "
+                   "run-as-root RESOURCES\n",
                    stderr);
         return 2;
     }

@@ -1,10 +1,23 @@
 #include "platform/linux/pkexec.h"
 
+#include <fstream>
+#include <iterator>
+
 #include <unistd.h>
 
+#include "platform/installer/root_program.h"
 #include "platform/posix/child_process.h"
 
 namespace quelby {
+
+namespace {
+
+std::string contentOf(const std::filesystem::path& file) {
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+} // namespace
 
 std::vector<std::string> pkexecWords(const std::string& script, bool isRoot,
                                      const std::filesystem::path& root) {
@@ -14,7 +27,7 @@ std::vector<std::string> pkexecWords(const std::string& script, bool isRoot,
     if (isRoot) {
         return {"/bin/sh", "-c", script};
     }
-    if (std::filesystem::exists(root / action, ignored) && std::filesystem::exists(root / program, ignored)) {
+    if (std::filesystem::exists(root / action, ignored) && runsScript(contentOf(root / program), script)) {
         return {"pkexec", root / program, script};
     }
     return {"pkexec", "/bin/sh", "-c", script};

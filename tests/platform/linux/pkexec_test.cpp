@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
+#include "platform/installer/linux_helper_scripts.h"
+#include "platform/installer/root_program.h"
 #include "support/program.h"
 #include "support/temporary_folder.h"
 
@@ -24,12 +26,20 @@ TEST(Pkexec, AsksForTheShellWhereNothingOfItsOwnIsInstalled) {
 
 TEST(Pkexec, AsksForItsOwnProgramWhereTheActionThatNamesItIsInstalled) {
     const TemporaryFolder root;
-    root.write("usr/libexec/quelby/run_as_root", "");
+    root.write("usr/libexec/quelby/run_as_root", rootProgram({"true", "false"}));
     EXPECT_THAT(pkexecWords("true", false, root.path()), ElementsAre("pkexec", "/bin/sh", "-c", "true"));
     root.write("usr/share/polkit-1/actions/com.quelby.limiter.policy", "");
-    EXPECT_THAT(pkexecWords("true", false, root.path()),
-                ElementsAre("pkexec", (root.path() / "usr/libexec/quelby/run_as_root").string(), "true"));
+    const auto program = (root.path() / "usr/libexec/quelby/run_as_root").string();
+    EXPECT_THAT(pkexecWords("true", false, root.path()), ElementsAre("pkexec", program, "true"));
+    EXPECT_THAT(pkexecWords("false", false, root.path()), ElementsAre("pkexec", program, "false"));
     EXPECT_THAT(pkexecWords("true", true, root.path()), ElementsAre("/bin/sh", "-c", "true"));
+}
+
+TEST(Pkexec, NamesTheShellForAScriptThatItsOwnProgramWouldRefuse) {
+    const TemporaryFolder root;
+    root.write("usr/share/polkit-1/actions/com.quelby.limiter.policy", "");
+    root.write("usr/libexec/quelby/run_as_root", rootProgram({"true x", "x true"}));
+    EXPECT_THAT(pkexecWords("true", false, root.path()), ElementsAre("pkexec", "/bin/sh", "-c", "true"));
 }
 
 TEST(Pkexec, NamesTheProgramThatThePackageInstalls) {
@@ -40,10 +50,34 @@ TEST(Pkexec, NamesTheProgramThatThePackageInstalls) {
     EXPECT_EQ(valid.exitStatus, 0) << valid.errors;
 }
 
-TEST(Pkexec, HasItsProgramRunOneScriptWhole) {
-    const auto ran = runProgram({packaging / "run_as_root", "echo one\necho 'two  words'; exit 3"});
-    EXPECT_EQ(ran.output, "one\ntwo  words\n");
+class RootProgram : public testing::Test {
+protected:
+    [[nodiscard]] ProgramResult run(const std::vector<std::string>& words) const {
+        auto all = words;
+        all.insert(all.begin(), {"/bin/sh", program.string()});
+        return runProgram(all);
+    }
+
+    TemporaryFolder folder;
+    fs::path program = folder.write("run_as_root", rootProgram({"echo one\necho 'two  *[?]'; exit 3",
+                                                                linuxUninstallScript(folder.path())}));
+};
+
+TEST_F(RootProgram, RunsAScriptOfItsOwnWhole) {
+    const auto ran = run({"echo one\necho 'two  *[?]'; exit 3"});
+    EXPECT_EQ(ran.output, "one\ntwo  *[?]\n");
     EXPECT_EQ(ran.exitStatus, 3);
+}
+
+TEST_F(RootProgram, RunsNothingElse) {
+    for (const auto* const script :
+         {"echo one", "", "*", "echo one\necho 'two  xx'; exit 3", "echo one\necho 'two  *[?]'; exit 3;"}) {
+        const auto ran = run({script});
+        EXPECT_EQ(ran.exitStatus, 2) << script;
+        EXPECT_EQ(ran.output, "") << script;
+        EXPECT_NE(ran.errors, "") << script;
+    }
+    EXPECT_EQ(run({}).exitStatus, 2);
 }
 
 } // namespace
