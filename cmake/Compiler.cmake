@@ -42,6 +42,9 @@ if(QUELBY_SANITIZERS)
         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
 endif()
+if(QUELBY_FUZZERS)
+    target_compile_options(quelby_rules INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 
 # quelby_floor(NAME SOURCES ... [USES ...] [PRECOMPILED ...]) makes one floor of the program: a static library whose
 # folder is its name, which may use only what stands below it. PRECOMPILED are large headers that most of its files

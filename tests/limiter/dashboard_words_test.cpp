@@ -109,7 +109,7 @@ protected:
         ASSERT_TRUE(service.runOnce());
     }
 
-    TemporaryFolder outer{fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path()};
+    TemporaryFolder outer{inMemory()};
     std::unique_ptr<SysfsAttributes> attributes = attributesIn(outer.path() / "sys");
     SimulatedLaptop laptop{*attributes};
     TestTime time;

@@ -63,7 +63,7 @@ private:
 };
 
 TEST(RottenConfig, NeverStopsTheHelperNorLeadsItAstray) {
-    const TemporaryFolder outer{std::filesystem::exists("/dev/shm") ? "/dev/shm" : "/tmp"};
+    const TemporaryFolder outer(inMemory());
     const auto folder = *Folder::openShared(outer.path());
     TestBench bench;
     addLaptop(bench.hardware);

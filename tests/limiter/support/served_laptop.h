@@ -47,9 +47,7 @@ protected:
         return *service_;
     }
 
-    // A disk would be what takes most of a simulated week.
-    TemporaryFolder folder{std::filesystem::exists("/dev/shm") ? "/dev/shm"
-                                                               : std::filesystem::temp_directory_path()};
+    TemporaryFolder folder{inMemory()};
     OddHardware hardware;
     TestTime time;
     LimiterState saved;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/child_process.h"
+#include "support/file_mode.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -21,6 +22,14 @@ TEST(FileLock, HasOneHolderAtATime) {
         EXPECT_TRUE(std::holds_alternative<FileLock::HeldByAnother>(FileLock::take(file)));
     }
     EXPECT_TRUE(isFree(file));
+}
+
+TEST(FileLock, IsForItsUserAlone) {
+    const TemporaryFolder folder;
+    const Umask open(0);
+    const auto file = folder.path() / "the.lock";
+    ASSERT_TRUE(isFree(file));
+    EXPECT_EQ(std::filesystem::status(file).permissions(), std::filesystem::perms(0600));
 }
 
 TEST(FileLock, EndsWithItsProcessHoweverThatEnds) {

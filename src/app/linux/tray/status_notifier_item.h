@@ -59,7 +59,7 @@ private:
     TrayHost host_;
     ItemContent content_;
     mutable std::optional<DBusPictures> pictures_; // of what is shown, once a host has asked for them
-    std::optional<QTemporaryDir> iconFolder_; // for hosts that read icons from files
+    std::optional<QTemporaryDir> iconFolder_;      // for hosts that read icons from files
     int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
 };
 

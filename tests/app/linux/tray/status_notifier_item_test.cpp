@@ -83,6 +83,23 @@ TEST_F(ShownItem, IsALabelBesideAFileForTheIndicatorService) {
               symbolIcon("battery.75percent", content.ink, 44));
 }
 
+TEST_F(ShownItem, KeepsTheFilesOfItsIconsToItsUser) {
+    showAt("ayatana-indicat");
+    const auto folder = QFileInfo(property("IconName").toString()).dir();
+    EXPECT_EQ(std::filesystem::status(folder.path().toStdString()).permissions(),
+              std::filesystem::perms(0700));
+}
+
+TEST_F(ShownItem, DrawsItsPicturesAnewWhereTheTitleChanges) {
+    showAt("waybar");
+    const auto before = pictures();
+    auto changed = content;
+    changed.title = "-13W";
+    item.show(changed);
+    expectPicturesOf([](int side) { return wideIcon("battery.75percent", "-13W", content.ink, side); });
+    EXPECT_NE(pictures().last().bytes, before.last().bytes);
+}
+
 TEST_F(ShownItem, IsAWidePictureWithoutAnyLabelForMateAndWaybar) {
     for (const auto* const host : {"notification-ar", "waybar"}) {
         showAt(host);
