@@ -26,7 +26,7 @@ constexpr std::string_view neighbourPrefix = ".pwr_limiter-";
 std::string neighbourName() {
     constexpr std::string_view digits = "0123456789abcdef";
     std::array<unsigned char, 16> random{};
-    static_cast<void>(::getrandom(random.data(), random.size(), 0));
+    static_cast<void>(::getrandom(random.data(), random.size(), 0) > 0); // so few bytes come whole
     std::string name(neighbourPrefix);
     for (const auto byte : random) {
         name += digits[byte % digits.size()];

@@ -113,7 +113,7 @@ std::vector<std::string> optionNames(const CommandWords& command) {
 
 // What may stand in its own right behind the command.
 std::string commandCase(const std::string& program, const CommandWords& command, const std::string& pattern,
-                        std::vector<std::string> words) {
+                        const std::vector<std::string>& words) {
     auto text = fmt::format("        {})\n            _{} \"$word\"{}\n", pattern, program + "_words",
                             quotedWords(words));
     for (const auto& positional : command.positionals) {

@@ -41,6 +41,8 @@ struct Reading {
         app.add_flag("--background", tray.background,
                      "Started with the session: wait for the tray, and open no window without one")
             ->excludes(headlessForm);
+        app.add_flag("--show", tray.show, "Open the dashboard as soon as its item is there")
+            ->excludes(headlessForm);
         addPathOption(app, "--screenshot", "FILE.png", file,
                       "Draw the dashboard, without a display, and end");
         auto* const screenshotForm = app.get_option("--screenshot")->excludes(headlessForm);

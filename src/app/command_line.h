@@ -10,6 +10,7 @@ namespace quelby::app {
 
 struct TrayCommand {
     bool background = false; // started with the session: nothing opens by itself
+    bool show = false;       // the dashboard opens at once
 };
 
 struct HeadlessCommand {};

@@ -4,6 +4,7 @@
 
 #include <QImage>
 
+#include "base/problem.h"
 #include "monitor/power_monitor.h"
 #include "ui/view/picture_options.h"
 
@@ -18,7 +19,7 @@ public:
                                          const PictureOptions& options) = 0;
 };
 
-// Null where a part of the program is missing, as it is in a damaged installation only.
-[[nodiscard]] std::unique_ptr<PicturePainter> loadPicturePainter();
+// The problem is that a part of the program is missing or of another version, as in a damaged installation.
+[[nodiscard]] Result<std::unique_ptr<PicturePainter>> loadPicturePainter();
 
 } // namespace quelby::app

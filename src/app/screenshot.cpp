@@ -48,14 +48,14 @@ Result<void> write(const QImage& picture, const std::filesystem::path& path) {
 Result<void> draw(PowerMonitor& monitor, Clock& clock, const ScreenshotCommand& command) {
     const auto painter = loadPicturePainter();
     if (!painter) {
-        return problem("the library with the dashboard is missing");
+        return tl::make_unexpected(painter.error());
     }
     monitor.selectHistoryRange(monitor.historyRange); // with what the cycles have recorded
     const PictureOptions options{.settings = command.page == Page::settings,
                                  .dark = command.dark,
                                  .scale = command.scale,
                                  .scrolledTo = command.scroll};
-    return write(painter->picture(monitor.shared_from_this(), clock, options), command.file);
+    return write((*painter)->picture(monitor.shared_from_this(), clock, options), command.file);
 }
 
 Result<void> takeScreenshot(const MachineArguments& arguments, const ScreenshotCommand& command) {

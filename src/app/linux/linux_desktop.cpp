@@ -35,10 +35,12 @@ KeyDown keyDown(const QKeyEvent& event) {
 
 } // namespace
 
-LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray withoutTray)
+LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, const OwnProgram& program,
+                           FirstOpening firstOpening)
     : bus_(bus)
     , platform_(platform)
-    , withoutTray_(withoutTray)
+    , program_(program)
+    , firstOpening_(firstOpening)
     , configurationFolder_(QString::fromStdString(platform_.folders->configuration().string()))
     , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
@@ -59,15 +61,24 @@ StatusItem& LinuxDesktop::makeStatusItem() {
 }
 
 Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::function<void()> quit) {
-    return popover_.emplace(PopoverParts{.monitor = std::move(monitor),
-                                         .clock = platform_.clock,
-                                         .quit = std::move(quit),
-                                         .openBatterySettings =
-                                             [] {
-                                                 forgetDisplay();
-                                                 openBatterySettings();
-                                             },
-                                         .appearance = [this] { return appearance(); }});
+    PopoverParts parts{.monitor = std::move(monitor),
+                       .clock = platform_.clock,
+                       .quit = std::move(quit),
+                       .openBatterySettings =
+                           [] {
+                               forgetDisplay();
+                               openBatterySettings();
+                           },
+                       .appearance = [this] { return appearance(); }};
+    return popover_.emplace(std::move(parts), [this] { return giveWay(); });
+}
+
+bool LinuxDesktop::giveWay() {
+    if (program_.wasReplaced()) {
+        ending_ = Ending::startedAnew;
+        terminate();
+    }
+    return ending_ == Ending::startedAnew;
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {
@@ -138,11 +149,14 @@ void LinuxDesktop::lookAtPanel() {
 }
 
 void LinuxDesktop::itemShown(bool shown) {
-    const auto withoutTray = std::exchange(withoutTray_, WithoutTray::wait);
+    const auto opening = std::exchange(firstOpening_, FirstOpening::never);
     if (shown) {
         popover_->setForm(PopoverForm::atTheItem);
         lookAtPanel();
-    } else if (withoutTray == WithoutTray::openWindow) {
+        if (opening == FirstOpening::always) {
+            popover_->show();
+        }
+    } else if (opening != FirstOpening::never) {
         popover_->setForm(PopoverForm::ordinary);
         writeToStandardError("quelby: this desktop has no tray, so the dashboard is an ordinary window\n");
         popover_->show();

@@ -7,22 +7,29 @@
 #include "app/desktop.h"
 #include "app/linux/popover/linux_popover.h"
 #include "app/linux/session/desktop_appearance.h"
+#include "app/linux/session/own_program.h"
 #include "app/linux/session/session_bus.h"
 #include "app/linux/session/x_desktop.h"
 #include "app/linux/tray/linux_status_item.h"
 
 namespace quelby::app {
 
-// What to do on a desktop that has no tray when the program starts. One that goes away later is waited for.
-enum class WithoutTray {
-    openWindow, // a person has just started the program and wants to see it
-    wait,       // it was started with the session, whose panel may come later
+// Whether the dashboard opens by itself once it is known whether there is a tray. One that goes away later is
+// waited for.
+enum class FirstOpening {
+    withoutTray, // a person has just started the program and wants to see it
+    always,      // and wants to see more of it than its item
+    never,       // it was started with the session, whose panel may come later
 };
+
+// What this program is once its event loop has ended.
+enum class Ending { gone, startedAnew };
 
 // A desktop of Linux. Needs Qt's application object.
 class LinuxDesktop final : public QObject, public Desktop {
 public:
-    LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray withoutTray);
+    // The bus and the program outlive it.
+    LinuxDesktop(SessionBus& bus, Platform platform, const OwnProgram& program, FirstOpening firstOpening);
 
     [[nodiscard]] StatusItem& makeStatusItem() override;
     [[nodiscard]] Popover& makePopover(std::shared_ptr<PowerMonitor> monitor,
@@ -33,19 +40,25 @@ public:
     // Connects the status item with the session. Called once everything is there.
     void start();
 
+    // Started anew where somebody wanted to see the dashboard after an upgrade, whose library is not this program's.
+    [[nodiscard]] Ending ending() const { return ending_; }
+
     bool eventFilter(QObject* object, QEvent* event) override;
 
 private:
     void setBus(const std::optional<QDBusConnection>& bus);
     void connectToX();
     void itemShown(bool shown);
+    [[nodiscard]] bool giveWay();
     [[nodiscard]] Appearance appearance() const;
     void appearanceChanged();
     void lookAtPanel();
 
     SessionBus& bus_;
     Platform platform_;
-    WithoutTray withoutTray_; // asked once: a tray that goes away later comes back
+    const OwnProgram& program_;
+    FirstOpening firstOpening_; // never again once it has been asked: a tray that goes away later comes back
+    Ending ending_ = Ending::gone;
     QString configurationFolder_;
     DesktopAppearance appearance_;
     std::function<bool(const KeyDown&)> keyMonitor_;

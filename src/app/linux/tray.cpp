@@ -6,6 +6,7 @@
 #include "app/linux/display.h"
 #include "app/linux/linux_desktop.h"
 #include "app/linux/session/exit_guard.h"
+#include "app/linux/session/own_program.h"
 #include "app/linux/session/single_instance.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
@@ -28,13 +29,15 @@ QString serviceName(MachineKind kind) {
 
 class TrayProgram {
 public:
-    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray)
+    TrayProgram(Machine& machine, const MachineArguments& arguments, const OwnProgram& program,
+                FirstOpening firstOpening)
         : platform_(machine.platform())
         , kind_(machine.kind())
-        , withoutTray_(withoutTray)
+        , program_(program)
+        , firstOpening_(firstOpening)
         , interval_(arguments.pace == Pace::withoutWaiting ? fastInterval : interval) {}
 
-    void run() {
+    [[nodiscard]] Ending run() {
         SessionBus bus;
         std::shared_ptr<AppDelegate> delegate;
         std::optional<SingleInstance> instance;
@@ -51,11 +54,11 @@ public:
             return instance->claim();
         };
         if (claim(bus.connection()) == SingleInstance::Rank::second) {
-            return;
+            return Ending::gone;
         }
         bus.follow([&](const std::optional<QDBusConnection>& now) { static_cast<void>(claim(now)); });
         RecorderLock lock(platform_.folders->applicationSupport());
-        LinuxDesktop desktop(bus, platform_, withoutTray_);
+        LinuxDesktop desktop(bus, platform_, program_, firstOpening_);
         delegate = AppDelegate::create(platform_,
                                        {.interval = interval_,
                                         .history = historyAccess(lock),
@@ -72,22 +75,30 @@ public:
         QCoreApplication::exec();
         delegate->applicationWillTerminate();
         delegate.reset();
+        return desktop.ending();
     }
 
 private:
     Platform platform_;
     MachineKind kind_;
-    WithoutTray withoutTray_;
+    const OwnProgram& program_;
+    FirstOpening firstOpening_;
     std::chrono::duration<double> interval_; // from one cycle to the next
 };
 
-Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
+FirstOpening firstOpening(const TrayCommand& command) {
+    if (command.show) {
+        return FirstOpening::always;
+    }
+    return command.background ? FirstOpening::never : FirstOpening::withoutTray;
+}
+
+Result<Ending> run(const MachineArguments& arguments, const TrayCommand& command, const OwnProgram& program) {
     const auto machine = Machine::make(arguments.machine);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }
-    TrayProgram(**machine, arguments, command.background ? WithoutTray::wait : WithoutTray::openWindow).run();
-    return {};
+    return TrayProgram(**machine, arguments, program, firstOpening(command)).run();
 }
 
 void restoreVariable(const char* name, const QByteArray& before) {
@@ -108,10 +119,17 @@ int runInTray(const MachineArguments& arguments, const TrayCommand& command, cha
     QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return runProgramWith<QGuiApplication>("quelby", argv, [&] {
+    const OwnProgram program;
+    auto ending = Ending::gone;
+    const int status = runProgramWith<QGuiApplication>("quelby", argv, [&]() -> Result<void> {
         restoreVariable("QT_QPA_PLATFORM", platform); // which was for this program, not for those it starts
-        return run(arguments, command);
+        return run(arguments, command, program).map([&](Ending end) { ending = end; });
     });
+    if (ending == Ending::gone) {
+        return status;
+    }
+    forgetDisplay();
+    return reportOutcome("quelby", tl::make_unexpected(program.startAnew(argv, "--show")));
 }
 
 } // namespace quelby::app

@@ -20,7 +20,7 @@ public:
 
 } // namespace
 
-std::unique_ptr<PicturePainter> loadPicturePainter() {
+Result<std::unique_ptr<PicturePainter>> loadPicturePainter() {
     return std::make_unique<BuiltInPainter>();
 }
 

@@ -25,11 +25,17 @@ MonitorOptions monitorOptions(MachineKind kind, Pace pace, RecorderLock& lock) {
             .renewsShownHistory = kind == MachineKind::recorded};
 }
 
-void runApplication(const Platform& platform, const MonitorOptions& options) {
+void runApplication(const Platform& platform, const MonitorOptions& options, const TrayCommand& command) {
     becomeAccessory();
     MacosDesktop desktop(*platform.clock);
     auto delegate = AppDelegate::create(platform, options, desktop);
-    const ApplicationEvents events({.didFinishLaunching = [&] { delegate->applicationDidFinishLaunching(); },
+    const ApplicationEvents events({.didFinishLaunching =
+                                        [&] {
+                                            delegate->applicationDidFinishLaunching();
+                                            if (command.show) {
+                                                delegate->showDashboard();
+                                            }
+                                        },
                                     .willTerminate = [&] { delegate->applicationWillTerminate(); }});
     const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
     QCoreApplication::exec();
@@ -37,24 +43,24 @@ void runApplication(const Platform& platform, const MonitorOptions& options) {
     delegate.reset();
 }
 
-Result<void> run(const MachineArguments& arguments) {
+Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
     const auto machine = Machine::make(arguments.machine);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }
     const auto platform = (*machine)->platform();
     RecorderLock lock(platform.folders->applicationSupport());
-    runApplication(platform, monitorOptions((*machine)->kind(), arguments.pace, lock));
+    runApplication(platform, monitorOptions((*machine)->kind(), arguments.pace, lock), command);
     return {};
 }
 
 } // namespace
 
 // The system itself starts an application no second time.
-int runInTray(const MachineArguments& arguments, const TrayCommand& /*command*/, char** argv) {
+int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
     drawWithoutGpu();
     QGuiApplication::setQuitOnLastWindowClosed(false);
-    return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments); });
+    return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments, command); });
 }
 
 } // namespace quelby::app

@@ -87,7 +87,8 @@ Result<void> RecordingWriter::append(const RecordedCycle& cycle) {
     const auto line = recordingLine(cycle) + '\n';
     if (!writeWhole(file_.number(), line)) {
         const int cause = errno;
-        static_cast<void>(::ftruncate(file_.number(), length_)); // a device cannot be cut, and need not be
+        static_cast<void>(::ftruncate(file_.number(), length_) ==
+                          0); // a device cannot be cut, and need not be
         return cannotRecord(named_, cause);
     }
     length_ += static_cast<off_t>(line.size());

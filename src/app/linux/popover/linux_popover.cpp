@@ -16,7 +16,8 @@ constexpr auto keptAfterClosing = 60s;
 
 } // namespace
 
-LinuxPopover::LinuxPopover(PopoverParts parts) : parts_(std::move(parts)) {
+LinuxPopover::LinuxPopover(PopoverParts parts, GivesWay givesWay)
+    : parts_(std::move(parts)), givesWay_(std::move(givesWay)) {
     givingBack_.setSingleShot(true);
     givingBack_.setInterval(keptAfterClosing);
     QObject::connect(&givingBack_, &QTimer::timeout, &givingBack_, [this] { giveBack(); });
@@ -26,15 +27,27 @@ LinuxPopover::~LinuxPopover() {
     giveBack();
 }
 
+bool LinuxPopover::load() {
+    if (library_) {
+        return true;
+    }
+    if (givesWay_()) {
+        return false;
+    }
+    auto loaded = loadQuickLibrary();
+    if (!loaded) {
+        writeToStandardError("quelby: " + loaded.error().sentence + '\n');
+        return false;
+    }
+    library_ = *std::move(loaded);
+    return true;
+}
+
 bool LinuxPopover::make() {
     if (window_) {
         return true;
     }
-    if (!library_) {
-        library_ = loadQuickLibrary();
-    }
-    if (!library_) {
-        writeToStandardError("quelby: the library with the dashboard is missing\n");
+    if (!load()) {
         return false;
     }
     shownTextScale_ = parts_.appearance().textScale;

@@ -17,7 +17,10 @@ namespace quelby::app {
 // shown, and given back some time after it was last closed; what has to be remembered meanwhile is here.
 class LinuxPopover final : public Popover {
 public:
-    explicit LinuxPopover(PopoverParts parts);
+    // Asked before anything is loaded: whether this program ends now, so that a newer one takes its place.
+    using GivesWay = std::function<bool()>;
+
+    LinuxPopover(PopoverParts parts, GivesWay givesWay);
     LinuxPopover(const LinuxPopover&) = delete;
     LinuxPopover& operator=(const LinuxPopover&) = delete;
     ~LinuxPopover() override;
@@ -38,14 +41,16 @@ public:
     void appearanceChanged();
 
 private:
-    // Whether there is a window now.
+    // Whether there is a window now, and whether there is what it is made with.
     [[nodiscard]] bool make();
+    [[nodiscard]] bool load();
 
     void leave();
     void giveBack();
     void goneElsewhere(std::optional<QPoint> pointer);
 
     PopoverParts parts_;
+    GivesWay givesWay_;
     PopoverForm form_ = PopoverForm::atTheItem;
     std::optional<WindowSystem> system_; // found out when it is first wanted
     ItemPress itemPress_;

@@ -4,6 +4,7 @@
 
 #include "app/linux/popover/popover_window.h"
 #include "app/linux/popover/quick_library.h"
+#include "base/version.h"
 #include "ui/view/dashboard_picture.h"
 #include "ui/view/dashboard_view.h"
 
@@ -30,6 +31,10 @@ public:
 } // namespace
 
 } // namespace quelby::app
+
+extern "C" Q_DECL_EXPORT const char* quelbyDashboardVersion() {
+    return quelby::version().data(); // of a literal, so that a zero follows
+}
 
 extern "C" Q_DECL_EXPORT quelby::app::QuickLibrary* quelbyMakeDashboard() {
     return new quelby::app::LoadedQuickLibrary; // owned by the caller

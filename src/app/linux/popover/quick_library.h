@@ -69,8 +69,8 @@ public:
     makeWindow(const PopoverParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
 };
 
-// From the file beside the program, which stays loaded then. Null where it is missing, as it is in a damaged
-// installation only.
-[[nodiscard]] std::unique_ptr<QuickLibrary> loadQuickLibrary();
+// From the file beside the program, which stays loaded then. Nothing of another version is used: the two have
+// their classes in common. The problem is that it is of another one, or missing.
+[[nodiscard]] Result<std::unique_ptr<QuickLibrary>> loadQuickLibrary();
 
 } // namespace quelby::app

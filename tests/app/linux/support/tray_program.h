@@ -22,7 +22,6 @@ protected:
     }
 
     [[nodiscard]] std::vector<std::string> words(const std::vector<std::string>& more = {}) const {
-        const std::string quelby = QUELBY_BINARY_DIR "/quelby";
         std::vector<std::string> all{quelby,
                                      "--replay",
                                      recording,
@@ -101,6 +100,7 @@ protected:
     }
 
     TemporaryFolder folder;
+    std::string quelby = QUELBY_BINARY_DIR "/quelby";
     std::string recording = folder.write("it.jsonl", laptopRecording(100)).string();
     PrivateBus bus;
     BusPeer peer;
