@@ -73,7 +73,7 @@ void EnergyRecorder::followBattery(const PublishedFields& fields, const BatteryM
 }
 
 void EnergyRecorder::addEnergy(const PublishedFields& fields, std::optional<std::string_view> listing) {
-    if (!std::isfinite(fields.totalPower) || !std::isfinite(fields.cpuPower)) {
+    if (!std::isfinite(fields.totalPower.get()) || !std::isfinite(fields.cpuPower.get())) {
         return;
     }
     auto& present = hourOf(clock_.now(), presentSession(fields) == SessionKind::discharge);
