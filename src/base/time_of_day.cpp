@@ -31,4 +31,10 @@ std::string hourAndMinute(double time) {
     return local ? fmt::format("{:02}:{:02}", local->tm_hour, local->tm_min) : "--:--";
 }
 
+std::string localDate(double time) {
+    const auto local = localTime(time);
+    return local ? fmt::format("{:04}-{:02}-{:02}", local->tm_year + 1900, local->tm_mon + 1, local->tm_mday)
+                 : "----------";
+}
+
 } // namespace quelby

@@ -12,4 +12,7 @@ namespace quelby {
 // As in "14:03". The time is in seconds since 1970-01-01 00:00 UTC.
 [[nodiscard]] std::string hourAndMinute(double time);
 
+// As in "2026-11-22". The time is in seconds since 1970-01-01 00:00 UTC.
+[[nodiscard]] std::string localDate(double time);
+
 } // namespace quelby

@@ -19,6 +19,14 @@ struct RunCommand {
 
     Result<void> operator()(const HistoryCommand& command) const { return runHistory(machine, command); }
 
+    Result<void> operator()(const EnergyCommand& command) const { return runEnergy(machine, command); }
+
+    Result<void> operator()(const SleepsCommand& command) const { return runSleeps(machine, command); }
+
+    Result<void> operator()(const SessionsCommand& command) const { return runSessions(machine, command); }
+
+    Result<void> operator()(const HealthCommand& command) const { return runHealth(machine, command); }
+
     Result<void> operator()(const TitleCommand& command) const { return runTitle(machine, command, pace); }
 
     Result<void> operator()(const MetricsCommand& command) const { return runMetrics(machine, command); }

@@ -30,6 +30,16 @@ std::string timeToEmpty(Int percent, double rate) {
     return rate < 0 && minutes > 0 ? hoursAndMinutes(minutes) + " remaining" : "very low";
 }
 
+Int changeOver(const std::deque<BatterySample>& samples) {
+    return difference(samples.back().percent, samples.front().percent);
+}
+
+// In % per hour.
+double rateOver(const std::deque<BatterySample>& samples) {
+    const double elapsed = samples.back().time - samples.front().time;
+    return static_cast<double>(changeOver(samples)) * 3600.0 / (elapsed > 1.0 ? elapsed : 1.0);
+}
+
 void showSystemEstimate(PublishedFields& fields) {
     const auto& estimate = fields.timeRemaining.get();
     fields.predictedTime = estimate == "--:--" ? "collecting data..." : fmt::format("~{} (system)", estimate);
@@ -55,9 +65,8 @@ void predictBattery(const BatteryRecord& record, PublishedFields& fields) {
         showSystemEstimate(fields);
         return;
     }
-    const auto change = difference(samples.back().percent, samples.front().percent);
-    const double elapsed = samples.back().time - samples.front().time;
-    const double rate = static_cast<double>(change) * 3600.0 / (elapsed > 1.0 ? elapsed : 1.0); // % per hour
+    const auto change = changeOver(samples);
+    const double rate = rateOver(samples);
     if (change == 0) {
         fields.predictedTime = "stable";
         fields.batteryRateStr = "0%/hr";
@@ -68,6 +77,16 @@ void predictBattery(const BatteryRecord& record, PublishedFields& fields) {
         fields.batteryRateStr = fmt::format("{:.1f}%/hr", rate);
         fields.predictedTime = timeToEmpty(fields.batteryPercent, rate);
     }
+}
+
+std::optional<double> minutesToLimit(const BatteryRecord& record, const PublishedFields& fields) {
+    const bool willStop = fields.chargeLimitEnabled && fields.daemonInstalled && fields.isCharging;
+    if (!willStop || record.batterySamples.size() < fewestSamples) {
+        return std::nullopt;
+    }
+    const double missing = fields.chargeLimitPercent - static_cast<double>(fields.batteryPercent.get());
+    const double rate = rateOver(record.batterySamples);
+    return rate > 0 && missing > 0 ? std::optional(missing * 60.0 / rate) : std::nullopt;
 }
 
 } // namespace quelby

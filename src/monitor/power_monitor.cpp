@@ -35,6 +35,9 @@ void PowerMonitor::stopMonitoring() {
     if (const auto timer = std::exchange(dataTimer_, nullptr)) {
         timer->invalidate();
     }
+    if (energyRecorder_) {
+        energyRecorder_->write(); // the program may be about to end
+    }
 }
 
 void PowerMonitor::restorePreferences() {
@@ -46,9 +49,15 @@ void PowerMonitor::restorePreferences() {
 }
 
 void PowerMonitor::openHistory() {
+    energyRecorder_.reset();
     historyStore_.reset(); // before its successor opens the same file
-    if (options_.history) {
-        historyStore_.emplace(platform_.folders->applicationSupport(), *platform_.clock, *options_.history);
+    if (!options_.history) {
+        return;
+    }
+    const auto folder = platform_.folders->applicationSupport();
+    historyStore_.emplace(folder, *platform_.clock, *options_.history);
+    if (options_.history == HistoryAccess::recording) {
+        energyRecorder_.emplace(folder, *platform_.clock);
     }
 }
 
@@ -123,11 +132,11 @@ void PowerMonitor::calculatePower() {
 }
 
 void PowerMonitor::readTopProcesses() {
-    const auto listing = platform_.processes->topListing();
-    if (!listing) {
+    topListing_ = platform_.processes->topListing();
+    if (!topListing_) {
         return;
     }
-    if (auto processes = quelby::topProcesses(*listing, cpuUsage, cpuPower)) {
+    if (auto processes = quelby::topProcesses(*topListing_, cpuUsage, cpuPower)) {
         topProcesses = std::move(*processes);
     }
 }
@@ -145,6 +154,19 @@ void PowerMonitor::recordReading() {
     if (historyStore_) {
         historyStore_->addReading(totalPower, batteryPercent, isCharging, cpuUsage);
     }
+    recordEnergy();
+}
+
+void PowerMonitor::recordEnergy() {
+    const auto processes = std::exchange(topListing_, std::nullopt);
+    if (energyRecorder_) {
+        const auto applications = platform_.processes->applicationListing();
+        energyRecorder_->addCycle(*this, applications ? applications : processes);
+    }
+}
+
+std::optional<double> PowerMonitor::minutesToLimit() const {
+    return quelby::minutesToLimit(batteryRecord_, *this);
 }
 
 } // namespace quelby

@@ -13,6 +13,7 @@
 #include "base/cycle_interval.h"
 #include "history/history_store.h"
 #include "monitor/battery_prediction.h"
+#include "monitor/energy_recorder.h"
 #include "monitor/published_fields.h"
 #include "platform/platform.h"
 
@@ -84,6 +85,9 @@ public:
     // Shows another range of the history, or the same one renewed.
     void selectHistoryRange(TimeRange range);
 
+    // Minutes until charging will stop at the limit; nothing where it will not, or cannot be said yet.
+    [[nodiscard]] std::optional<double> minutesToLimit() const;
+
     // Called at the end of every cycle.
     std::function<void()> onUpdate;
 
@@ -106,11 +110,14 @@ private:
     void sampleBattery();
     void predictBattery();
     void recordReading();
+    void recordEnergy();
 
     Platform platform_;
     MonitorOptions options_;
     std::shared_ptr<RepeatingTimer> dataTimer_;
     std::optional<HistoryStore> historyStore_;
+    std::optional<EnergyRecorder> energyRecorder_; // while the history is recorded
+    std::optional<std::string> topListing_;        // of the cycle under way
     BatteryRecord batteryRecord_;
     Subscription storeDisplay_; // keeps every choice of what the title shows
 };

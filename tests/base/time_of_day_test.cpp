@@ -31,6 +31,13 @@ TEST(TimeOfDay, IsThatOfASecondThatIsNotOver) {
     EXPECT_EQ(hourAndMinute(59.999), "00:00");
 }
 
+TEST(LocalDate, IsThatOfTheTimeZone) {
+    const TimeZone zone("EST5");
+    EXPECT_EQ(localDate(1'700'006'400), "2023-11-14"); // 2023-11-15 00:00 UTC
+    EXPECT_EQ(localDate(1'700'006'400 + 5 * 3600), "2023-11-15");
+    EXPECT_EQ(localDate(std::nan("")), "----------");
+}
+
 TEST(TimeOfDay, FollowsTheTimeZone) {
     {
         const TimeZone zone("EST5");

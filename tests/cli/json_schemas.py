@@ -21,6 +21,14 @@ COMMANDS = {
     "helper": ["helper", "status", "--json"],
 }
 
+RECORDED = {  # what has to be recorded first
+    "history": ["history"],
+    "energy": ["energy", "--by", "hour"],
+    "sleeps": ["sleeps"],
+    "sessions": ["sessions"],
+    "health": ["health"],
+}
+
 
 def validator(sources, name):
     schema = json.loads((sources / "docs/schema" / f"{name}.schema.json").read_text())
@@ -38,7 +46,7 @@ def main(program, sources):
 
     recordings = sorted((sources / "resources/recordings").glob("*.jsonl"))
     recordings.append(sources / "tests/data/charging-dashboard/charging.jsonl")
-    checks = {name: validator(sources, name) for name in [*COMMANDS, "history"]}
+    checks = {name: validator(sources, name) for name in [*COMMANDS, *RECORDED]}
     found = []
     for recording in recordings:
         for name, words in COMMANDS.items():
@@ -49,8 +57,11 @@ def main(program, sources):
             recorder = pathlib.Path(program).with_name("quelby")
             arguments = ["--replay", recording, "--data-dir", folder]
             subprocess.run([recorder, "--headless", "--fast", *arguments], check=True, capture_output=True)
-            text = output(["history", "--json"], *arguments)
-            found += complaints(checks["history"], text, f"history of {recording.name}")
+            by_app = output(["energy", "--json"], *arguments)
+            found += complaints(checks["energy"], by_app, f"energy of {recording.name} by application")
+            for name, words in RECORDED.items():
+                text = output([*words, "--json"], *arguments)
+                found += complaints(checks[name], text, f"{name} of {recording.name}")
 
     # That a validator finds something at all.
     status = json.loads(output(["status", "--json"], "--replay", recordings[0]))

@@ -131,5 +131,47 @@ TEST_F(BatteryPredictionTest, WritesTheRateFirstWhereThereIsOneAndThePredictionF
     EXPECT_THAT(between(55, 50), ElementsAre("batteryPercent", "batteryRateStr", "predictedTime"));
 }
 
+class MinutesToLimit : public testing::Test {
+protected:
+    MinutesToLimit() {
+        fields.chargeLimitEnabled = true;
+        fields.chargeLimitPercent = 80;
+        fields.daemonInstalled = true;
+        fields.isCharging = true;
+        fields.batteryPercent = 55;
+    }
+
+    PublishedFields fields;
+    BatteryRecord rising = recordOf({{start, 50}, {start + 300, 53}, {start + 600, 55}}); // 30 % an hour
+};
+
+TEST_F(MinutesToLimit, FollowTheSlopeOfThePrediction) {
+    EXPECT_EQ(minutesToLimit(rising, fields), 50.0); // 25 % at 30 % an hour
+    fields.batteryPercent = 79;
+    EXPECT_EQ(minutesToLimit(rising, fields), 2.0);
+    fields.batteryPercent = 80;
+    EXPECT_EQ(minutesToLimit(rising, fields), std::nullopt);
+}
+
+TEST_F(MinutesToLimit, AreNoneWhereChargingWillNotStopThere) {
+    fields.chargeLimitEnabled = false;
+    EXPECT_EQ(minutesToLimit(rising, fields), std::nullopt);
+    fields.chargeLimitEnabled = true;
+    fields.daemonInstalled = false;
+    EXPECT_EQ(minutesToLimit(rising, fields), std::nullopt);
+    fields.daemonInstalled = true;
+    fields.isCharging = false;
+    EXPECT_EQ(minutesToLimit(rising, fields), std::nullopt);
+}
+
+TEST_F(MinutesToLimit, AreNoneWhereTheRecordTellsNoRise) {
+    EXPECT_EQ(minutesToLimit({}, fields), std::nullopt);
+    EXPECT_EQ(minutesToLimit(recordOf({{start, 50}, {start + 300, 55}}), fields), std::nullopt);
+    EXPECT_EQ(minutesToLimit(recordOf({{start, 55}, {start + 1, 55}, {start + 600, 55}}), fields),
+              std::nullopt);
+    EXPECT_EQ(minutesToLimit(recordOf({{start, 60}, {start + 1, 55}, {start + 600, 55}}), fields),
+              std::nullopt);
+}
+
 } // namespace
 } // namespace quelby

@@ -52,6 +52,8 @@ for shell in bash zsh fish; do
     offers_all $shell quelbyctl '' -- status watch history metrics helper
     offers_all $shell quelbyctl hi -- history
     offers_no $shell quelbyctl hi -- watch
+    offers_all $shell quelbyctl energy --range '' -- today 24h 7d 30d since-unplugged
+    offers_all $shell quelbyctl energy --by '' -- app component hour day
     offers_all $shell quelbyctl history --range '' -- 30m 1h 24h 7d
     offers_all $shell quelbyctl --replay it title --format '' -- plain json waybar i3blocks polybar tmux
     offers_all $shell quelbyctl limit '' -- show on off

@@ -43,6 +43,10 @@ struct Reading {
     DashboardCommand dashboard;
     RecordCommand record;
     HistoryCommand history;
+    EnergyCommand energy;
+    SleepsCommand sleeps;
+    SessionsCommand sessions;
+    HealthCommand health;
     TitleCommand title;
     MetricsCommand metrics;
     LimitCommand limit;
@@ -60,6 +64,13 @@ struct Reading {
         addDashboard();
         addRecord();
         addHistory();
+        addEnergy();
+        addRecords("sleeps", "What the last thirty sleeps of this computer took out of its battery", sleeps);
+        addRecords("sessions", "The last thirty times on battery, of charging and of calibration, each",
+                   sessions);
+        addRecords("health",
+                   "The battery's capacity, cycles and highest temperature, day by day, and how it ages",
+                   health);
         addTitle();
         addMetrics();
         addSetting("limit", limitWords,
@@ -150,9 +161,40 @@ struct Reading {
                 "--range", [this](const std::string& text) { history.range = parseRange(text); },
                 fmt::format("How far back; {} unless named", rawValue(history.range)))
             ->type_name(rangeWords());
-        auto* const json = addForm(*command, "--json", OutputForm::json, history.form, "As one JSON object");
-        addForm(*command, "--csv", OutputForm::csv, history.form, "A line for each point")->excludes(json);
+        addForms(*command, history.form, "A line for each point");
         command->final_callback([this] { request.command = history; });
+    }
+
+    static void addForms(CLI::App& command, OutputForm& form, const char* linesHelp) {
+        auto* const json = addForm(command, "--json", OutputForm::json, form, "As one JSON object");
+        addForm(command, "--csv", OutputForm::csv, form, linesHelp)->excludes(json);
+    }
+
+    void addEnergy() {
+        auto* const command = app.add_subcommand(
+            "energy",
+            "Where the energy went, which is an estimate by the share of CPU time, in watt-hours and in "
+            "percent of a full charge");
+        command
+            ->add_option_function<std::string>(
+                "--range", [this](const std::string& text) { energy.range = parseEnergyRange(text); },
+                fmt::format("How far back; {} unless named", rawValue(energy.range)))
+            ->type_name(energyRangeWords());
+        command
+            ->add_option_function<std::string>(
+                "--by", [this](const std::string& text) { energy.by = parseEnergyGrouping(text); },
+                fmt::format("What is told apart; {} unless named", groupingWord(energy.by)))
+            ->type_name(energyGroupingWords());
+        addForms(*command, energy.form, "A line for each of them");
+        command->final_callback([this] { request.command = energy; });
+    }
+
+    // A command that tells all records of one kind.
+    template <typename T>
+    void addRecords(const char* name, const char* help, T& records) {
+        auto* const command = app.add_subcommand(name, help);
+        addForms(*command, records.form, "A line for each of them");
+        command->final_callback([this, &records] { request.command = records; });
     }
 
     void addTitle() {

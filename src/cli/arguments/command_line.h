@@ -10,6 +10,7 @@
 #include "base/cycle_interval.h"
 #include "cli/arguments/title_template.h"
 #include "console/machine_arguments.h"
+#include "history/energy/energy_range.h"
 #include "history/time_range.h"
 #include "monitor/menu_bar_display.h"
 
@@ -46,6 +47,26 @@ struct HistoryCommand {
     OutputForm form = OutputForm::text;
 };
 
+enum class EnergyGrouping { app, component, hour, day };
+
+struct EnergyCommand {
+    EnergyRange range = EnergyRange::today;
+    EnergyGrouping by = EnergyGrouping::app;
+    OutputForm form = OutputForm::text;
+};
+
+struct SleepsCommand {
+    OutputForm form = OutputForm::text;
+};
+
+struct SessionsCommand {
+    OutputForm form = OutputForm::text;
+};
+
+struct HealthCommand {
+    OutputForm form = OutputForm::text;
+};
+
 enum class TitleFormat { plain, json, waybar, i3blocks, polybar, tmux };
 
 struct TitleCommand {
@@ -78,7 +99,8 @@ struct HelperCommand {
 };
 
 using Command = std::variant<StatusCommand, WatchCommand, DashboardCommand, RecordCommand, HistoryCommand,
-                             TitleCommand, MetricsCommand, LimitCommand, CalibrationCommand, HelperCommand>;
+                             EnergyCommand, SleepsCommand, SessionsCommand, HealthCommand, TitleCommand,
+                             MetricsCommand, LimitCommand, CalibrationCommand, HelperCommand>;
 
 struct Request {
     MachineArguments arguments;

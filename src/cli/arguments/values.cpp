@@ -35,6 +35,19 @@ std::vector<std::string_view> titleFormatNames() {
     return names;
 }
 
+// In the order of the enumeration.
+constexpr std::array groupings{std::pair(std::string_view("app"), EnergyGrouping::app),
+                               std::pair(std::string_view("component"), EnergyGrouping::component),
+                               std::pair(std::string_view("hour"), EnergyGrouping::hour),
+                               std::pair(std::string_view("day"), EnergyGrouping::day)};
+
+std::vector<std::string_view> groupingNames() {
+    std::vector<std::string_view> names;
+    std::transform(groupings.begin(), groupings.end(), std::back_inserter(names),
+                   [](const auto& named) { return named.first; });
+    return names;
+}
+
 template <typename Cases>
 std::vector<std::string_view> rawValues(const Cases& cases) {
     std::vector<std::string_view> values;
@@ -67,6 +80,18 @@ std::string knownCalibrationIntervals() {
 
 std::string rangeWords() {
     return fmt::format("{}", fmt::join(rawValues(allTimeRanges), "|"));
+}
+
+std::string energyRangeWords() {
+    return fmt::format("{}", fmt::join(rawValues(allEnergyRanges), "|"));
+}
+
+std::string energyGroupingWords() {
+    return fmt::format("{}", fmt::join(groupingNames(), "|"));
+}
+
+std::string_view groupingWord(EnergyGrouping grouping) {
+    return groupings.at(static_cast<std::size_t>(grouping)).first;
 }
 
 std::string displayWords() {
@@ -105,6 +130,24 @@ TimeRange parseRange(const std::string& text) {
         throw CLI::ValidationError(fmt::format("--range takes {}, not \"{}\"", knownRanges(), text));
     }
     return *range;
+}
+
+EnergyRange parseEnergyRange(const std::string& text) {
+    const auto range = energyRange(text);
+    if (!range) {
+        throw CLI::ValidationError(
+            fmt::format("--range takes {}, not \"{}\"", oneOf(rawValues(allEnergyRanges)), text));
+    }
+    return *range;
+}
+
+EnergyGrouping parseEnergyGrouping(const std::string& text) {
+    for (const auto& [name, grouping] : groupings) {
+        if (text == name) {
+            return grouping;
+        }
+    }
+    throw CLI::ValidationError(fmt::format("--by takes {}, not \"{}\"", oneOf(groupingNames()), text));
 }
 
 MenuBarDisplay parseDisplay(const std::string& text) {

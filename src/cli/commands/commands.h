@@ -19,6 +19,12 @@ namespace quelby::cli {
 // The problem says why there is no history to show.
 [[nodiscard]] Result<void> runHistory(Machine& machine, const HistoryCommand& command);
 
+// Where the energy went. The problem says why there is no history to tell it.
+[[nodiscard]] Result<void> runEnergy(Machine& machine, const EnergyCommand& command);
+[[nodiscard]] Result<void> runSleeps(Machine& machine, const SleepsCommand& command);
+[[nodiscard]] Result<void> runSessions(Machine& machine, const SessionsCommand& command);
+[[nodiscard]] Result<void> runHealth(Machine& machine, const HealthCommand& command);
+
 // The settings that the dashboard's switches and sliders set. The problem is that they could not be handed to
 // the helper, because its folder cannot be written to.
 [[nodiscard]] Result<void> runLimit(Machine& machine, const LimitCommand& command);

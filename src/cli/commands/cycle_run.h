@@ -22,4 +22,11 @@ namespace quelby::cli {
     return run;
 }
 
+// Without a monitor. The present of a recording is its end.
+inline void playToTheEnd(const Machine& machine, const Platform& platform) {
+    while (machine.kind() == MachineKind::recorded && !machine.hasEnded()) {
+        static_cast<void>(platform.battery->readBattery());
+    }
+}
+
 } // namespace quelby::cli

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "cli/commands/cycle_run.h"
 #include "cli/output/history_output.h"
 #include "cli/terminal/device/terminal_screen.h"
 #include "console/standard_output.h"
@@ -21,13 +22,6 @@ std::string inForm(OutputForm form, const HistoryView& view) {
         return historyAsText(view, std::clamp(outputColumns(), 20, 120));
     }
     return {};
-}
-
-// The present of a recording is its end.
-void playToTheEnd(const Machine& machine, const Platform& platform) {
-    while (machine.kind() == MachineKind::recorded && !machine.hasEnded()) {
-        static_cast<void>(platform.battery->readBattery());
-    }
 }
 
 } // namespace

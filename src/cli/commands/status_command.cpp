@@ -10,7 +10,9 @@ namespace quelby::cli {
 Result<void> runStatus(Machine& machine, const StatusCommand& command) {
     const auto print = [&](const PowerMonitor& monitor) {
         const bool json = command.form == OutputForm::json;
-        return writeToStandardOutput(json ? fieldsAsJson(monitor) + '\n' : fieldsAsText(monitor));
+        const auto minutes = monitor.minutesToLimit();
+        return writeToStandardOutput(json ? statusAsJson(monitor, minutes) + '\n'
+                                          : statusAsText(monitor, minutes));
     };
     return runCycles(machine, machine.platform(), untilTheEnd(machine, print));
 }

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/arithmetic.h"
+
 namespace quelby::cli {
 
 namespace {
@@ -42,15 +44,31 @@ Json asJson(const std::vector<T>& list) {
     return array;
 }
 
-} // namespace
-
-std::string fieldsAsJson(const PublishedFields& fields) {
+Json fieldsObject(const PublishedFields& fields) {
     Json object = Json::object();
     forEachField(fields, [&](FieldName field, const auto& published) {
         // Nothing is looked up: the names are distinct.
         object.push_back({std::string(field.name), asJson(published.get())});
     });
+    return object;
+}
+
+std::string written(const Json& object) {
     return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+} // namespace
+
+std::string fieldsAsJson(const PublishedFields& fields) {
+    return written(fieldsObject(fields));
+}
+
+std::string statusAsJson(const PublishedFields& fields, std::optional<double> minutesToLimit) {
+    auto object = fieldsObject(fields);
+    if (minutesToLimit) {
+        object.push_back({"minutesToLimit", truncated(*minutesToLimit)});
+    }
+    return written(object);
 }
 
 } // namespace quelby::cli

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include "base/arithmetic.h"
 #include "base/utf8.h"
 
 namespace quelby::cli {
@@ -70,6 +71,14 @@ std::string fieldsAsText(const PublishedFields& fields) {
     forEachField(fields, [&](FieldName field, const auto& published) {
         text += fmt::format("{:<23} {}\n", field.name, withUnit(published.get(), field.unit));
     });
+    return text;
+}
+
+std::string statusAsText(const PublishedFields& fields, std::optional<double> minutesToLimit) {
+    auto text = fieldsAsText(fields);
+    if (minutesToLimit) {
+        text += fmt::format("{:<23} {} min\n", "minutesToLimit", truncated(*minutesToLimit));
+    }
     return text;
 }
 

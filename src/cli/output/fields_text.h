@@ -10,4 +10,7 @@ namespace quelby::cli {
 // lines of their own.
 [[nodiscard]] std::string fieldsAsText(const PublishedFields& fields);
 
+// The same, and a line with what is no field: the minutes to the limit, where there are any.
+[[nodiscard]] std::string statusAsText(const PublishedFields& fields, std::optional<double> minutesToLimit);
+
 } // namespace quelby::cli

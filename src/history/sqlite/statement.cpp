@@ -26,6 +26,19 @@ void Statement::bind(int parameter, double value) {
     }
 }
 
+void Statement::bind(int parameter, std::string_view text) {
+    if (statement_) {
+        sqlite3_bind_text(statement_.get(), parameter, text.data(), static_cast<int>(text.size()),
+                          SQLITE_TRANSIENT); // NOLINT: the constant is SQLite's own cast
+    }
+}
+
+void Statement::reset() {
+    if (statement_) {
+        sqlite3_reset(statement_.get());
+    }
+}
+
 bool Statement::step() {
     if (statement_) {
         outcome_ = sqlite3_step(statement_.get());
@@ -39,6 +52,16 @@ std::int64_t Statement::integer(int column) const {
 
 double Statement::number(int column) const {
     return sqlite3_column_double(statement_.get(), column);
+}
+
+std::string Statement::text(int column) const {
+    const auto* const text = sqlite3_column_text(statement_.get(), column);
+    const auto length = sqlite3_column_bytes(statement_.get(), column);
+    return text == nullptr ? std::string() : std::string(text, text + length);
+}
+
+bool Statement::isNull(int column) const {
+    return sqlite3_column_type(statement_.get(), column) == SQLITE_NULL;
 }
 
 } // namespace quelby

@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include <sqlite3.h>
 
@@ -18,6 +20,18 @@ public:
     void bind(int parameter, std::int64_t value);
     void bind(int parameter, std::int32_t value);
     void bind(int parameter, double value);
+    void bind(int parameter, std::string_view text);
+
+    // NULL, where there is no value.
+    template <typename T>
+    void bind(int parameter, const std::optional<T>& value) {
+        if (value) {
+            bind(parameter, *value);
+        }
+    }
+
+    // What is bound stays, and the next step() is the first one again.
+    void reset();
 
     // True while there is a row to be read.
     [[nodiscard]] bool step();
@@ -25,9 +39,11 @@ public:
     // SQLite's code of what happened last: SQLITE_OK, SQLITE_ROW, SQLITE_DONE, or what went wrong.
     [[nodiscard]] int outcome() const { return outcome_; }
 
-    // Of the present row; columns count from 0. NULL reads as 0.
+    // Of the present row; columns count from 0. NULL reads as 0, and as an empty text.
     [[nodiscard]] std::int64_t integer(int column) const;
     [[nodiscard]] double number(int column) const;
+    [[nodiscard]] std::string text(int column) const;
+    [[nodiscard]] bool isNull(int column) const;
 
 private:
     struct Finalize {

@@ -2,6 +2,7 @@
 
 #include <chrono>
 
+#include "platform/boot_clock.h"
 #include "platform/local_day.h"
 
 namespace quelby {
@@ -13,6 +14,10 @@ Date SystemClock::now() {
 
 Date SystemClock::startOfDay() {
     return startOfLocalDay(now());
+}
+
+std::optional<TimeSinceBoot> SystemClock::sinceBoot() {
+    return timeSinceBoot();
 }
 
 } // namespace quelby

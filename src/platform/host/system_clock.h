@@ -8,6 +8,7 @@ class SystemClock final : public Clock {
 public:
     [[nodiscard]] Date now() override;
     [[nodiscard]] Date startOfDay() override;
+    [[nodiscard]] std::optional<TimeSinceBoot> sinceBoot() override;
 };
 
 } // namespace quelby

@@ -11,7 +11,7 @@ namespace quelby {
 
 SystemReaders makeSystemReaders(const SystemRoots& roots) {
     return {std::make_unique<SysfsBatterySource>(roots.sysfs),
-            std::make_unique<ProcProcessLister>(roots.proc)};
+            std::make_unique<ProcProcessLister>(roots.proc, systemScanTime, desktopEntryFolders())};
 }
 
 std::unique_ptr<Folders> makeSystemFolders() {

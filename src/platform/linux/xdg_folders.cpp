@@ -1,6 +1,8 @@
 #include "platform/linux/xdg_folders.h"
 
+#include <algorithm>
 #include <cstdlib>
+#include <string_view>
 
 #include <pwd.h>
 #include <unistd.h>
@@ -53,6 +55,20 @@ std::optional<std::filesystem::path> XdgFolders::resources() {
     const auto folder = program_.parent_path().parent_path() / "libexec" / "quelby";
     std::error_code failure;
     return std::filesystem::is_directory(folder, failure) ? std::optional(folder) : std::nullopt;
+}
+
+std::vector<std::filesystem::path> desktopEntryFolders() {
+    std::vector<std::filesystem::path> folders{userFolder("XDG_DATA_HOME", ".local/share") / "applications"};
+    const char* const named = std::getenv("XDG_DATA_DIRS");
+    std::string_view rest = named == nullptr || *named == '\0' ? "/usr/local/share:/usr/share" : named;
+    while (!rest.empty()) {
+        const auto end = std::min(rest.find(':'), rest.size());
+        if (const std::filesystem::path folder = rest.substr(0, end); folder.is_absolute()) {
+            folders.push_back(folder / "applications");
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return folders;
 }
 
 } // namespace quelby

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "platform/folders.h"
 
 namespace quelby {
@@ -26,5 +28,9 @@ public:
 private:
     std::filesystem::path program_;
 };
+
+// Where the desktop entries of applications lie, the user's own first: "applications" in the folder for data and in each of
+// $XDG_DATA_DIRS, or else /usr/local/share and /usr/share.
+[[nodiscard]] std::vector<std::filesystem::path> desktopEntryFolders();
 
 } // namespace quelby

@@ -5,8 +5,10 @@
 namespace quelby {
 
 RecordedCycle MachineRecorder::takeCycle() {
-    // Asked for here, because a cycle whose lister fails does not ask.
+    // Asked for here, because a cycle whose lister fails does not ask, nor one that keeps no history.
     cycle_.processors = real_.processes->logicalProcessors();
+    cycle_.applicationListing = real_.processes->applicationListing();
+    cycle_.sinceBoot = real_.clock->sinceBoot();
     cycle_.helperLoaded = helperLoaded_;
     cycle_.config = config_;
     return std::exchange(cycle_, {});
@@ -22,6 +24,14 @@ std::optional<std::string> MachineRecorder::cpuListing() {
 
 std::optional<std::string> MachineRecorder::topListing() {
     return cycle_.topListing = real_.processes->topListing();
+}
+
+std::optional<std::string> MachineRecorder::applicationListing() {
+    return real_.processes->applicationListing();
+}
+
+std::optional<TimeSinceBoot> MachineRecorder::sinceBoot() {
+    return real_.clock->sinceBoot();
 }
 
 std::int64_t MachineRecorder::logicalProcessors() {

@@ -38,6 +38,8 @@ private:
     std::int64_t logicalProcessors() override;
     Date now() override;
     Date startOfDay() override;
+    std::optional<std::string> applicationListing() override;
+    std::optional<TimeSinceBoot> sinceBoot() override;
     std::optional<std::string> config() override;
     std::optional<std::string> status() override;
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "platform/battery_source.h"
+#include "platform/clock.h"
 
 namespace quelby {
 
@@ -15,6 +16,8 @@ struct RecordedCycle {
     std::int64_t processors = 1;           // logical ones
     std::optional<std::string> cpuListing; // none: the lister could not be started
     std::optional<std::string> topListing;
+    std::optional<std::string> applicationListing;
+    std::optional<TimeSinceBoot> sinceBoot;
     std::optional<int> storageDraw;    // 0 or 1; none: nothing was drawn
     std::optional<std::string> status; // text of the helper's status.json; none: no such file
     bool helperLoaded = false;

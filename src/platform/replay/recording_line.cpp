@@ -96,6 +96,16 @@ bool readTime(const Json& value, double& time) {
     return value.is_number() && std::isfinite(time);
 }
 
+bool readTimeSinceBoot(const Json& value, std::optional<TimeSinceBoot>& sinceBoot) {
+    TimeSinceBoot time;
+    const bool whole = value.is_object() && value.contains("awake") && value.contains("asleep") &&
+                       readTime(value["awake"], time.awake) && readTime(value["asleep"], time.asleep);
+    if (whole) {
+        sinceBoot = time;
+    }
+    return whole;
+}
+
 bool readProcessors(const Json& value, std::int64_t& processors) {
     processors = integer(value).value_or(0);
     return processors >= 1;
@@ -154,6 +164,10 @@ Result<RecordedCycle> parseRecordingLine(std::string_view line) {
                     [&](const Json& value) { return readListing(value, cycle.cpuListing); });
     reader.required("topListing", "a text or null",
                     [&](const Json& value) { return readListing(value, cycle.topListing); });
+    reader.optional("applicationListing", "a text",
+                    [&](const Json& value) { return readListing(value, cycle.applicationListing); });
+    reader.optional("sinceBoot", "two numbers of seconds",
+                    [&](const Json& value) { return readTimeSinceBoot(value, cycle.sinceBoot); });
     reader.optional("storageDraw", "0 or 1",
                     [&](const Json& value) { return readDraw(value, cycle.storageDraw); });
     reader.optional("status", "a text", [&](const Json& value) { return readListing(value, cycle.status); });
@@ -173,6 +187,12 @@ std::string recordingLine(const RecordedCycle& cycle) {
     object["processors"] = cycle.processors;
     object["cpuListing"] = textAsJson(cycle.cpuListing);
     object["topListing"] = textAsJson(cycle.topListing);
+    if (cycle.applicationListing) {
+        object["applicationListing"] = *cycle.applicationListing;
+    }
+    if (cycle.sinceBoot) {
+        object["sinceBoot"] = {{"awake", cycle.sinceBoot->awake}, {"asleep", cycle.sinceBoot->asleep}};
+    }
     if (cycle.storageDraw) {
         object["storageDraw"] = *cycle.storageDraw;
     }

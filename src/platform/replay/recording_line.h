@@ -5,6 +5,9 @@
 //   processors    number of logical processors
 //   cpuListing    text, or null (the lister could not be started)
 //   topListing    text, or null (the lister could not be started)
+//   applicationListing
+//                 optional: text
+//   sinceBoot     optional: {"awake": seconds, "asleep": seconds}
 //   storageDraw   optional: 0 or 1
 //   status        optional: text of the helper's status.json
 //   helperLoaded  optional: Boolean

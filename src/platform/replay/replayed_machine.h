@@ -36,11 +36,17 @@ public:
 
     [[nodiscard]] std::optional<std::string> topListing() override { return present_.topListing; }
 
+    [[nodiscard]] std::optional<std::string> applicationListing() override {
+        return present_.applicationListing;
+    }
+
     [[nodiscard]] std::int64_t logicalProcessors() override { return present_.processors; }
 
     [[nodiscard]] Date now() override { return present_.time + clockAdvance_; }
 
     [[nodiscard]] Date startOfDay() override;
+
+    [[nodiscard]] std::optional<TimeSinceBoot> sinceBoot() override { return present_.sinceBoot; }
 
     // The text of the helper's status.json, where there was one.
     [[nodiscard]] const std::optional<std::string>& helperStatus() const { return present_.status; }

@@ -49,6 +49,20 @@ TEST(CommandLine, TakesTheOptionsOfEachCommand) {
     EXPECT_EQ(record.repetition.count, 2);
 }
 
+TEST(CommandLine, TakesRangeAndGroupingOfTheEnergy) {
+    const auto usual = std::get<EnergyCommand>(request({"energy"}).command);
+    EXPECT_EQ(usual.range, EnergyRange::today);
+    EXPECT_EQ(usual.by, EnergyGrouping::app);
+    const auto energy = std::get<EnergyCommand>(
+        request({"energy", "--range", "since-unplugged", "--by", "day", "--csv"}).command);
+    EXPECT_EQ(energy.range, EnergyRange::sinceUnplugged);
+    EXPECT_EQ(energy.by, EnergyGrouping::day);
+    EXPECT_EQ(energy.form, OutputForm::csv);
+    EXPECT_EQ(std::get<SleepsCommand>(request({"sleeps", "--json"}).command).form, OutputForm::json);
+    EXPECT_EQ(std::get<SessionsCommand>(request({"sessions"}).command).form, OutputForm::text);
+    EXPECT_EQ(std::get<HealthCommand>(request({"health", "--csv"}).command).form, OutputForm::csv);
+}
+
 TEST(CommandLine, TakesTheCommonOptionsBeforeAndBehindTheCommand) {
     for (const auto& words :
          {std::vector{"--replay", "r", "--fast", "--sysfs-root", "s", "--proc-root", "p", "--preferences",

@@ -45,6 +45,43 @@ TEST(MachineRecorder, NotesTheHelpersSettingsWithEveryCycle) {
     EXPECT_EQ(recorder.takeCycle().config, R"({"another": 1})");
 }
 
+struct ApplicationsOfADesktop final : ProcessLister {
+    std::optional<std::string> cpuListing() override { return "%CPU\n5.0\n"; }
+
+    std::optional<std::string> topListing() override { return "%CPU COMM\n5.0 browser-bin\n"; }
+
+    std::optional<std::string> applicationListing() override { return "%CPU APPLICATION\n5.00 Browser\n"; }
+
+    std::int64_t logicalProcessors() override { return 1; }
+};
+
+struct ClockSinceBoot final : Clock {
+    Date now() override { return 1'700'000'000; }
+
+    Date startOfDay() override { return now(); }
+
+    std::optional<TimeSinceBoot> sinceBoot() override { return TimeSinceBoot{.awake = 100.5, .asleep = 7}; }
+};
+
+TEST(MachineRecorder, NotesTheApplicationsAndTheClockSinceBootOfEachCycleAndPlaysThem) {
+    fake::Computer computer;
+    ApplicationsOfADesktop processes;
+    ClockSinceBoot clock;
+    auto platform = computer.platform();
+    platform.processes = processes;
+    platform.clock = clock;
+    MachineRecorder recorder(platform);
+    const auto monitor = PowerMonitor::create(recorder.platform());
+    monitor->startMonitoring();
+    const TemporaryFolder folder;
+    const auto file = folder.write("it.jsonl", recordingLine(recorder.takeCycle()));
+    auto machine = ReplayedMachine::open(file);
+    ASSERT_TRUE(machine);
+    static_cast<void>(machine->readBattery());
+    EXPECT_EQ(machine->applicationListing(), "%CPU APPLICATION\n5.00 Browser\n");
+    EXPECT_EQ(machine->sinceBoot(), (TimeSinceBoot{.awake = 100.5, .asleep = 7}));
+}
+
 TEST(MachineRecorder, NotesNoDrawWhereNothingWasDrawn) {
     fake::Computer computer;
     computer.battery.reading = PropertyTable{{"InstantAmperage", -1000}, {"Voltage", 12000}};

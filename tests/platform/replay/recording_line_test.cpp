@@ -78,7 +78,8 @@ TEST(RecordingLine, CountsPropertiesOfOtherTypesAsAbsent) {
 
 TEST(RecordingLine, PassesOverUnknownKeysAndOptionalNulls) {
     EXPECT_TRUE(parseRecordingLine(smallestWith("fromTheFuture", "[]")));
-    for (const auto* key : {"storageDraw", "status", "helperLoaded", "config"}) {
+    for (const auto* key :
+         {"storageDraw", "status", "helperLoaded", "config", "applicationListing", "sinceBoot"}) {
         EXPECT_EQ(refusal(smallestWith(key, "null")), "accepted") << key;
     }
 }
@@ -99,13 +100,32 @@ TEST(RecordingLine, IsRefusedWithoutARequiredKey) {
 }
 
 TEST(RecordingLine, IsRefusedWithAKeyOfAnotherKind) {
-    const std::pair<const char*, const char*> wrong[] = {
-        {"time", "\"now\""},     {"time", "null"},      {"time", "1e999"},       {"battery", "1"},
-        {"battery", "\"flat\""}, {"battery", "[]"},     {"battery", "true"},     {"processors", "0"},
-        {"processors", "-1"},    {"processors", "1.5"}, {"processors", "\"2\""}, {"cpuListing", "1"},
-        {"topListing", "[]"},    {"storageDraw", "2"},  {"storageDraw", "-1"},   {"storageDraw", "true"},
-        {"storageDraw", "0.5"},  {"status", "{}"},      {"helperLoaded", "1"},   {"helperLoaded", "\"true\""},
-        {"config", "{}"},        {"config", "true"}};
+    const std::pair<const char*, const char*> wrong[] = {{"time", "\"now\""},
+                                                         {"time", "null"},
+                                                         {"time", "1e999"},
+                                                         {"battery", "1"},
+                                                         {"battery", "\"flat\""},
+                                                         {"battery", "[]"},
+                                                         {"battery", "true"},
+                                                         {"processors", "0"},
+                                                         {"processors", "-1"},
+                                                         {"processors", "1.5"},
+                                                         {"processors", "\"2\""},
+                                                         {"cpuListing", "1"},
+                                                         {"topListing", "[]"},
+                                                         {"storageDraw", "2"},
+                                                         {"storageDraw", "-1"},
+                                                         {"storageDraw", "true"},
+                                                         {"storageDraw", "0.5"},
+                                                         {"status", "{}"},
+                                                         {"helperLoaded", "1"},
+                                                         {"helperLoaded", "\"true\""},
+                                                         {"config", "{}"},
+                                                         {"config", "true"},
+                                                         {"applicationListing", "1"},
+                                                         {"sinceBoot", "1"},
+                                                         {"sinceBoot", R"({"awake": 1})"},
+                                                         {"sinceBoot", R"({"awake": 1, "asleep": "2"})"}};
     for (const auto& [key, value] : wrong) {
         EXPECT_NE(refusal(smallestWith(key, value)), "accepted") << key << ' ' << value;
     }
@@ -126,6 +146,9 @@ TEST(RecordingLine, IsWrittenAsItIsRead) {
          .battery = UnreadableBattery{},
          .processors = 128,
          .topListing = "%CPU COMM\n0.1 \"ü\\\n"},
+        {.time = 3,
+         .applicationListing = "%CPU APPLICATION\n1.00 Maps\n",
+         .sinceBoot = TimeSinceBoot{.awake = 0.5, .asleep = 123456.75}},
         {.time = -1,
          .battery = PropertyTable{{"Voltage", 12000}, {"IsCharging", false}},
          .processors = 4,

@@ -16,8 +16,10 @@ CpuScale thisComputersScale() {
 
 } // namespace
 
-ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::function<ScanTime()> scanTime)
-    : scale_(thisComputersScale()), scanner_(std::move(procRoot), scale_, std::move(scanTime)) {}
+ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::function<ScanTime()> scanTime,
+                                     std::vector<std::filesystem::path> entryFolders)
+    : scale_(thisComputersScale())
+    , scanner_(std::move(procRoot), scale_, std::move(scanTime), std::move(entryFolders)) {}
 
 std::optional<std::string> ProcProcessLister::cpuListing() {
     hasScan_ = scanner_.scan();
@@ -27,6 +29,14 @@ std::optional<std::string> ProcProcessLister::cpuListing() {
 std::optional<std::string> ProcProcessLister::topListing() {
     hasScan_ = hasScan_ || scanner_.scan();
     return hasScan_ ? std::optional(topListingText(scanner_.processes())) : std::nullopt;
+}
+
+std::optional<std::string> ProcProcessLister::applicationListing() {
+    if (!hasScan_) {
+        return std::nullopt;
+    }
+    scanner_.findApplications();
+    return applicationListingText(scanner_.processes());
 }
 
 std::int64_t ProcProcessLister::logicalProcessors() {

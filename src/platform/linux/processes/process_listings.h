@@ -1,4 +1,4 @@
-// The two listings of ProcessLister, in ps's manner. Shares have two decimals: a tick of ten milliseconds is
+// The listings of ProcessLister, in ps's manner. Shares have two decimals: a tick of ten milliseconds is
 // a third of a percent of three seconds, and one decimal would swallow most of what idle programs use.
 #pragma once
 
@@ -13,5 +13,8 @@ namespace quelby {
 
 // Equal shares, as they are printed, keep the order of the processes.
 [[nodiscard]] std::string topListingText(std::span<const Process> processes);
+
+// The processes of one application together, and only who has used anything.
+[[nodiscard]] std::string applicationListingText(std::span<const Process> processes);
 
 } // namespace quelby

@@ -8,8 +8,13 @@
 namespace quelby {
 
 ProcessScanner::ProcessScanner(std::filesystem::path procRoot, CpuScale scale,
-                               std::function<ScanTime()> scanTime)
-    : directory_(std::move(procRoot)), stats_(directory_), scale_(scale), scanTime_(std::move(scanTime)) {}
+                               std::function<ScanTime()> scanTime,
+                               std::vector<std::filesystem::path> entryFolders)
+    : directory_(std::move(procRoot))
+    , stats_(directory_)
+    , applications_(std::move(entryFolders))
+    , scale_(scale)
+    , scanTime_(std::move(scanTime)) {}
 
 bool ProcessScanner::scan() {
     if (!directory_.listPids(pids_)) {
@@ -26,6 +31,14 @@ bool ProcessScanner::scan() {
         return alive;
     });
     return true;
+}
+
+void ProcessScanner::findApplications() {
+    for (auto& process : table_.processes()) {
+        if (process.share.percent() > 0) {
+            applications_.look(process, directory_);
+        }
+    }
 }
 
 ScanTime ProcessScanner::timeOfLook() {
@@ -61,6 +74,7 @@ bool ProcessScanner::readAgain(Process& process) {
     if (!sameName || process.name.empty()) {
         process.escapedComm = stat->escapedComm;
         process.name = processName(process.pid, process.escapedComm, directory_);
+        process.looksForApplication = 0; // it has become another program
     }
     return true;
 }

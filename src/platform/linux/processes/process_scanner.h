@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "platform/linux/processes/application_names.h"
 #include "platform/linux/processes/cpu_share.h"
 #include "platform/linux/processes/proc_directory.h"
 #include "platform/linux/processes/process_table.h"
@@ -15,7 +16,8 @@ namespace quelby {
 // Takes scans at all processes of a /proc.
 class ProcessScanner {
 public:
-    ProcessScanner(std::filesystem::path procRoot, CpuScale scale, std::function<ScanTime()> scanTime);
+    ProcessScanner(std::filesystem::path procRoot, CpuScale scale, std::function<ScanTime()> scanTime,
+                   std::vector<std::filesystem::path> entryFolders = {});
 
     ProcessScanner(const ProcessScanner&) = delete;
     ProcessScanner& operator=(const ProcessScanner&) = delete;
@@ -29,6 +31,9 @@ public:
     // What the last scan has seen, in ascending order of pid.
     [[nodiscard]] std::span<const Process> processes() const { return table_.processes(); }
 
+    // Finds out which applications those processes belong to that have used CPU time.
+    void findApplications();
+
 private:
     [[nodiscard]] ScanTime timeOfLook();
     [[nodiscard]] bool refresh(Process& process, bool clocksTell);
@@ -36,6 +41,7 @@ private:
 
     ProcDirectory directory_;
     StatReader stats_;
+    ApplicationNames applications_;
     CpuScale scale_;
     std::function<ScanTime()> scanTime_;
     std::vector<pid_t> pids_;

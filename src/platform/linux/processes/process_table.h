@@ -25,6 +25,9 @@ struct Process {
     CpuShare share;
     std::string escapedComm; // that the name was made from
     std::string name;        // for a listing
+    std::string
+        application; // that it belongs to, as people call it; empty where there is none or nobody has looked
+    int looksForApplication = 0;
 };
 
 // In ascending order of pid, and never more than the last scan has seen.
@@ -48,6 +51,8 @@ public:
     void clear() { processes_.clear(); }
 
     [[nodiscard]] std::span<const Process> processes() const { return processes_; }
+
+    [[nodiscard]] std::span<Process> processes() { return processes_; }
 
 private:
     static void keepAt(Process& place, Process& process) {

@@ -1,0 +1,140 @@
+#include "monitor/energy_recorder.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "base/arithmetic.h"
+#include "base/cycle_interval.h"
+#include "monitor/energy_split.h"
+
+namespace quelby {
+
+namespace {
+
+constexpr double writeInterval = 60; // seconds
+constexpr double hour = 3600;
+constexpr double day = 86400;
+constexpr double hoursOfACycle = std::chrono::duration<double, std::ratio<3600>>(cycleInterval).count();
+constexpr Int largestPercentage = 100; // a full charge of no more is one, and no capacity
+
+// Of what could not be written, so that a full disk does not fill the memory.
+constexpr std::size_t mostHours = 4;
+constexpr std::size_t mostRecords = 30;
+
+template <typename T>
+void keepLast(std::vector<T>& list, std::size_t count) {
+    if (list.size() > count) {
+        list.erase(list.begin(), list.end() - static_cast<std::ptrdiff_t>(count));
+    }
+}
+
+} // namespace
+
+EnergyRecorder::EnergyRecorder(const std::filesystem::path& applicationSupport, Clock& clock)
+    : clock_(clock), writer_(applicationSupport), sessions_(writer_.lastSession()) {}
+
+EnergyRecorder::~EnergyRecorder() {
+    write();
+}
+
+void EnergyRecorder::addCycle(const PublishedFields& fields, std::optional<std::string_view> listing) {
+    const auto moment = batteryMoment(fields, clock_);
+    if (before_ && truncated(before_->time) == truncated(moment.time)) {
+        return;
+    }
+    followBattery(fields, moment);
+    addEnergy(fields, listing);
+    noticeDay(fields);
+    before_ = moment;
+    if (std::abs(moment.time - lastWrite_) >= writeInterval) {
+        write();
+    }
+}
+
+void EnergyRecorder::followBattery(const PublishedFields& fields, const BatteryMoment& moment) {
+    const auto sleep = before_ ? sleepBetween(*before_, moment) : std::nullopt;
+    const bool unplugged = sessions_.follow({.kind = presentSession(fields),
+                                             .calibrating = fields.calibrationActive,
+                                             .now = moment.time,
+                                             .secondsSince = before_ ? secondsBetween(*before_, moment) : 0,
+                                             .percent = fields.batteryPercent,
+                                             .wattHours = fields.realWatts * hoursOfACycle,
+                                             .wattHoursAsleep = sleep ? sleep->wattHours.value_or(0) : 0});
+    if (sleep) {
+        batch_.sleeps.push_back(*sleep);
+    }
+    if (unplugged) {
+        batch_.unpluggedAnew = true;
+        for (auto& part : batch_.hours) {
+            part.sinceUnplugged = false;
+        }
+    }
+}
+
+void EnergyRecorder::addEnergy(const PublishedFields& fields, std::optional<std::string_view> listing) {
+    if (!std::isfinite(fields.totalPower.get()) || !std::isfinite(fields.cpuPower.get())) {
+        return;
+    }
+    auto& present = hourOf(clock_.now(), presentSession(fields) == SessionKind::discharge);
+    addByApp(present.apps, listing, fields, hoursOfACycle);
+    addByComponent(present.components, fields, hoursOfACycle);
+}
+
+// Hours are counted from the start of the local day, so that a day is made of whole ones in every time zone.
+HourOfEnergy& EnergyRecorder::hourOf(Date now, bool sinceUnplugged) {
+    const auto dayStart = clock_.startOfDay();
+    const auto start = truncated(dayStart + std::floor((now - dayStart) / hour) * hour);
+    const auto known =
+        std::find_if(batch_.hours.rbegin(), batch_.hours.rend(), [&](const HourOfEnergy& part) {
+            return part.hour == start && part.sinceUnplugged == sinceUnplugged;
+        });
+    if (known != batch_.hours.rend()) {
+        return *known;
+    }
+    batch_.hours.push_back({.hour = start, .sinceUnplugged = sinceUnplugged});
+    return batch_.hours.back();
+}
+
+void EnergyRecorder::noticeDay(const PublishedFields& fields) {
+    if (!fields.hasBattery || fields.rawMaxCapacity <= largestPercentage) {
+        return;
+    }
+    const auto start = truncated(std::floor(clock_.now() / day) * day);
+    const double temperature = fields.batteryTemp;
+    BatteryDay today{.day = start, .fullCapacity = fields.rawMaxCapacity, .cycleCount = fields.cycleCount};
+    if (fields.designCapacity > 0) {
+        today.designCapacity = fields.designCapacity;
+    }
+    const auto& known = batch_.day ? batch_.day : keptDay_;
+    if (known && known->day == start) {
+        today.maxTemperature = known->maxTemperature;
+    }
+    if (temperature != 0) { // which stands for a battery that tells none
+        today.maxTemperature = std::max(today.maxTemperature.value_or(temperature), temperature);
+    }
+    if (today != known) {
+        batch_.day = today;
+    }
+}
+
+void EnergyRecorder::write() {
+    const auto now = clock_.now();
+    lastWrite_ = now;
+    auto changed = sessions_.takeChanged();
+    batch_.sessions.insert(batch_.sessions.end(), changed.begin(), changed.end());
+    if (!writer_.isOpen() || writer_.write(batch_, now)) {
+        keptDay_ = batch_.day ? batch_.day : keptDay_;
+        batch_ = {};
+    } else {
+        forgetOldest();
+    }
+}
+
+void EnergyRecorder::forgetOldest() {
+    keepLast(batch_.hours, mostHours);
+    keepLast(batch_.sleeps, mostRecords);
+    keepLast(batch_.sessions, mostRecords);
+}
+
+} // namespace quelby

@@ -1,0 +1,5 @@
+#pragma once
+
+#include_next <time.h>
+
+#define CLOCK_UPTIME_RAW 8
