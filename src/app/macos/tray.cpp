@@ -38,7 +38,9 @@ void runApplication(const Platform& platform, const MonitorOptions& options) {
 }
 
 Result<void> run(const MachineArguments& arguments) {
-    const auto machine = Machine::make(arguments.machine);
+    auto options = arguments.machine;
+    options.program = ProgramKind::application;
+    const auto machine = Machine::make(options);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }

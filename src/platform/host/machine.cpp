@@ -1,5 +1,6 @@
 #include "platform/host/machine.h"
 
+#include <functional>
 #include <map>
 #include <random>
 
@@ -59,7 +60,7 @@ std::unique_ptr<Preferences> makeMemoryPreferences() {
 
 // In the file, where one is named.
 std::unique_ptr<Preferences> preferencesIn(const std::optional<std::filesystem::path>& file,
-                                           std::unique_ptr<Preferences> (*makeOthers)()) {
+                                           const std::function<std::unique_ptr<Preferences>()>& makeOthers) {
     return file ? std::make_unique<QtPreferences>(file) : makeOthers();
 }
 
@@ -111,7 +112,8 @@ public:
     explicit ThisComputer(const MachineOptions& options)
         : readers_(makeSystemReaders(options.roots))
         , folders_(makeSystemFolders(), namedFolders(options))
-        , preferences_(preferencesIn(options.preferences, makeSystemPreferences)) {}
+        , preferences_(
+              preferencesIn(options.preferences, [&] { return makeSystemPreferences(options.program); })) {}
 
     [[nodiscard]] Platform platform() override {
         return {.battery = *readers_.battery,
