@@ -15,12 +15,12 @@ protected:
     SystemAppearanceTest() { fake::startAnew(); }
 };
 
-TEST_F(SystemAppearanceTest, IsLightAnimatedAndTranslucentBeforeAnybodyHasChangedIt) {
+TEST_F(SystemAppearanceTest, IsLightAnimatedAndOnTheMaterialBeforeAnybodyHasChangedIt) {
     const auto appearance = systemAppearance();
     EXPECT_FALSE(appearance.dark);
     EXPECT_TRUE(appearance.animated);
     EXPECT_FALSE(appearance.contrast);
-    EXPECT_TRUE(appearance.translucent);
+    EXPECT_EQ(appearance.backdrop, Backdrop::material);
 }
 
 TEST_F(SystemAppearanceTest, IsWhatThePersonHasChosen) {
@@ -32,12 +32,14 @@ TEST_F(SystemAppearanceTest, IsWhatThePersonHasChosen) {
     EXPECT_TRUE(appearance.dark);
     EXPECT_FALSE(appearance.animated);
     EXPECT_TRUE(appearance.contrast);
-    EXPECT_FALSE(appearance.translucent);
+    EXPECT_EQ(appearance.backdrop, Backdrop::none);
 }
 
 TEST_F(SystemAppearanceTest, HasTheUsersAccentColor) {
-    appKit().accent = {{0.25, 0.5, 0.75}};
-    EXPECT_EQ(systemAppearance().accent, (AccentColor{.red = 0.25, .green = 0.5, .blue = 0.75}));
+    appKit().accent = {{0, 0.5, 1}};
+    EXPECT_EQ(systemAppearance().accent, 0x0080FFU);
+    appKit().accent = {{1.2, -0.1, 0.2}}; // of a screen that shows more than sRGB
+    EXPECT_EQ(systemAppearance().accent, 0xFF0033U);
     appKit().accent.reset();
     EXPECT_EQ(systemAppearance().accent, std::nullopt);
 }

@@ -19,9 +19,9 @@ QRect roomAt(QPoint place) {
     return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
 }
 
-// Nothing is behind its window that would blur what shines through.
-Appearance opaque(Appearance appearance) {
-    appearance.translucent = false;
+// There is no material behind a window of one's own.
+Appearance withoutBackdrop(Appearance appearance) {
+    appearance.backdrop = Backdrop::none;
     return appearance;
 }
 
@@ -31,7 +31,7 @@ FloatingPopover::FloatingPopover(NSStatusBarButton* button, PopoverContent::Mode
     : button_(button)
     , dashboard_(std::move(makeModel), [this] { close(); })
     , fade_(dashboard_, [this] { dashboard_.shut(); })
-    , system_([this] { dashboard_.setAppearance(opaque(systemAppearance())); }) {
+    , system_([this] { dashboard_.setAppearance(withoutBackdrop(systemAppearance())); }) {
     dashboard_.setFlags(Qt::Tool | Qt::FramelessWindowHint);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &listener_,
                      [this](Qt::ApplicationState state) {
@@ -58,7 +58,7 @@ void FloatingPopover::show() {
     if (button_ == nullptr) {
         return;
     }
-    const auto appearance = opaque(systemAppearance());
+    const auto appearance = withoutBackdrop(systemAppearance());
     dashboard_.setPosition(corner());
     dashboard_.prepare(appearance);
     fade_.in(appearance.animated);

@@ -8,7 +8,8 @@
 
 namespace quelby::app {
 
-// Dark is what the system's windows are; a popover may be otherwise.
+// Dark is what the system's windows are; a popover may be otherwise. Its material is there, but where the person
+// wants less transparency.
 [[nodiscard]] Appearance systemAppearance();
 
 // Hears each change of any of it, for as long as it lives.

@@ -1,5 +1,7 @@
 #include "app/macos/system_appearance.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 #import <AppKit/AppKit.h>
@@ -45,13 +47,18 @@ NSWorkspace* workspace() {
     return [NSWorkspace sharedWorkspace];
 }
 
-std::optional<AccentColor> accentColor() {
+// A component of a colour, in eight bits.
+std::uint32_t bits(double component) {
+    return static_cast<std::uint32_t>(std::lround(std::clamp(component, 0.0, 1.0) * 255));
+}
+
+std::optional<std::uint32_t> accentColor() {
     NSColor* const color = [[NSColor controlAccentColor] colorUsingColorSpace:[NSColorSpace sRGBColorSpace]];
     if (color == nil) {
         return std::nullopt;
     }
-    return AccentColor{
-        .red = [color redComponent], .green = [color greenComponent], .blue = [color blueComponent]};
+    return bits([color redComponent]) << 16U | bits([color greenComponent]) << 8U |
+           bits([color blueComponent]);
 }
 
 // There is no notification of the system's windows becoming dark: it is a property that can be watched.
@@ -68,9 +75,7 @@ public:
     DarknessWatch(const DarknessWatch&) = delete;
     DarknessWatch& operator=(const DarknessWatch&) = delete;
 
-    ~DarknessWatch() {
-        [application() removeObserver:observer_.get() forKeyPath:@"effectiveAppearance"];
-    }
+    ~DarknessWatch() { [application() removeObserver:observer_.get() forKeyPath:@"effectiveAppearance"]; }
 
 private:
     Own<QuelbyAppearanceObserver> observer_;
@@ -83,8 +88,10 @@ Appearance systemAppearance() {
         return {.dark = isDark([application() effectiveAppearance]),
                 .animated = [workspace() accessibilityDisplayShouldReduceMotion] == NO,
                 .contrast = [workspace() accessibilityDisplayShouldIncreaseContrast] != NO,
-                .translucent = [workspace() accessibilityDisplayShouldReduceTransparency] == NO,
-                .accent = accentColor()};
+                .accent = accentColor(),
+                .backdrop = [workspace() accessibilityDisplayShouldReduceTransparency] == NO
+                                ? Backdrop::material
+                                : Backdrop::none};
     }
 }
 

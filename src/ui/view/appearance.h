@@ -1,16 +1,15 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 namespace quelby {
 
-// In sRGB, each from 0 to 1.
-struct AccentColor {
-    double red = 0;
-    double green = 0;
-    double blue = 0;
-
-    bool operator==(const AccentColor&) const = default;
+// What the dashboard lies on.
+enum class Backdrop {
+    none,     // anything: the dashboard's own background covers it
+    blurred,  // anything, blurred: the background lets a little of it through
+    material, // what the system makes for this, with a tint of its own: the dashboard has no background there
 };
 
 // How the desktop likes its programs.
@@ -19,8 +18,11 @@ struct Appearance {
     bool animated = true;
     bool contrast = false; // more of it than most need
     double textScale = 1;  // 1 to 1.5; everything grows with the text, so that no word is cut
-    bool translucent = false; // what the dashboard lies on shines through, blurred by whoever draws that
-    std::optional<AccentColor> accent; // the user's; none: the dashboard's own
+
+    // The colour of what is chosen or offered, as 0xRRGGBB. The dashboard's own where the desktop has none.
+    std::optional<std::uint32_t> accent = std::nullopt;
+
+    Backdrop backdrop = Backdrop::none;
 
     bool operator==(const Appearance&) const = default;
 };
