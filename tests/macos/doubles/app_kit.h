@@ -23,6 +23,7 @@ struct AppKit {
     std::set<std::string> missingSymbols;
     bool menuBarIsDark = false;
     bool systemIsDark = false;
+    std::string fontFamily = ".AppleSystemUIFont";
     bool reducesMotion = false;
     bool reducesTransparency = false;
     bool increasesContrast = false;

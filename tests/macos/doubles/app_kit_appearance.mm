@@ -81,6 +81,26 @@ NSString* const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
 
 @end
 
+@interface SystemFont : NSFont
+@end
+
+@implementation NSFont
+
++ (NSFont*)systemFontOfSize:(CGFloat)size {
+    demand(size == 0, "another size than the usual one");
+    return [[[SystemFont alloc] init] autorelease];
+}
+
+@end
+
+@implementation SystemFont
+
+- (NSString*)familyName {
+    return [NSString stringWithUTF8String:appKit().fontFamily.c_str()];
+}
+
+@end
+
 @implementation NSWorkspace (Accessibility)
 
 - (NSNotificationCenter*)notificationCenter {

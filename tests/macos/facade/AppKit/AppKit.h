@@ -83,6 +83,11 @@ extern "C" NSAppearanceName const NSAppearanceNameDarkAqua QUELBY_SINCE(10.14);
 
 extern "C" NSNotificationName const NSSystemColorsDidChangeNotification;
 
+@interface NSFont : NSObject
++ (NSFont*)systemFontOfSize:(CGFloat)size; // 0: the usual size
+@property(readonly, copy, nullable) NSString* familyName;
+@end
+
 // The application
 
 @interface NSApplication : NSResponder
