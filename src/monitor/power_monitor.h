@@ -94,6 +94,7 @@ private:
     void checkDaemonInstalled();
     [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();
+    void setDaemonInstalled(bool installed);
     void openHistory();
     void takeOverHistory();
     void loadHistory();
@@ -112,7 +113,8 @@ private:
     std::shared_ptr<RepeatingTimer> dataTimer_;
     std::optional<HistoryStore> historyStore_;
     BatteryRecord batteryRecord_;
-    Subscription storeDisplay_; // keeps every choice of what the title shows
+    bool helperIsCurrent_ = true; // of this program's version, by what it said last
+    Subscription storeDisplay_;   // keeps every choice of what the title shows
 };
 
 } // namespace quelby

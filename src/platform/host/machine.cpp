@@ -90,6 +90,11 @@ public:
         return machine_.helperStatus() ? machine_.helperStatus() : files_.status();
     }
 
+    // Which version it was is not recorded, and nobody would bring another.
+    [[nodiscard]] std::optional<std::string> details() override { return std::nullopt; }
+
+    [[nodiscard]] bool detailsChanged() override { return false; }
+
     [[nodiscard]] Result<void> replaceConfig(std::string_view text) override {
         return files_.replaceConfig(text);
     }
