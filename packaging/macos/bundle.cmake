@@ -5,6 +5,7 @@ set(QUELBY_HELPER "" CACHE FILEPATH "The charge-limit helper, pwr_limiter, to go
 find_program(RSVG_CONVERT rsvg-convert)
 find_program(ICONUTIL iconutil)
 find_program(PNG2ICNS png2icns)
+find_package(Python3 COMPONENTS Interpreter) # which completes what png2icns makes
 
 function(add_resource target file)
     target_sources(${target} PRIVATE ${file})
@@ -18,10 +19,11 @@ function(add_icon target)
     endif()
     set(drawing ${PROJECT_SOURCE_DIR}/src/ui/symbols/quelby.svg)
     set(script ${PROJECT_SOURCE_DIR}/packaging/macos/icon.cmake)
+    set(completion ${PROJECT_SOURCE_DIR}/packaging/macos/add_retina_sizes.py)
     set(icon ${CMAKE_CURRENT_BINARY_DIR}/Quelby.icns)
-    add_custom_command(OUTPUT ${icon} DEPENDS ${drawing} ${script} VERBATIM
+    add_custom_command(OUTPUT ${icon} DEPENDS ${drawing} ${script} ${completion} VERBATIM
         COMMAND ${CMAKE_COMMAND} -DDRAWING=${drawing} -DICON=${icon} -DRSVG_CONVERT=${RSVG_CONVERT}
-            -DICONUTIL=${ICONUTIL} -DPNG2ICNS=${PNG2ICNS} -P ${script})
+            -DICONUTIL=${ICONUTIL} -DPNG2ICNS=${PNG2ICNS} -DPYTHON=${Python3_EXECUTABLE} -P ${script})
     add_resource(${target} ${icon})
 endfunction()
 
@@ -34,6 +36,7 @@ function(make_application program companion)
     set_target_properties(${companion} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY $<TARGET_BUNDLE_CONTENT_DIR:${program}>/MacOS)
     add_icon(${program})
+    add_resource(${program} ${PROJECT_SOURCE_DIR}/packaging/macos/put-quelbyctl-into-path)
     if(QUELBY_HELPER)
         add_resource(${program} ${QUELBY_HELPER})
     endif()

@@ -1,5 +1,5 @@
 # Draws the icon in every size and puts them into one file. A script: DRAWING, ICON, RSVG_CONVERT, and ICONUTIL or
-# PNG2ICNS.
+# PNG2ICNS and PYTHON.
 
 cmake_path(REPLACE_EXTENSION ICON iconset OUTPUT_VARIABLE pictures)
 file(REMOVE_RECURSE ${pictures})
@@ -22,4 +22,6 @@ else()
     file(GLOB drawn ${pictures}/icon_16x16.png ${pictures}/icon_32x32.png ${pictures}/icon_128x128.png
         ${pictures}/icon_256x256.png ${pictures}/icon_512x512.png ${pictures}/icon_512x512@2x.png)
     execute_process(COMMAND ${PNG2ICNS} ${ICON} ${drawn} OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND ${PYTHON} ${CMAKE_CURRENT_LIST_DIR}/add_retina_sizes.py ${ICON} ${pictures}
+        COMMAND_ERROR_IS_FATAL ANY)
 endif()

@@ -10,7 +10,9 @@ Result<void> PowerMonitor::installDaemon() {
     if (auto installed = platform_.helperInstaller->install(); !installed) {
         return installed;
     }
-    daemonInstalled = true;
+    static_cast<void>(platform_.helperFolder->details()); // of the one before
+    helperIsCurrent_ = true;
+    setDaemonInstalled(true);
     noticeDaemonConfig(); // the question may have been open for long
     return writeDaemonConfig();
 }
@@ -19,7 +21,7 @@ Result<void> PowerMonitor::uninstallDaemon() {
     if (auto removed = platform_.helperInstaller->uninstall(); !removed) {
         return removed;
     }
-    daemonInstalled = false;
+    setDaemonInstalled(false);
     chargingInhibited = false;
     chargeLimitEnabled = false;
     chargeLimitStatus = "";

@@ -1,9 +1,11 @@
 // What the monitor tells the charge-limit helper, and hears from it.
 
 #include "base/arithmetic.h"
+#include "base/version.h"
 #include "helper/charge_limit_status.h"
 #include "helper/daemon_config.h"
 #include "helper/daemon_status.h"
+#include "helper/helper_version.h"
 #include "monitor/power_monitor.h"
 #include "monitor/preference_keys.h"
 
@@ -45,7 +47,16 @@ Result<void> PowerMonitor::writeDaemonConfig() {
 }
 
 void PowerMonitor::checkDaemonInstalled() {
-    daemonInstalled = platform_.helperInstaller->isLoaded();
+    setDaemonInstalled(platform_.helperInstaller->isLoaded());
+}
+
+// A helper that was just brought is taken for this program's own, until it says otherwise.
+void PowerMonitor::setDaemonInstalled(bool installed) {
+    if (platform_.helperFolder->detailsChanged()) {
+        helperIsCurrent_ = isHelperOf(platform_.helperFolder->details(), version());
+    }
+    helperOutdated = installed && !helperIsCurrent_;
+    daemonInstalled = installed;
 }
 
 // A helper that no longer writes leaves its last words standing: how old they are is not looked at.
@@ -57,7 +68,7 @@ void PowerMonitor::readDaemonStatus() {
     }
     chargingInhibited = status->chargingInhibited;
     calibrationActive = status->calibrationActive;
-    daemonInstalled = status->daemonRunning;
+    setDaemonInstalled(status->daemonRunning);
     chargeLimitStatus = quelby::chargeLimitStatus({.calibrationActive = calibrationActive,
                                                    .calibrationPhase = std::move(status->calibrationPhase),
                                                    .chargingInhibited = chargingInhibited,

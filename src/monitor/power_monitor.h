@@ -98,6 +98,7 @@ private:
     void checkDaemonInstalled();
     [[nodiscard]] Result<void> writeDaemonConfig();
     void readDaemonStatus();
+    void setDaemonInstalled(bool installed);
     void openHistory();
     void takeOverHistory();
     void loadHistory();
@@ -119,7 +120,8 @@ private:
     std::optional<EnergyRecorder> energyRecorder_; // while the history is recorded
     std::optional<std::string> topListing_;        // of the cycle under way
     BatteryRecord batteryRecord_;
-    Subscription storeDisplay_; // keeps every choice of what the title shows
+    bool helperIsCurrent_ = true; // of this program's version, by what it said last
+    Subscription storeDisplay_;   // keeps every choice of what the title shows
 };
 
 } // namespace quelby

@@ -76,6 +76,10 @@ struct PublishedFields {
 #define QUELBY_DECLARE_FIELD(type, name, value, unit) Published<type> name{type(value)};
     QUELBY_PUBLISHED_FIELDS(QUELBY_DECLARE_FIELD)
 #undef QUELBY_DECLARE_FIELD
+
+    // Beside the figures: the helper that is installed is of another version than this program. Changes before
+    // daemonInstalled is set, and with it.
+    bool helperOutdated = false;
 };
 
 struct FieldName {

@@ -22,7 +22,8 @@ public:
     // Each of these asks for the administrator's password, and waits for the user and for what is then done
     // as root. The problem is that the user did not agree, or that it failed.
 
-    // Installs and starts the helper that came with this program. Nobody is asked where none did.
+    // Installs and starts the helper that came with this program, also in place of one that runs. Nobody is asked
+    // where none did.
     [[nodiscard]] virtual Result<void> install() = 0;
 
     // Stops and removes the helper and its folder.

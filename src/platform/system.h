@@ -30,9 +30,12 @@ struct SystemServices {
     std::unique_ptr<LoginItem> loginItem;
 };
 
+// How a program ends: an application when its user has had enough of it, a tool as soon as its work is done.
+enum class ProgramKind { application, tool };
+
 [[nodiscard]] SystemReaders makeSystemReaders(const SystemRoots& roots);
 [[nodiscard]] std::unique_ptr<Folders> makeSystemFolders();
-[[nodiscard]] std::unique_ptr<Preferences> makeSystemPreferences();
+[[nodiscard]] std::unique_ptr<Preferences> makeSystemPreferences(ProgramKind kind);
 
 // The folders outlive the services.
 [[nodiscard]] SystemServices makeSystemServices(Folders& folders);

@@ -37,6 +37,22 @@ TEST(QuelbyctlRecord, RecordsThisComputerSoThatItCanBePlayed) {
     EXPECT_EQ(std::count(played.output.begin(), played.output.end(), '\n'), 3);
 }
 
+TEST(QuelbyctlRecord, PlaysWhatWasRecordedOnAMac) {
+    const std::string recording = QUELBY_SOURCE_DIR "/tests/data/recording-of-a-mac.jsonl";
+    const auto played = quelbyctl({"status", "--json", "--replay", recording});
+    EXPECT_EQ(played.exitStatus, 0);
+    EXPECT_THAT(played.errors, IsEmpty());
+    const auto fields = nlohmann::json::parse(played.output);
+    EXPECT_EQ(fields["batteryPercent"], 74);
+    EXPECT_EQ(fields["batteryHealth"], 85);
+    EXPECT_EQ(fields["amperage"], -1350);
+    EXPECT_NEAR(fields["realWatts"].get<double>(), 14.985, 1e-9);
+    EXPECT_EQ(fields["batteryTemp"], 30.5);
+    EXPECT_EQ(fields["cpuUsage"], 12.0);
+    EXPECT_EQ(fields["topProcesses"][0]["name"], "Google Chrome Helper (Renderer)");
+    EXPECT_EQ(fields["topProcesses"][1]["name"], "WindowServer");
+}
+
 TEST(QuelbyctlRecord, RecordsARecordingAsItIs) {
     const TemporaryFolder folder;
     const auto original = folder.write("it.jsonl", laptopRecording(4));

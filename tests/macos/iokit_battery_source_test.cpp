@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "macos/doubles/registry.h"
+#include "platform/replay/recording_reader.h"
 
 namespace quelby {
 namespace {
@@ -54,6 +55,22 @@ TEST_F(IokitBattery, GivesEveryIntegerAndEveryBoolean) {
                                                       {"Largest", std::numeric_limits<std::int64_t>::max()},
                                                       {"IsCharging", false},
                                                       {"ExternalConnected", true}}));
+}
+
+// Texts, data, lists and tables stay where they are; the rest is what plays on any system.
+TEST_F(IokitBattery, IsRecordedAsItPlaysElsewhere) {
+    auto recording = RecordingReader::open(QUELBY_SOURCE_DIR "/tests/data/recording-of-a-mac.jsonl");
+    ASSERT_TRUE(recording) << recording.error().sentence;
+    const auto recorded = std::get<PropertyTable>(recording->next()->battery);
+    auto& battery = registry().battery.emplace();
+    for (const auto& [key, value] : recorded) {
+        const auto* const flag = std::get_if<bool>(&value);
+        battery.emplace_back(text(key.c_str()), flag != nullptr ? fake::Value(*flag)
+                                                                : integer(std::get<std::int64_t>(value)));
+    }
+    battery.emplace_back(text("DeviceName"), text("bq40z651"));
+    battery.emplace_back(text("ManufacturerData"), fake::Data{});
+    EXPECT_EQ(reading(), BatteryReading(recorded));
 }
 
 TEST_F(IokitBattery, LeavesOutValuesOfOtherTypes) {

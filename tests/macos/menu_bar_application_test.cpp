@@ -24,16 +24,7 @@ TEST_F(MenuBarApplicationTest, HasNeitherDockIconNorMenus) {
 TEST_F(MenuBarApplicationTest, ComesInFrontAndEndsAsTheSystemWouldDoIt) {
     activateApplication();
     terminateApplication();
-    EXPECT_THAT(appKit().calls, ElementsAre("activateIgnoringOtherApps", "terminate"));
-}
-
-TEST_F(MenuBarApplicationTest, KnowsWhatThePersonPrefers) {
-    EXPECT_FALSE(prefersDark());
-    EXPECT_FALSE(prefersReducedMotion());
-    appKit().systemIsDark = true;
-    appKit().reducesMotion = true;
-    EXPECT_TRUE(prefersDark());
-    EXPECT_TRUE(prefersReducedMotion());
+    EXPECT_THAT(appKit().calls, ElementsAre("activate", "terminate"));
 }
 
 TEST_F(MenuBarApplicationTest, IsToldOfItsBeginningAndItsEndAsItsDelegateWouldBe) {
@@ -56,8 +47,6 @@ TEST_F(MenuBarApplicationTest, LeavesNoObjectBehind) {
                   fake::finishLaunching();
                   becomeAccessory();
                   activateApplication();
-                  static_cast<void>(prefersDark());
-                  static_cast<void>(prefersReducedMotion());
                   terminateApplication();
               }),
               0);

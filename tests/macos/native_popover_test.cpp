@@ -23,12 +23,17 @@ protected:
     }
 
     [[nodiscard]] std::unique_ptr<NativePopover> makePopover() {
-        return std::make_unique<NativePopover>(item->button(), [this] { ++closings; });
+        return std::make_unique<NativePopover>(
+            item->button(), NativePopoverListener{.closed = [this] { ++closings; },
+                                                  .appearanceChanged = [this] { ++turns; }});
     }
 
     std::unique_ptr<MacosStatusItem> item;
     int closings = 0;
+    int turns = 0;
 };
+
+const NativePopoverListener nobody{.closed = [] {}, .appearanceChanged = [] {}};
 
 TEST_F(NativePopoverTest, IsMadeTransientAnimatedAndOfTheDashboardsSize) {
     const auto popover = makePopover();
@@ -43,15 +48,15 @@ TEST_F(NativePopoverTest, IsMadeTransientAnimatedAndOfTheDashboardsSize) {
 TEST_F(NativePopoverTest, ShowsAtTheButtonsLowerEdgeThenComesInFrontThenTakesTheKeyboard) {
     const auto popover = makePopover();
     appKit().calls.clear();
-    popover->show();
+    EXPECT_TRUE(popover->show());
     EXPECT_TRUE(popover->isShown());
     EXPECT_THAT(appKit().calls, ElementsAre("showRelativeToRect 60x24 of the button at the bottom",
-                                            "activateIgnoringOtherApps", "makeKeyWindow"));
+                                            "activate", "makeKeyWindow"));
 }
 
 TEST_F(NativePopoverTest, ClosesInTheOrdinaryWayAndSaysSo) {
     const auto popover = makePopover();
-    popover->show();
+    static_cast<void>(popover->show());
     appKit().calls.clear();
     popover->close();
     EXPECT_FALSE(popover->isShown());
@@ -61,18 +66,18 @@ TEST_F(NativePopoverTest, ClosesInTheOrdinaryWayAndSaysSo) {
 
 TEST_F(NativePopoverTest, SaysWhereTheSystemHasClosedIt) {
     const auto popover = makePopover();
-    popover->show();
+    static_cast<void>(popover->show());
     fake::clickElsewhere();
     EXPECT_FALSE(popover->isShown());
     EXPECT_EQ(closings, 1);
-    popover->show();
+    static_cast<void>(popover->show());
     EXPECT_TRUE(popover->isShown());
 }
 
 TEST_F(NativePopoverTest, HearsNothingOfAnotherPopover) {
     const auto popover = makePopover();
-    NativePopover other(item->button(), [] {});
-    other.show();
+    NativePopover other(item->button(), nobody);
+    static_cast<void>(other.show());
     fake::clickElsewhere(); // which the one made last hears
     EXPECT_FALSE(other.isShown());
     EXPECT_EQ(closings, 0);
@@ -82,28 +87,59 @@ TEST_F(NativePopoverTest, IsAsDarkAsTheMenuBarWhileItIsShown) {
     const auto popover = makePopover();
     EXPECT_FALSE(popover->isDark());
     appKit().menuBarIsDark = true;
-    popover->show();
+    static_cast<void>(popover->show());
     EXPECT_TRUE(popover->isDark());
 }
 
 TEST_F(NativePopoverTest, NeverShowsWithoutAButton) {
-    NativePopover popover(nullptr, [] {});
+    NativePopover popover(nullptr, nobody);
     appKit().calls.clear();
-    popover.show();
+    EXPECT_FALSE(popover.show());
     EXPECT_FALSE(popover.isShown());
     EXPECT_THAT(appKit().calls, IsEmpty());
+}
+
+TEST_F(NativePopoverTest, TellsWhenItsBackgroundTurnsDark) {
+    const auto popover = makePopover();
+    static_cast<void>(popover->show());
+    fake::menuBarTurns(true);
+    EXPECT_EQ(turns, 1);
+    EXPECT_TRUE(popover->isDark());
+}
+
+TEST_F(NativePopoverTest, AsksNothingOfAButtonThatIsInNoWindow) {
+    item.reset();
+    appKit().buttonsAreInWindows = false;
+    item = std::make_unique<MacosStatusItem>();
+    const auto popover = makePopover();
+    appKit().calls.clear();
+    EXPECT_FALSE(popover->show());
+    EXPECT_THAT(appKit().calls, IsEmpty());
+    EXPECT_EQ(placeBelow(item->button()), std::nullopt);
+}
+
+TEST_F(NativePopoverTest, TakesNoKeyboardWhereTheMenuBarHasNoRoomForTheItem) {
+    const auto popover = makePopover();
+    appKit().itemsHaveRoom = false;
+    appKit().calls.clear();
+    EXPECT_FALSE(popover->show());
+    EXPECT_FALSE(popover->isShown());
+    EXPECT_THAT(appKit().calls, ElementsAre("showRelativeToRect 60x24 of the button at the bottom"));
+    EXPECT_EQ(placeBelow(item->button()), std::nullopt);
+    appKit().itemsHaveRoom = true;
+    EXPECT_TRUE(popover->show());
 }
 
 TEST_F(NativePopoverTest, LeavesNoObjectBehind) {
     const auto life = [this] {
         const auto popover = makePopover();
-        popover->show();
+        static_cast<void>(popover->show());
         static_cast<void>(popover->isDark());
         static_cast<void>(popover->holdsContent());
         fake::clickElsewhere();
-        popover->show();
+        static_cast<void>(popover->show());
         popover->close();
-        popover->show();
+        static_cast<void>(popover->show());
     };
     EXPECT_EQ(fake::objectsLeftBy(life), 0);
 }

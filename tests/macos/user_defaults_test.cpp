@@ -15,7 +15,7 @@ protected:
         defaults.removeAll();
     }
 
-    UserDefaults defaults;
+    UserDefaults defaults{ProgramKind::tool};
 };
 
 TEST_F(UserDefaultsTest, KeepTextsAndFlags) {
@@ -66,6 +66,27 @@ TEST_F(UserDefaultsTest, RemoveNoDomainWithoutAnIdentifier) {
     fake::frameworks().bundleIdentifier.reset();
     defaults.removeAll();
     EXPECT_EQ(defaults.text("one"), "one");
+}
+
+TEST_F(UserDefaultsTest, AreOnTheDiskBeforeAToolEnds) {
+    fake::frameworks().writtenDefaults = 0;
+    defaults.setText("one", "one");
+    EXPECT_EQ(fake::frameworks().writtenDefaults, 1);
+    defaults.setFlag("flag", true);
+    defaults.remove("one");
+    defaults.removeAll();
+    EXPECT_EQ(fake::frameworks().writtenDefaults, 4);
+}
+
+TEST_F(UserDefaultsTest, AreLeftToTheSystemByAnApplication) {
+    UserDefaults ofApplication(ProgramKind::application);
+    fake::frameworks().writtenDefaults = 0;
+    ofApplication.setText("one", "one");
+    ofApplication.setFlag("flag", true);
+    ofApplication.remove("flag");
+    EXPECT_EQ(ofApplication.text("one"), "one");
+    ofApplication.removeAll();
+    EXPECT_EQ(fake::frameworks().writtenDefaults, 0);
 }
 
 TEST_F(UserDefaultsTest, LeaveNoObjectBehind) {

@@ -59,6 +59,8 @@ struct NamedFolders final : Folders {
 struct Helper final : HelperFolder {
     std::optional<std::string> configText;
     std::optional<std::string> statusText;
+    std::optional<std::string> detailsText;
+    bool saysNothingNew = true; // of details.json
     bool writable = true;
     int writes = 0; // that were tried
     int reads = 0;  // of the config
@@ -72,6 +74,19 @@ struct Helper final : HelperFolder {
     bool configChanged() override { return reads == 0 || lastRead != configText; }
 
     std::optional<std::string> status() override { return statusText; }
+
+    std::optional<std::string> details() override {
+        saysNothingNew = true;
+        return detailsText;
+    }
+
+    bool detailsChanged() override { return !saysNothingNew; }
+
+    // As a helper does when it is started.
+    void sayDetails(std::optional<std::string> text) {
+        detailsText = std::move(text);
+        saysNothingNew = false;
+    }
 
     Result<void> replaceConfig(std::string_view text) override {
         ++writes;

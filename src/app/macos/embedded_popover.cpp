@@ -2,14 +2,14 @@
 
 #include <utility>
 
-#include "app/macos/menu_bar_application.h"
-
 namespace quelby::app {
 
 EmbeddedPopover::EmbeddedPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel)
-    : popover_(button, [this] { dashboard_.shut(); })
+    : popover_(button,
+               {.closed = [this] { dashboard_.shut(); }, .appearanceChanged = [this] { followAppearance(); }})
     , host_(QWindow::fromWinId(reinterpret_cast<WId>(popover_.hostView())))
-    , dashboard_(std::move(makeModel), [this] { close(); }) {
+    , dashboard_(std::move(makeModel), [this] { close(); })
+    , system_([this] { followAppearance(); }) {
     if (host_) {
         dashboard_.setParent(host_.get());
         dashboard_.setPosition(0, 0);
@@ -26,19 +26,30 @@ bool EmbeddedPopover::isShown() const {
 }
 
 Appearance EmbeddedPopover::appearance() const {
-    return {.dark = popover_.isDark(), .animated = !prefersReducedMotion()};
+    auto appearance = systemAppearance();
+    appearance.dark = popover_.isDark();
+    return appearance;
+}
+
+void EmbeddedPopover::followAppearance() {
+    dashboard_.setAppearance(appearance());
 }
 
 void EmbeddedPopover::show() {
     dashboard_.open(appearance());
-    popover_.show();
-    dashboard_.setAppearance(appearance()); // which the popover has from where it stands
+    if (!popover_.show()) {
+        dashboard_.shut();
+        return;
+    }
+    followAppearance();           // which the popover has from where it stands
     dashboard_.requestActivate(); // the popover's window has the keyboard; the dashboard is to have it there
 }
 
 void EmbeddedPopover::showSettings() {
     show();
-    dashboard_.showSettings();
+    if (isShown()) {
+        dashboard_.showSettings();
+    }
 }
 
 void EmbeddedPopover::close() {

@@ -6,11 +6,13 @@
 
 #include "app/macos/native_popover.h"
 #include "app/macos/popover_content.h"
+#include "app/macos/system_appearance.h"
 #include "app/popover.h"
 
 namespace quelby::app {
 
-// The dashboard inside the system's popover: Qt's window becomes a view in the popover's.
+// The dashboard inside the system's popover: Qt's window becomes a view in the popover's, clear, so that the
+// popover's own material shines through. Where the popover cannot be shown, it stays away.
 class EmbeddedPopover final : public Popover {
 public:
     // The button outlives the popover.
@@ -26,10 +28,12 @@ public:
 
 private:
     [[nodiscard]] Appearance appearance() const;
+    void followAppearance();
 
     NativePopover popover_;
     std::unique_ptr<QWindow> host_; // stands for the popover's view; none where Qt takes in no foreign views
     PopoverContent dashboard_;      // goes before its parent
+    SystemAppearanceListener system_;
 };
 
 } // namespace quelby::app

@@ -1,11 +1,12 @@
 #include "app/macos/floating_popover.h"
 
-#include <algorithm>
 #include <utility>
 
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "app/macos/floating_place.h"
 #include "app/macos/menu_bar_application.h"
 #include "app/macos/place_on_screen.h"
 
@@ -13,18 +14,24 @@ namespace quelby::app {
 
 namespace {
 
-// Centred at the place, and whole on its screen.
-QPoint upperLeftCorner(QPoint place, int width) {
+QRect roomAt(QPoint place) {
     const auto* const screen = QGuiApplication::screenAt(place);
-    const QRect room = (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
-    const int rightmost = std::max(room.left(), room.right() + 1 - width);
-    return {std::clamp(place.x() - width / 2, room.left(), rightmost), place.y()};
+    return (screen != nullptr ? screen : QGuiApplication::primaryScreen())->availableGeometry();
+}
+
+// There is no material behind a window of one's own.
+Appearance withoutBackdrop(Appearance appearance) {
+    appearance.backdrop = Backdrop::none;
+    return appearance;
 }
 
 } // namespace
 
 FloatingPopover::FloatingPopover(NSStatusBarButton* button, PopoverContent::ModelMaker makeModel)
-    : button_(button), dashboard_(std::move(makeModel), [this] { close(); }) {
+    : button_(button)
+    , dashboard_(std::move(makeModel), [this] { close(); })
+    , fade_(dashboard_, [this] { dashboard_.shut(); })
+    , system_([this] { dashboard_.setAppearance(withoutBackdrop(systemAppearance())); }) {
     dashboard_.setFlags(Qt::Tool | Qt::FramelessWindowHint);
     QObject::connect(qGuiApp, &QGuiApplication::applicationStateChanged, &listener_,
                      [this](Qt::ApplicationState state) {
@@ -35,16 +42,26 @@ FloatingPopover::FloatingPopover(NSStatusBarButton* button, PopoverContent::Mode
 }
 
 bool FloatingPopover::isShown() const {
-    return dashboard_.isVisible();
+    return fade_.isIn();
+}
+
+QPoint FloatingPopover::corner() const {
+    if (const auto place = placeBelow(button_)) {
+        const QPoint below(qRound(place->x), qRound(place->y));
+        return cornerBelow(below, dashboard_.width(), roomAt(below));
+    }
+    const auto pointer = QCursor::pos();
+    return cornerBelowMenuBar(pointer, dashboard_.width(), roomAt(pointer));
 }
 
 void FloatingPopover::show() {
     if (button_ == nullptr) {
         return;
     }
-    const auto place = placeBelow(button_);
-    dashboard_.setPosition(upperLeftCorner({qRound(place.x), qRound(place.y)}, dashboard_.width()));
-    dashboard_.open({.dark = prefersDark(), .animated = !prefersReducedMotion()});
+    const auto appearance = withoutBackdrop(systemAppearance());
+    dashboard_.setPosition(corner());
+    dashboard_.prepare(appearance);
+    fade_.in(appearance.animated);
     activateApplication();
     dashboard_.requestActivate();
 }
@@ -57,9 +74,7 @@ void FloatingPopover::showSettings() {
 }
 
 void FloatingPopover::close() {
-    if (isShown()) {
-        dashboard_.shut();
-    }
+    fade_.out(systemAppearance().animated);
 }
 
 } // namespace quelby::app

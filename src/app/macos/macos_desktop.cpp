@@ -6,6 +6,7 @@
 #include "app/macos/floating_popover.h"
 #include "app/macos/key_monitor.h"
 #include "app/macos/menu_bar_application.h"
+#include "app/macos/popover_choice.h"
 #include "platform/battery_settings.h"
 
 namespace quelby::app {
@@ -21,11 +22,12 @@ Popover& MacosDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
             monitor, *clock, ProgramActions{.quit = quit, .openBatterySettings = openBatterySettings});
     };
     auto embedded = std::make_unique<EmbeddedPopover>(item_->button(), makeModel);
-    if (embedded->holdsDashboard()) {
-        popover_ = std::move(embedded);
-    } else {
-        popover_ = std::make_unique<FloatingPopover>(item_->button(), makeModel);
+    if (!embedded->holdsDashboard()) {
+        embedded.reset();
     }
+    popover_ = std::make_unique<PopoverChoice>(std::move(embedded), [this, makeModel] {
+        return std::make_unique<FloatingPopover>(item_->button(), makeModel);
+    });
     return *popover_;
 }
 

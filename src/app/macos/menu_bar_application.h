@@ -16,12 +16,6 @@ void activateApplication();
 // Asks the application to end, as the system's own command does.
 void terminateApplication();
 
-// The system's windows are dark.
-[[nodiscard]] bool prefersDark();
-
-// The desktop is to move as little as possible.
-[[nodiscard]] bool prefersReducedMotion();
-
 struct ApplicationListener {
     std::function<void()> didFinishLaunching;
     std::function<void()> willTerminate;

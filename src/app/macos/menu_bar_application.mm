@@ -2,7 +2,6 @@
 
 #import <AppKit/AppKit.h>
 
-#include "app/macos/dark_appearance.h"
 #include "app/macos/notification_listener.h"
 
 namespace quelby::app {
@@ -23,25 +22,17 @@ void becomeAccessory() {
 
 void activateApplication() {
     @autoreleasepool {
-        [application() activateIgnoringOtherApps:YES];
+        if (@available(macOS 14.0, *)) {
+            [application() activate];
+        } else {
+            [application() activateIgnoringOtherApps:YES];
+        }
     }
 }
 
 void terminateApplication() {
     @autoreleasepool {
         [application() terminate:nil];
-    }
-}
-
-bool prefersDark() {
-    @autoreleasepool {
-        return isDark([application() effectiveAppearance]);
-    }
-}
-
-bool prefersReducedMotion() {
-    @autoreleasepool {
-        return [[NSWorkspace sharedWorkspace] accessibilityDisplayShouldReduceMotion] != NO;
     }
 }
 

@@ -7,13 +7,17 @@
 
 namespace quelby::app {
 
+struct NativePopoverListener {
+    std::function<void()> closed;            // each time, whoever closed it
+    std::function<void()> appearanceChanged; // of its background, which may now be dark, or no longer
+};
+
 // The system's popover below the status item, with an empty view to put the dashboard into. The system closes
 // it when a person clicks elsewhere.
 class NativePopover {
 public:
-    // The button outlives the popover; without one it never shows. `closed` is called each time it has
-    // closed, whoever closed it.
-    NativePopover(NSStatusBarButton* button, std::function<void()> closed);
+    // The button outlives the popover; without one it never shows.
+    NativePopover(NSStatusBarButton* button, NativePopoverListener listener);
     NativePopover(const NativePopover&) = delete;
     NativePopover& operator=(const NativePopover&) = delete;
     ~NativePopover();
@@ -29,8 +33,9 @@ public:
 
     [[nodiscard]] bool isShown() const;
 
-    // In front, and with the keyboard.
-    void show();
+    // In front, and with the keyboard. Whether it is shown: it cannot be where the menu bar has no room for the
+    // button.
+    [[nodiscard]] bool show();
 
     void close();
 

@@ -8,6 +8,30 @@
 #include "platform/macos/own.h"
 #include "ui/presentation/elements/metrics.h"
 
+// The view that the dashboard is put into.
+@interface QuelbyHostView : NSView {
+    std::function<void()> appearanceChanged_;
+}
+- (instancetype)initWithFrame:(NSRect)frame listener:(std::function<void()>)appearanceChanged;
+@end
+
+@implementation QuelbyHostView
+
+- (instancetype)initWithFrame:(NSRect)frame listener:(std::function<void()>)appearanceChanged {
+    self = [super initWithFrame:frame];
+    if (self != nil) {
+        appearanceChanged_ = std::move(appearanceChanged);
+    }
+    return self;
+}
+
+- (void)viewDidChangeEffectiveAppearance {
+    [super viewDidChangeEffectiveAppearance];
+    appearanceChanged_();
+}
+
+@end
+
 namespace quelby::app {
 
 namespace {
@@ -23,21 +47,22 @@ void setContent(NSPopover* popover, NSView* view) {
 } // namespace
 
 struct NativePopover::Parts {
-    Parts(NSStatusBarButton* below, std::function<void()> closed)
+    Parts(NSStatusBarButton* below, NativePopoverListener listener)
         : button(below)
         , popover([[NSPopover alloc] init])
-        , view([[NSView alloc] initWithFrame:NSMakeRect(0, 0, contentSize.width, contentSize.height)])
-        , closing(NSPopoverDidCloseNotification, popover.get(), std::move(closed)) {}
+        , view([[QuelbyHostView alloc] initWithFrame:NSMakeRect(0, 0, contentSize.width, contentSize.height)
+                                            listener:std::move(listener.appearanceChanged)])
+        , closing(NSPopoverDidCloseNotification, popover.get(), std::move(listener.closed)) {}
 
     NSStatusBarButton* button;
     Own<NSPopover> popover;
-    Own<NSView> view;
+    Own<QuelbyHostView> view;
     NotificationListener closing;
 };
 
-NativePopover::NativePopover(NSStatusBarButton* button, std::function<void()> closed) {
+NativePopover::NativePopover(NSStatusBarButton* button, NativePopoverListener listener) {
     @autoreleasepool {
-        parts_ = std::make_unique<Parts>(button, std::move(closed));
+        parts_ = std::make_unique<Parts>(button, std::move(listener));
         NSPopover* const popover = parts_->popover.get();
         [popover setContentSize:contentSize];
         [popover setBehavior:NSPopoverBehaviorTransient];
@@ -72,15 +97,19 @@ bool NativePopover::isShown() const {
     return [parts_->popover.get() isShown] != NO;
 }
 
-void NativePopover::show() {
+bool NativePopover::show() {
     NSStatusBarButton* const button = parts_->button;
-    if (button == nil) {
-        return;
-    }
     @autoreleasepool {
+        if ([button window] == nil) {
+            return false; // the system would raise an exception
+        }
         [parts_->popover.get() showRelativeToRect:[button bounds] ofView:button preferredEdge:NSRectEdgeMinY];
+        if (!isShown()) {
+            return false; // the button's window is hidden: by a notch, or by too many other items
+        }
         activateApplication();
         [[parts_->view.get() window] makeKeyWindow];
+        return true;
     }
 }
 

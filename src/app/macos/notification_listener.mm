@@ -21,15 +21,16 @@
 namespace quelby::app {
 
 NotificationListener::NotificationListener(NSString* name, NSObject* object, std::function<void()> heard)
-    : target_([[QuelbyNotificationTarget alloc] initWithListener:std::move(heard)]) {
-    [[NSNotificationCenter defaultCenter] addObserver:target_.get()
-                                             selector:@selector(notified:)
-                                                 name:name
-                                               object:object];
+    : NotificationListener([NSNotificationCenter defaultCenter], name, object, std::move(heard)) {}
+
+NotificationListener::NotificationListener(NSNotificationCenter* center, NSString* name, NSObject* object,
+                                           std::function<void()> heard)
+    : center_(center), target_([[QuelbyNotificationTarget alloc] initWithListener:std::move(heard)]) {
+    [center_ addObserver:target_.get() selector:@selector(notified:) name:name object:object];
 }
 
 NotificationListener::~NotificationListener() {
-    [[NSNotificationCenter defaultCenter] removeObserver:target_.get()];
+    [center_ removeObserver:target_.get()];
 }
 
 } // namespace quelby::app

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "app/macos/appkit_names.h"
 
 namespace quelby::app {
@@ -12,7 +14,8 @@ struct PlaceOnScreen {
     bool operator==(const PlaceOnScreen&) const = default;
 };
 
-// The middle of the button's lower edge. The button is in a window.
-[[nodiscard]] PlaceOnScreen placeBelow(NSStatusBarButton* button);
+// The middle of the button's lower edge. Nothing where nobody sees the button: in no window, or in one that the
+// menu bar has no room for.
+[[nodiscard]] std::optional<PlaceOnScreen> placeBelow(NSStatusBarButton* button);
 
 } // namespace quelby::app

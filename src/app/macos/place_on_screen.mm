@@ -5,12 +5,16 @@
 namespace quelby::app {
 
 // The system counts upwards from the lower left corner of its first screen.
-PlaceOnScreen placeBelow(NSStatusBarButton* button) {
+std::optional<PlaceOnScreen> placeBelow(NSStatusBarButton* button) {
     @autoreleasepool {
+        NSWindow* const window = [button window];
+        if ([window isVisible] == NO) {
+            return std::nullopt;
+        }
         const NSRect inWindow = [button convertRect:[button bounds] toView:nil];
-        const NSRect onScreen = [[button window] convertRectToScreen:inWindow];
+        const NSRect onScreen = [window convertRectToScreen:inWindow];
         NSScreen* const primary = [[NSScreen screens] firstObject];
-        return {NSMidX(onScreen), NSMaxY([primary frame]) - NSMinY(onScreen)};
+        return PlaceOnScreen{NSMidX(onScreen), NSMaxY([primary frame]) - NSMinY(onScreen)};
     }
 }
 

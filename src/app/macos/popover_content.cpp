@@ -9,16 +9,31 @@
 
 namespace quelby::app {
 
-PopoverContent::PopoverContent(ModelMaker makeModel, std::function<void()> leave)
+namespace {
+
+// With a background that can be clear, whether it is or not: that cannot be changed later.
+QSurfaceFormat withClearness(QSurfaceFormat format) {
+    constexpr int bits = 8;
+    format.setAlphaBufferSize(bits);
+    return format;
+}
+
+} // namespace
+
+PopoverContent::PopoverContent(ModelMaker makeModel, std::function<void()> leave,
+                               std::chrono::milliseconds keptAfterShutting)
     : makeModel_(std::move(makeModel)), leave_(std::move(leave)) {
+    givingBack_.setSingleShot(true);
+    givingBack_.setInterval(keptAfterShutting);
+    connect(&givingBack_, &QTimer::timeout, this, [this] { giveBack(); });
+    setFormat(withClearness(requestedFormat()));
+    setColor(Qt::transparent);
     setTitle(QString::fromUtf8(words::program));
     resize(viewWidth, viewHeight);
 }
 
 PopoverContent::~PopoverContent() {
-    if (view_) {
-        view_->item().setParentItem(nullptr);
-    }
+    giveBack();
 }
 
 void PopoverContent::make(Appearance appearance) {
@@ -27,18 +42,35 @@ void PopoverContent::make(Appearance appearance) {
     view_->item().setParentItem(contentItem());
 }
 
-void PopoverContent::open(Appearance appearance) {
+void PopoverContent::giveBack() {
+    givingBack_.stop();
+    if (view_) {
+        view_->item().setParentItem(nullptr);
+        view_.reset();
+        model_.reset();
+        releaseResources();
+    }
+}
+
+void PopoverContent::prepare(Appearance appearance) {
+    givingBack_.stop();
     if (!view_) {
         make(appearance);
     }
     setAppearance(appearance);
     view_->setWatched(true);
     view_->item().forceActiveFocus();
+}
+
+void PopoverContent::open(Appearance appearance) {
+    prepare(appearance);
     show();
 }
 
 void PopoverContent::setAppearance(Appearance appearance) {
-    view_->setAppearance(appearance);
+    if (view_) {
+        view_->setAppearance(appearance);
+    }
 }
 
 void PopoverContent::showSettings() {
@@ -49,6 +81,7 @@ void PopoverContent::shut() {
     hide();
     if (view_) {
         view_->setWatched(false);
+        givingBack_.start();
     }
 }
 

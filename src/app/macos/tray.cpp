@@ -7,6 +7,7 @@
 #include "app/app_delegate.h"
 #include "app/macos/macos_desktop.h"
 #include "app/macos/menu_bar_application.h"
+#include "app/macos/tabular_digits.h"
 #include "app/recorder_lock.h"
 #include "console/program.h"
 #include "console/signals.h"
@@ -27,6 +28,7 @@ MonitorOptions monitorOptions(MachineKind kind, Pace pace, RecorderLock& lock) {
 
 void runApplication(const Platform& platform, const MonitorOptions& options, const TrayCommand& command) {
     becomeAccessory();
+    QGuiApplication::setFont(withTabularDigits(QGuiApplication::font())); // the system's own
     MacosDesktop desktop(*platform.clock);
     auto delegate = AppDelegate::create(platform, options, desktop);
     const ApplicationEvents events({.didFinishLaunching =
@@ -44,7 +46,9 @@ void runApplication(const Platform& platform, const MonitorOptions& options, con
 }
 
 Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
-    const auto machine = Machine::make(arguments.machine);
+    auto options = arguments.machine;
+    options.program = ProgramKind::application;
+    const auto machine = Machine::make(options);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }
@@ -59,6 +63,7 @@ Result<void> run(const MachineArguments& arguments, const TrayCommand& command) 
 // The system itself starts an application no second time.
 int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
     drawWithoutGpu();
+    qputenv("QV4_FORCE_INTERPRETER", "1"); // the hardened runtime has no memory for what QML would compile
     QGuiApplication::setQuitOnLastWindowClosed(false);
     return runProgramWith<QGuiApplication>("quelby", argv, [&] { return run(arguments, command); });
 }

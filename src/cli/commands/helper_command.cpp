@@ -2,9 +2,11 @@
 
 #include <fmt/format.h>
 
+#include "base/version.h"
 #include "cli/commands/cycle_run.h"
 #include "cli/output/helper_state.h"
 #include "console/standard_output.h"
+#include "helper/helper_version.h"
 #include "helper/json_record.h"
 #include "platform/helper_names.h"
 #include "platform/posix/shared_file.h"
@@ -13,11 +15,13 @@ namespace quelby::cli {
 
 namespace {
 
-Result<void> printState(const Platform& platform, OutputForm form) {
-    const HelperState state{
+Result<void> printState(const Machine& machine, const Platform& platform, OutputForm form) {
+    HelperState state{
         .isLoaded = platform.helperInstaller->isLoaded(),
         .status = platform.helperFolder->status(),
         .details = readSharedFile(platform.folders->helper() / "details.json", JsonRecord::longestText)};
+    // Which version a recorded helper had nobody knows.
+    state.belongsHere = machine.kind() == MachineKind::recorded || isHelperOf(state.details, version());
     return writeToStandardOutput(form == OutputForm::json ? helperStateAsJson(state)
                                                           : helperStateAsText(state));
 }
@@ -42,7 +46,7 @@ Result<void> runHelper(Machine& machine, const HelperCommand& command) {
     const bool install = command.wish == HelperWish::install;
     const auto change = [&](PowerMonitor& monitor) -> Result<void> {
         if (command.wish == HelperWish::status) {
-            return printState(platform, command.form);
+            return printState(machine, platform, command.form);
         }
         if (install && isMissing(machine, *platform.folders)) {
             return problem(

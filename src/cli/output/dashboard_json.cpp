@@ -104,6 +104,9 @@ struct AsJson {
     static Json of(const HelperSection& section) {
         auto json = members(section);
         json.erase("installed");
+        if (!section.update) {
+            json.erase("update");
+        }
         return json;
     }
 

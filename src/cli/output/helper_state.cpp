@@ -1,9 +1,12 @@
 #include "cli/output/helper_state.h"
 
+#include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
 #include "base/utf8.h"
+#include "base/version.h"
 #include "helper/daemon_status.h"
+#include "helper/helper_version.h"
 #include "helper/json_record.h"
 
 namespace quelby::cli {
@@ -30,6 +33,13 @@ Json orNull(const std::optional<std::string>& text, bool (*isWhole)(const std::s
     return text && isWhole(*text) ? Json::parse(*text, nullptr, false) : Json();
 }
 
+std::string versionLine(const std::optional<std::string>& details) {
+    const auto found = helperVersion(details);
+    return fmt::format(
+        "it is {}, and not of version {} as this program: quelbyctl helper install updates it\n",
+        found ? "of version " + printable(*found) : "of an unknown version", version());
+}
+
 } // namespace
 
 std::string helperStateAsText(const HelperState& state) {
@@ -37,6 +47,9 @@ std::string helperStateAsText(const HelperState& state) {
         return "the helper is not installed\n";
     }
     std::string text = "the helper is installed and running\n";
+    if (!state.belongsHere) {
+        text += versionLine(state.details);
+    }
     const auto details = state.details ? JsonRecord::read(*state.details) : std::nullopt;
     if (const auto explanation = details ? details->text("explanation") : std::nullopt) {
         text += printable(*explanation) + '\n';

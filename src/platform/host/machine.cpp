@@ -1,5 +1,6 @@
 #include "platform/host/machine.h"
 
+#include <functional>
 #include <map>
 #include <random>
 
@@ -59,7 +60,7 @@ std::unique_ptr<Preferences> makeMemoryPreferences() {
 
 // In the file, where one is named.
 std::unique_ptr<Preferences> preferencesIn(const std::optional<std::filesystem::path>& file,
-                                           std::unique_ptr<Preferences> (*makeOthers)()) {
+                                           const std::function<std::unique_ptr<Preferences>()>& makeOthers) {
     return file ? std::make_unique<QtPreferences>(file) : makeOthers();
 }
 
@@ -89,6 +90,11 @@ public:
         return machine_.helperStatus() ? machine_.helperStatus() : files_.status();
     }
 
+    // Which version it was is not recorded, and nobody would bring another.
+    [[nodiscard]] std::optional<std::string> details() override { return std::nullopt; }
+
+    [[nodiscard]] bool detailsChanged() override { return false; }
+
     [[nodiscard]] Result<void> replaceConfig(std::string_view text) override {
         return files_.replaceConfig(text);
     }
@@ -111,7 +117,8 @@ public:
     explicit ThisComputer(const MachineOptions& options)
         : readers_(makeSystemReaders(options.roots))
         , folders_(makeSystemFolders(), namedFolders(options))
-        , preferences_(preferencesIn(options.preferences, makeSystemPreferences)) {}
+        , preferences_(
+              preferencesIn(options.preferences, [&] { return makeSystemPreferences(options.program); })) {}
 
     [[nodiscard]] Platform platform() override {
         return {.battery = *readers_.battery,

@@ -19,6 +19,7 @@ struct MachineOptions {
     std::optional<std::filesystem::path> configDir;    // instead of the helper's folder
     std::optional<std::filesystem::path> preferences;  // instead of the user's preference store
     SystemRoots roots;
+    ProgramKind program = ProgramKind::tool;
 };
 
 enum class MachineKind { thisComputer, recorded };

@@ -29,17 +29,10 @@ std::string withEscapes(std::string_view text) {
     return escaped;
 }
 
-std::string removal() {
-    return fmt::format("launchctl unload '{0}' 2>/dev/null; rm -f '{0}'; rm -f '{1}'; rm -rf '{2}'",
-                       propertyList, executable, folder);
-}
-
-} // namespace
-
-std::string macosInstallScript(std::string_view resourceFolder) {
+std::string installation(std::string_view resourceFolder) {
     auto content = launchdPropertyList();
     content.pop_back(); // the line break before the here-document's end is the last line's
-    return asAdministrator(fmt::format(
+    return fmt::format(
         "mkdir -p '{executableFolder}' '{folder}' && cp '{resources}/{name}' '{executable}'"
         " && chmod 755 '{executable}' && chmod 777 '{folder}' && cat > '{propertyList}' << 'PLIST'\n"
         "{content}\n"
@@ -48,7 +41,23 @@ std::string macosInstallScript(std::string_view resourceFolder) {
         fmt::arg("executableFolder", executableFolder), fmt::arg("folder", folder),
         fmt::arg("resources", resourceFolder), fmt::arg("name", helperExecutableName),
         fmt::arg("executable", executable), fmt::arg("propertyList", propertyList),
-        fmt::arg("content", withEscapes(content))));
+        fmt::arg("content", withEscapes(content)));
+}
+
+std::string removal() {
+    return fmt::format("launchctl unload '{0}' 2>/dev/null; rm -f '{0}'; rm -f '{1}'; rm -rf '{2}'",
+                       propertyList, executable, folder);
+}
+
+} // namespace
+
+std::string macosInstallScript(std::string_view resourceFolder) {
+    return asAdministrator(installation(resourceFolder));
+}
+
+std::string macosUpdateScript(std::string_view resourceFolder) {
+    return asAdministrator(fmt::format("launchctl unload '{}' 2>/dev/null; rm -f '{}'; {}", propertyList,
+                                       executable, installation(resourceFolder)));
 }
 
 std::string macosUninstallScript() {

@@ -12,6 +12,10 @@ namespace quelby {
 // it stands: one with a single quote breaks it.
 [[nodiscard]] std::string macosInstallScript(std::string_view resourceFolder);
 
+// The same in place of a helper that is loaded: stops it, and removes its executable, for the system would not run
+// another one that is written over it.
+[[nodiscard]] std::string macosUpdateScript(std::string_view resourceFolder);
+
 // Stops the helper and removes all that installing made, each part whatever became of the others.
 [[nodiscard]] std::string macosUninstallScript();
 

@@ -14,6 +14,7 @@ namespace fs = std::filesystem;
 
 HelperScripts linuxHelperScripts() {
     return {.install = [](const fs::path& resources) { return linuxInstallScript(resources); },
+            .update = nullptr,
             .uninstall = [] { return linuxUninstallScript(); },
             .uninstallEverything =
                 [](const fs::path& program) { return linuxFullUninstallScript(installedProgram(program)); },
@@ -23,6 +24,7 @@ HelperScripts linuxHelperScripts() {
 
 HelperScripts macosHelperScripts() {
     return {.install = [](const fs::path& resources) { return macosInstallScript(resources.native()); },
+            .update = [](const fs::path& resources) { return macosUpdateScript(resources.native()); },
             .uninstall = macosUninstallScript,
             .uninstallEverything =
                 [](const fs::path& program) { return macosFullUninstallScript(program.native()); },
@@ -43,7 +45,9 @@ std::optional<PackageManager> ScriptedInstaller::packageManager() {
 
 Result<void> ScriptedInstaller::install() {
     const auto resources = folders_.resources();
-    if (!resources || !runAsRoot_(scripts_.install(*resources))) {
+    const bool updates = scripts_.update != nullptr && isLoaded();
+    const auto script = updates ? scripts_.update : scripts_.install;
+    if (!resources || !runAsRoot_(script(*resources))) {
         return problem("the helper was not installed");
     }
     return {};

@@ -14,6 +14,10 @@ namespace quelby {
 // What one system does, in its own language of scripts.
 struct HelperScripts {
     std::string (*install)(const std::filesystem::path& resources);
+
+    // In place of installing, where a helper is loaded; null where installing does it as well.
+    std::string (*update)(const std::filesystem::path& resources);
+
     std::string (*uninstall)();
     std::string (*uninstallEverything)(const std::filesystem::path& program);
 

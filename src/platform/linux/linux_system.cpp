@@ -18,7 +18,7 @@ std::unique_ptr<Folders> makeSystemFolders() {
     return std::make_unique<XdgFolders>();
 }
 
-std::unique_ptr<Preferences> makeSystemPreferences() {
+std::unique_ptr<Preferences> makeSystemPreferences(ProgramKind /*kind*/) {
     return std::make_unique<QtPreferences>(std::nullopt);
 }
 

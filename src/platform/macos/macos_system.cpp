@@ -19,8 +19,8 @@ std::unique_ptr<Folders> makeSystemFolders() {
     return std::make_unique<BundleFolders>();
 }
 
-std::unique_ptr<Preferences> makeSystemPreferences() {
-    return std::make_unique<UserDefaults>();
+std::unique_ptr<Preferences> makeSystemPreferences(ProgramKind kind) {
+    return std::make_unique<UserDefaults>(kind);
 }
 
 SystemServices makeSystemServices(Folders& folders) {

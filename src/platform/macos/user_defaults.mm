@@ -1,5 +1,6 @@
 #include "platform/macos/user_defaults.h"
 
+#include <CoreFoundation/CoreFoundation.h>
 #import <Foundation/Foundation.h>
 
 #include "platform/macos/foundation_text.h"
@@ -19,12 +20,13 @@ NSObject* stored(std::string_view key, Class type) {
     return [value isKindOfClass:type] != NO ? value : nil;
 }
 
-// A program for the terminal may end before the system keeps the change by itself.
-void keepAtOnce() {
-    static_cast<void>([defaults() synchronize]);
-}
-
 } // namespace
+
+void UserDefaults::keep() const {
+    if (kind_ == ProgramKind::tool) {
+        static_cast<void>(CFPreferencesAppSynchronize(kCFPreferencesCurrentApplication));
+    }
+}
 
 std::optional<std::string> UserDefaults::text(std::string_view key) {
     @autoreleasepool {
@@ -43,7 +45,7 @@ void UserDefaults::setText(std::string_view key, std::string_view value) {
         const auto name = foundationText(key);
         const auto text = foundationText(value);
         [defaults() setObject:text.get() forKey:name.get()];
-        keepAtOnce();
+        keep();
     }
 }
 
@@ -51,7 +53,7 @@ void UserDefaults::setFlag(std::string_view key, bool value) {
     @autoreleasepool {
         const auto name = foundationText(key);
         [defaults() setBool:(value ? YES : NO) forKey:name.get()];
-        keepAtOnce();
+        keep();
     }
 }
 
@@ -59,7 +61,7 @@ void UserDefaults::remove(std::string_view key) {
     @autoreleasepool {
         const auto name = foundationText(key);
         [defaults() removeObjectForKey:name.get()];
-        keepAtOnce();
+        keep();
     }
 }
 
@@ -67,7 +69,7 @@ void UserDefaults::removeAll() {
     @autoreleasepool {
         if (NSString* const domain = [[NSBundle mainBundle] bundleIdentifier]) {
             [defaults() removePersistentDomainForName:domain];
-            keepAtOnce();
+            keep();
         }
     }
 }

@@ -32,6 +32,15 @@ std::optional<std::string> HelperFiles::status() {
     return readSharedFile(folder_ / "status.json", longestText);
 }
 
+std::optional<std::string> HelperFiles::details() {
+    detailsSeen_ = stateOf(detailsFile());
+    return readSharedFile(detailsFile(), longestText);
+}
+
+bool HelperFiles::detailsChanged() {
+    return detailsSeen_ != stateOf(detailsFile());
+}
+
 Result<void> HelperFiles::replaceConfig(std::string_view text) {
     makeOpenFolder(folder_);
     if (writeSharedFile(configFile(), text)) {

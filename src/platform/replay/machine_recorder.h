@@ -45,6 +45,10 @@ private:
 
     bool configChanged() override { return real_.helperFolder->configChanged(); }
 
+    std::optional<std::string> details() override { return real_.helperFolder->details(); }
+
+    bool detailsChanged() override { return real_.helperFolder->detailsChanged(); }
+
     Result<void> replaceConfig(std::string_view text) override {
         return real_.helperFolder->replaceConfig(text);
     }

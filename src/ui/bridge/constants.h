@@ -5,6 +5,7 @@
 #include <QString>
 #include <qqmlintegration.h>
 
+#include "platform/interface_font.h"
 #include "ui/presentation/elements/metrics.h"
 #include "ui/presentation/text/words.h"
 
@@ -23,7 +24,10 @@ public:
 
     [[nodiscard]] static int height() { return viewHeight; }
 
-    [[nodiscard]] static QString family() { return QString::fromUtf8(fontFamily); }
+    // The system's, or else the dashboard's own.
+    [[nodiscard]] static QString family() {
+        return QString::fromStdString(interfaceFontFamily().value_or(std::string(fontFamily)));
+    }
 };
 
 class Words : public QObject {

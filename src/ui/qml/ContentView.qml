@@ -18,6 +18,10 @@ FocusScope {
     property bool contrast: false
     property real textScale: 1
 
+    // What is behind the view.
+    property bool blurred: false
+    property bool material: false
+
     // Where nothing else draws the edge of the window.
     property bool edged: false
     property bool rounded: false
@@ -99,6 +103,7 @@ FocusScope {
     Binding { target: Theme; property: "animated"; value: view.animated }
     Binding { target: Theme; property: "contrast"; value: view.contrast }
     Binding { target: Theme; property: "textScale"; value: view.textScale }
+    Binding { target: Theme; property: "blurred"; value: view.blurred }
 
     // A question that was left open does not come back by itself.
     Connections {
@@ -144,6 +149,7 @@ FocusScope {
         anchors.fill: parent
         radius: view.cornerRadius
         color: Theme.window
+        visible: !view.material
     }
 
     Flickable {

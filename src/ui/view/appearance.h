@@ -1,6 +1,16 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 namespace quelby {
+
+// What the dashboard lies on.
+enum class Backdrop {
+    none,     // anything: the dashboard's own background covers it
+    blurred,  // anything, blurred: the background lets a little of it through
+    material, // what the system makes for this, with a tint of its own: the dashboard has no background there
+};
 
 // How the desktop likes its programs.
 struct Appearance {
@@ -8,6 +18,11 @@ struct Appearance {
     bool animated = true;
     bool contrast = false; // more of it than most need
     double textScale = 1;  // 1 to 1.5; everything grows with the text, so that no word is cut
+
+    // The colour of what is chosen or offered, as 0xRRGGBB. The dashboard's own where the desktop has none.
+    std::optional<std::uint32_t> accent = std::nullopt;
+
+    Backdrop backdrop = Backdrop::none;
 
     bool operator==(const Appearance&) const = default;
 };

@@ -19,13 +19,23 @@ void failIfBroken(const QQmlComponent& component) {
     }
 }
 
+bool isBlurred(const Appearance& appearance) {
+    return appearance.backdrop == Backdrop::blurred;
+}
+
+bool isMaterial(const Appearance& appearance) {
+    return appearance.backdrop == Backdrop::material;
+}
+
 std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& model, Appearance appearance) {
     auto* const object =
         component.createWithInitialProperties({{QStringLiteral("dashboard"), QVariant::fromValue(&model)},
                                                {QStringLiteral("dark"), appearance.dark},
                                                {QStringLiteral("animated"), appearance.animated},
                                                {QStringLiteral("contrast"), appearance.contrast},
-                                               {QStringLiteral("textScale"), appearance.textScale}});
+                                               {QStringLiteral("textScale"), appearance.textScale},
+                                               {QStringLiteral("blurred"), isBlurred(appearance)},
+                                               {QStringLiteral("material"), isMaterial(appearance)}});
     failIfBroken(component);
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
     return std::unique_ptr<QQuickItem>(qobject_cast<QQuickItem*>(object));
@@ -58,6 +68,8 @@ void DashboardView::setAppearance(Appearance appearance) {
     item_->setProperty("animated", appearance.animated);
     item_->setProperty("contrast", appearance.contrast);
     item_->setProperty("textScale", appearance.textScale);
+    item_->setProperty("blurred", isBlurred(appearance));
+    item_->setProperty("material", isMaterial(appearance));
 }
 
 void DashboardView::setFrame(ViewFrame frame) {

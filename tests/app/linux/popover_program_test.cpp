@@ -73,6 +73,20 @@ TEST_F(PopoverProgram, OpensAndClosesWithThePressesOfTheItem) {
     expectCleanEnd();
 }
 
+TEST_F(PopoverProgram, HasWhatIsBehindItBlurredByACompositorThatDoesSo) {
+    screen->announceBlur();
+    pressItem(place);
+    const auto window = opened();
+    EXPECT_EQ(screen->blurredBehind(window), QRect(0, 0, 400, 660));
+    expectCleanEnd();
+}
+
+TEST_F(PopoverProgram, AsksNoCompositorThatBlursNothing) {
+    pressItem(place);
+    EXPECT_TRUE(screen->blurredBehind(opened()).isNull());
+    expectCleanEnd();
+}
+
 TEST_F(PopoverProgram, ClosesWithAPressElsewhere) {
     pressItem(place);
     static_cast<void>(opened());

@@ -1,6 +1,7 @@
 // Stands in for AppKit: one menu bar, one pointer, one keyboard.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <set>
 #include <string>
@@ -17,10 +18,16 @@ struct MenuRow {
 
 struct AppKit {
     bool itemsHaveButtons = true;
+    bool buttonsAreInWindows = true;
+    bool itemsHaveRoom = true; // in the menu bar
     std::set<std::string> missingSymbols;
     bool menuBarIsDark = false;
     bool systemIsDark = false;
+    std::string fontFamily = ".AppleSystemUIFont";
     bool reducesMotion = false;
+    bool reducesTransparency = false;
+    bool increasesContrast = false;
+    std::optional<std::array<double, 3>> accent = {{0, 0.5, 1}}; // in sRGB; none: it cannot be told there
     bool viewsAreFlipped = true;
     std::string choice; // the row that is chosen from the next menu; none where there is no such row
 
@@ -66,6 +73,12 @@ void press(Press how);
 
 // A person clicks elsewhere.
 void clickElsewhere();
+
+// The person changes the menu bar, the system's windows, a colour of theirs, or what makes them easier to see.
+void menuBarTurns(bool dark);
+void systemTurns(bool dark);
+void colorsChange();
+void accessibilityChanges();
 
 // The application's delegate would now be told so.
 void finishLaunching();

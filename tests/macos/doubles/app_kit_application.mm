@@ -63,27 +63,6 @@ using namespace quelby::fake;
 
 NSString* NSApplicationDidFinishLaunchingNotification = @"NSApplicationDidFinishLaunchingNotification";
 NSString* NSApplicationWillTerminateNotification = @"NSApplicationWillTerminateNotification";
-NSString* const NSAppearanceNameAqua = @"NSAppearanceNameAqua";
-NSString* const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
-
-@implementation NSAppearance
-@end
-
-@implementation ShownAppearance
-
-+ (NSAppearance*)thatIsDark:(bool)dark {
-    ShownAppearance* const appearance = [[[ShownAppearance alloc] init] autorelease];
-    appearance->dark_ = dark ? YES : NO;
-    return appearance;
-}
-
-- (NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray*)names {
-    NSString* const name = dark_ != NO ? NSAppearanceNameDarkAqua : NSAppearanceNameAqua;
-    return [names containsObject:name] != NO ? name : nil;
-}
-
-@end
-
 @implementation NSEvent
 
 + (NSEvent*)ofType:(NSEventType)type flags:(NSUInteger)flags characters:(NSString*)characters {
@@ -135,12 +114,29 @@ NSString* const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
     return [ShownAppearance thatIsDark:appKit().systemIsDark];
 }
 
+- (void)addObserver:(NSObject*)observer
+         forKeyPath:(NSString*)keyPath
+            options:(NSKeyValueObservingOptions)options
+            context:(void*)context {
+    demand([keyPath isEqualToString:@"effectiveAppearance"] != NO, "a property that nobody watches");
+    state().appearanceObservers.push_back(observer);
+}
+
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath {
+    demand([keyPath isEqualToString:@"effectiveAppearance"] != NO, "a property that nobody watches");
+    demand(std::erase(state().appearanceObservers, observer) == 1, "an observer that is none");
+}
+
 - (NSEvent*)currentEvent {
     return state().currentEvent;
 }
 
 - (void)activateIgnoringOtherApps:(BOOL)ignoring {
-    note(ignoring != NO ? "activateIgnoringOtherApps" : "activate");
+    note(ignoring != NO ? "activateIgnoringOtherApps" : "activateUnlessOthers");
+}
+
+- (void)activate {
+    note("activate");
 }
 
 - (void)terminate:(id)sender {
@@ -158,14 +154,6 @@ NSString* const NSAppearanceNameDarkAqua = @"NSAppearanceNameDarkAqua";
 
 - (NSRect)frame {
     return NSMakeRect(0, 0, 1440, 900);
-}
-
-@end
-
-@implementation NSWorkspace (Accessibility)
-
-- (BOOL)accessibilityDisplayShouldReduceMotion {
-    return appKit().reducesMotion ? YES : NO;
 }
 
 @end

@@ -8,6 +8,10 @@ using namespace quelby::fake;
     note("makeKeyWindow");
 }
 
+- (BOOL)isVisible {
+    return appKit().itemsHaveRoom ? YES : NO;
+}
+
 - (NSRect)convertRectToScreen:(NSRect)rect {
     return NSOffsetRect(rect, 1000, 876);
 }
@@ -59,6 +63,9 @@ using namespace quelby::fake;
 
 - (NSAppearance*)effectiveAppearance {
     return [ShownAppearance thatIsDark:_window == nil ? appKit().systemIsDark : appKit().menuBarIsDark];
+}
+
+- (void)viewDidChangeEffectiveAppearance {
 }
 
 - (NSRect)convertRect:(NSRect)rect toView:(NSView*)view {
@@ -122,7 +129,7 @@ using namespace quelby::fake;
 - (instancetype)init {
     self = [super initWithFrame:NSMakeRect(0, 0, 60, 24)];
     static NSWindow* const window = [[NSWindow alloc] init];
-    [self standIn:window];
+    [self standIn:appKit().buttonsAreInWindows ? window : nil];
     title_ = @"";
     mask_ = NSEventMaskLeftMouseUp;
     return self;

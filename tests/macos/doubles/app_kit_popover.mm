@@ -58,6 +58,10 @@ NSString* NSPopoverDidCloseNotification = @"NSPopoverDidCloseNotification";
     _contentViewController = controller;
 }
 
+- (NSViewController*)contentViewController {
+    return _contentViewController;
+}
+
 - (BOOL)isShown {
     return _shown;
 }
@@ -68,6 +72,9 @@ NSString* NSPopoverDidCloseNotification = @"NSPopoverDidCloseNotification";
     note("showRelativeToRect " + sizeText(rect.size) +
          (view == state().button ? " of the button" : " of another view") +
          (edge == NSRectEdgeMinY ? " at the bottom" : " elsewhere"));
+    if ([[view window] isVisible] == NO) {
+        return;
+    }
     if (_realWindow == nil) {
         _realWindow = [[NSWindow alloc] init];
     }

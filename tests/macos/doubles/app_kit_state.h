@@ -19,6 +19,7 @@ struct AppKitState {
     NSPopover* popover = nil;        // the one that was made last
     int items = 0;
     std::vector<KeyMonitor> monitors;
+    std::vector<NSObject*> appearanceObservers; // of the application
 };
 
 [[nodiscard]] AppKitState& state();

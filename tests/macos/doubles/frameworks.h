@@ -19,9 +19,14 @@ struct Frameworks {
 
     std::vector<std::string> openedUrls;
 
+    int writtenDefaults = 0; // how often the program asked for it
+
     // The calendar's answers and the formatter's: seconds since 1970 to what is made of them.
     std::function<double(double)> startOfDay = [](double moment) { return moment; };
     std::function<std::string(double, double)> spokenDate = [](double, double) { return "3 days ago"; };
+    std::vector<std::string> languages = {
+        "en"};                  // that the user reads, the best one first; GNUstep knows no "en-US"
+    std::string spokenLanguage; // of the formatter, when it was asked last
 
     // Of the main bundle.
     std::string bundlePath = "/Applications/Quelby.app";

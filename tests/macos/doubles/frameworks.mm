@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #import <AppKit/AppKit.h>
+#include <CoreFoundation/CoreFoundation.h>
 #import <Foundation/Foundation.h>
 #import <Foundation/NSDebug.h>
 #import <ServiceManagement/ServiceManagement.h>
@@ -82,6 +83,17 @@ std::string defaultsDomain() {
 } // namespace quelby::fake
 
 using namespace quelby::fake;
+
+const CFStringRef kCFPreferencesCurrentApplication = reinterpret_cast<CFStringRef>(1);
+
+Boolean CFPreferencesAppSynchronize(CFStringRef domain) {
+    if (domain != kCFPreferencesCurrentApplication) {
+        std::fputs("Misused: preferences of another program.\n", stderr);
+        std::abort();
+    }
+    ++frameworks().writtenDefaults;
+    return [[NSUserDefaults standardUserDefaults] synchronize] != NO ? 1 : 0;
+}
 
 @implementation SMAppService
 
@@ -181,9 +193,32 @@ using namespace quelby::fake;
 
 @end
 
+@implementation NSLocale (Languages)
+
++ (NSArray*)preferredLanguages {
+    NSMutableArray* const languages = [NSMutableArray array];
+    for (const auto& language : frameworks().languages) {
+        [languages addObject:autoreleased(language)];
+    }
+    return languages;
+}
+
+@end
+
 @implementation NSRelativeDateTimeFormatter
 
+- (void)setLocale:(NSLocale*)locale {
+    [language_ release];
+    language_ = [[locale localeIdentifier] copy];
+}
+
+- (void)dealloc {
+    [language_ release];
+    [super dealloc];
+}
+
 - (NSString*)localizedStringForDate:(NSDate*)date relativeToDate:(NSDate*)reference {
+    frameworks().spokenLanguage = language_ == nil ? "the program's" : [language_ UTF8String];
     return autoreleased(
         frameworks().spokenDate([date timeIntervalSince1970], [reference timeIntervalSince1970]));
 }

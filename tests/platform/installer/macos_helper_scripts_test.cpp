@@ -75,6 +75,13 @@ TEST(MacosInstallScript, TakesThePathOfTheResourcesAsItStands) {
               std::string::npos);
 }
 
+TEST(MacosUpdateScript, StopsTheHelperAndRemovesItsExecutableBeforeItInstalls) {
+    EXPECT_EQ(shellCommand(macosUpdateScript("/Applications/Quelby.app/Contents/Resources")),
+              "launchctl unload '/Library/LaunchDaemons/com.quelby.limiter.plist' 2>/dev/null; "
+              "rm -f '/Library/PrivilegedHelperTools/pwr_limiter'; " +
+                  shellCommand(install));
+}
+
 TEST(MacosUninstallScript, StopsTheHelperAndRemovesEachPart) {
     EXPECT_EQ(macosUninstallScript(), beginning + removal + end);
 }

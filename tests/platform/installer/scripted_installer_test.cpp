@@ -69,6 +69,16 @@ TEST_F(ScriptedInstallerTest, LeavesTheFilesOfAPackageToItsManager) {
     EXPECT_THAT(ran, ElementsAre(linuxUninstallScript()));
 }
 
+TEST_F(ScriptedInstallerTest, UpdatesAHelperThatIsLoadedOnMacos) {
+    auto scripts = macosHelperScripts();
+    scripts.query = {"true"};
+    EXPECT_TRUE(installer(scripts).install());
+    scripts.query = {"false"};
+    EXPECT_TRUE(installer(scripts).install());
+    EXPECT_THAT(ran, ElementsAre(macosUpdateScript("/opt/it's/resources"),
+                                 macosInstallScript("/opt/it's/resources")));
+}
+
 TEST_F(ScriptedInstallerTest, RunsTheScriptsOfMacos) {
     auto system = installer(macosHelperScripts());
     EXPECT_TRUE(system.install());

@@ -92,6 +92,16 @@ TEST_F(HelperFilesTest, TellAConfigThatChangedSinceItWasRead) {
     EXPECT_TRUE(files.configChanged());
 }
 
+TEST_F(HelperFilesTest, TellDetailsThatChangedSinceTheyWereRead) {
+    EXPECT_TRUE(files.detailsChanged()) << "they were not looked at";
+    EXPECT_EQ(files.details(), std::nullopt);
+    EXPECT_FALSE(files.detailsChanged());
+    folder.write("details.json", "{}");
+    EXPECT_TRUE(files.detailsChanged());
+    EXPECT_EQ(files.details(), "{}");
+    EXPECT_FALSE(files.detailsChanged());
+}
+
 TEST_F(HelperFilesTest, TellAConfigThatWasRewrittenInPlaceByItsTimeAndItsSize) {
     folder.write("config.json", "text");
     fs::last_write_time(config, fs::file_time_type(std::chrono::seconds(1)));

@@ -128,6 +128,12 @@ bool MadeUp::set(const QString& name, const QVariant& value) {
     return found;
 }
 
+void MadeUp::setHelperOutdated(bool outdated) {
+    auto& monitor = *dashboard_.monitor;
+    monitor.helperOutdated = outdated;
+    monitor.daemonInstalled = bool(monitor.daemonInstalled); // which is what observers hear of
+}
+
 QVariant MadeUp::field(const QString& name) const {
     QVariant value;
     forEachField(static_cast<const PublishedFields&>(*dashboard_.monitor),

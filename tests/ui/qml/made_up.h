@@ -46,6 +46,10 @@ public:
     // lists as arrays, the points of the history as [id, watts], processes as [name, cpu, watts]. False where
     // there is no such field.
     Q_INVOKABLE bool set(const QString& name, const QVariant& value);
+
+    // The helper is another version's.
+    Q_INVOKABLE void setHelperOutdated(bool outdated);
+
     Q_INVOKABLE QVariant field(const QString& name) const;
 
 private:

@@ -21,6 +21,21 @@ DashboardTestCase {
         return named(ToggleSwitch, said.chargeLimit.title.text)
     }
 
+    function test_aHelperOfAnotherVersionIsOfferedAnUpdateInBothPlaces() {
+        set("daemonInstalled", true)
+        set("chargeLimitEnabled", true)
+        madeUp.setHelperOutdated(true)
+        settle()
+        compare(all(ActionButton, one(ChargeLimitCard)).length, 1)
+        compare(all(StepSlider, one(ChargeLimitCard)).length, 1)
+        view.showSettings = true
+        settle()
+        compare(all(ActionButton, one(HelperSection)).length, 2)
+        madeUp.setHelperOutdated(false)
+        settle()
+        compare(all(ActionButton, one(HelperSection)).length, 1)
+    }
+
     function test_chargeLimitIsSwitched(way) {
         way.act(limitSwitch())
         verify(!config().chargeLimitEnabled)

@@ -64,6 +64,22 @@ QObject* themeOf(ShownView& view) {
     return asking ? asking->property("theme").value<QObject*>() : nullptr;
 }
 
+// For texts that lie on no card.
+TEST(Contrast, IsEnoughWhateverIsBehindAWindowThatItShinesThrough) {
+    for (const bool dark : {false, true}) {
+        MadeUpDashboard dashboard;
+        ShownView view(dashboard, {.dark = dark, .animated = false, .backdrop = Backdrop::blurred});
+        auto* const theme = themeOf(view);
+        ASSERT_NE(theme, nullptr);
+        const auto window = theme->property("window").value<QColor>();
+        EXPECT_LT(window.alphaF(), 1);
+        for (const QColor behind : {Qt::black, Qt::white}) {
+            const auto background = over(window, behind);
+            EXPECT_GE(contrast(theme->property("quiet").value<QColor>(), background), readable);
+        }
+    }
+}
+
 class Readability : public testing::TestWithParam<bool> {
 protected:
     [[nodiscard]] static bool dark() { return GetParam(); }

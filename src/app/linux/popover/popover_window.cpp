@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QSvgRenderer>
 
+#include "app/linux/popover/window_blur.h"
 #include "app/linux/popover/x_window_hints.h"
 #include "app/linux/session/window_system.h"
 #include "ui/presentation/elements/metrics.h"
@@ -22,6 +23,7 @@ constexpr auto focusMayComeBack = 50ms;
 
 constexpr int lowestOrdinaryWindow = 240; // points
 constexpr int frameOfAWindow = 48;        // points, with some air
+constexpr double cornerRadius = 10;       // points, of the dashboard's own edge
 constexpr int iconSide = 64;              // pixels
 
 QIcon programIcon() {
@@ -134,6 +136,7 @@ void PopoverWindow::placed(QSize size, Qt::Edge panel) {
     window_->setMaximumSize(size);
     window_->resize(size);
     view_.item().setHeight(size.height());
+    lieOnWhatIsBehind();
     const bool seenThrough = showsTransparency();
     view_.setFrame(seenThrough ? ViewFrame::rounded : ViewFrame::straight);
     if (seenThrough && appearance_.animated) {
@@ -141,6 +144,13 @@ void PopoverWindow::placed(QSize size, Qt::Edge panel) {
     } else {
         entrance_.end();
     }
+}
+
+void PopoverWindow::lieOnWhatIsBehind() {
+    const bool blurred = !appearance_.contrast && showsTransparency() &&
+                         askForBlur(*window_, cornerRadius * appearance_.textScale);
+    backdrop_ = blurred ? Backdrop::blurred : Backdrop::none;
+    setAppearance(appearance_);
 }
 
 void PopoverWindow::showAsOrdinaryWindow() {
@@ -165,7 +175,8 @@ void PopoverWindow::hide() {
 
 void PopoverWindow::setAppearance(Appearance appearance) {
     appearance_ = appearance;
-    view_.setAppearance(appearance);
+    appearance_.backdrop = appearance.contrast ? Backdrop::none : backdrop_;
+    view_.setAppearance(appearance_);
 }
 
 void PopoverWindow::focusLeft() {

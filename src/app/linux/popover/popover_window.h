@@ -38,11 +38,13 @@ private:
     void showAtTheItem(const ItemPress& press);
     void showAsOrdinaryWindow();
     void placed(QSize size, Qt::Edge panel);
+    void lieOnWhatIsBehind();
     void focusLeft();
 
     PopoverForm form_;
     Listener listener_;
     Appearance appearance_;
+    Backdrop backdrop_ = Backdrop::none;
     DashboardModel model_;
     DashboardView view_;
     std::unique_ptr<QQuickWindow> window_;

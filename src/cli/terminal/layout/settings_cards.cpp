@@ -38,6 +38,10 @@ CardText text(const HelperSection& section, int columns) {
     CardText written{.title = titleLine(section), .content = sentence(section.explanation, columns)};
     written.content.push_back(statusLine(section.status.dot, section.status.text));
     written.content.push_back(buttonLine(span(section.button)));
+    if (section.update) {
+        append(written.content, sentence(section.update->explanation, columns));
+        written.content.push_back(buttonLine(span(section.update->installButton.text)));
+    }
     return written;
 }
 

@@ -51,6 +51,12 @@ HelperOffer helperOffer() {
 
 } // namespace
 
+HelperOffer helperUpdate() {
+    return {.explanation = secondary("The charge helper that is installed is not the one of this version."),
+            .installButton = {{"arrow.down.circle.fill", ColorName::white},
+                              {"Update Helper (one-time password)", ColorName::white}}};
+}
+
 ChargeLimitCard chargeLimitCard(const PublishedFields& fields, const SystemWords& words) {
     const bool works = fields.chargeLimitEnabled && fields.daemonInstalled;
     ChargeLimitCard card{
@@ -63,6 +69,9 @@ ChargeLimitCard chargeLimitCard(const PublishedFields& fields, const SystemWords
         card.offer = helperOffer();
     } else if (fields.chargeLimitEnabled) {
         card.stopLevel = stopLevel(fields, words);
+    }
+    if (fields.helperOutdated) {
+        card.offer = helperUpdate();
     }
     return card;
 }

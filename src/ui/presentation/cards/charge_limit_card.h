@@ -28,7 +28,7 @@ struct StatusLine {
     QUELBY_RECORD(StatusLine)
 };
 
-// What is shown instead of any setting while there is no helper.
+// What is shown instead of any setting while there is no helper, and above them while it is another version's.
 #define QUELBY_MEMBERS_OF_HelperOffer(MEMBER)                                                                \
     MEMBER(part, Text, explanation)                                                                          \
     MEMBER(part, Label, installButton)
@@ -53,7 +53,7 @@ struct StopLevel {
     MEMBER(plain, bool, enabled)                                                                             \
     MEMBER(plain, bool, helperInstalled)                                                                     \
     MEMBER(part, Text, subtitle)                                                                             \
-    MEMBER(optional, HelperOffer, offer)   /* without helper */                                              \
+    MEMBER(optional, HelperOffer, offer)   /* without helper, or with another version's */                   \
     MEMBER(optional, StopLevel, stopLevel) /* with helper, while the limit is on */
 
 struct ChargeLimitCard {
@@ -77,6 +77,9 @@ inline constexpr std::array<Int, 4> scaleLevels{20, 60, 80, 100};
     return static_cast<double>(level - stopRange.lowest) /
            static_cast<double>(stopRange.highest - stopRange.lowest);
 }
+
+// For a helper of another version than the program.
+[[nodiscard]] HelperOffer helperUpdate();
 
 [[nodiscard]] ChargeLimitCard chargeLimitCard(const PublishedFields& fields, const SystemWords& words);
 

@@ -87,7 +87,8 @@ HelperSection helperSection(const PublishedFields& fields) {
             .status = {installed ? ColorName::green : ColorName::red,
                        primary(installed ? "Helper installed & running" : "Helper not installed")},
             .installed = installed,
-            .button = primary(installed ? "Uninstall" : "Install")};
+            .button = primary(installed ? "Uninstall" : "Install"),
+            .update = fields.helperOutdated ? std::optional(helperUpdate()) : std::nullopt};
 }
 
 UninstallSection uninstallSection() {

@@ -59,7 +59,8 @@ struct CalibrationSection {
     MEMBER(part, Text, explanation)                                                                          \
     MEMBER(part, StatusLine, status)                                                                         \
     MEMBER(plain, bool, installed) /* which the button undoes */                                             \
-    MEMBER(part, Text, button)
+    MEMBER(part, Text, button)                                                                               \
+    MEMBER(optional, HelperOffer, update) /* while it is another version's */
 
 struct HelperSection {
     QUELBY_RECORD(HelperSection)

@@ -43,4 +43,22 @@ CardChrome {
             }
         }
     }
+
+    InkText {
+        content: card.content.update.explanation
+        visible: card.content.update.present
+        wrapMode: Text.WordWrap
+        Layout.fillWidth: true
+    }
+
+    ActionButton {
+        visible: card.content.update.present
+        symbol: card.content.update.installButton.symbol
+        label: card.content.update.installButton.text.text
+        ink: Theme.ink(card.content.update.installButton.text.color)
+        surface: pressed || hovered ? Theme.accentPressed : Theme.fills[Ink.Accent]
+        Layout.fillWidth: true
+        Layout.maximumWidth: Math.ceil(implicitWidth)
+        onClicked: card.installWanted()
+    }
 }

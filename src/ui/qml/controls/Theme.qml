@@ -12,6 +12,7 @@ QtObject {
     property bool animated: true
     property bool contrast: false
     property real textScale: 1
+    property bool blurred: false // what is behind the window
 
     // All sizes are multiples of this, in points.
     readonly property real unit: 2 * textScale
@@ -47,7 +48,8 @@ QtObject {
     readonly property int glide: animated ? 120 : 0 // ms
     readonly property int fade: animated ? 120 : 0 // ms
 
-    readonly property color window: dark ? "#1b1b1f" : "#e9e9ee"
+    // Of what is behind it shows no more than every text can bear, be that black or white.
+    readonly property color window: dark ? (blurred ? "#d91b1b1f" : "#1b1b1f") : blurred ? "#f0e9e9ee" : "#e9e9ee"
     readonly property color edge: dark ? "#4d4d54" : "#c3c3ca"
     readonly property color card: contrast ? (dark ? "#000000" : "#ffffff") : dark ? "#12ffffff" : "#b8ffffff"
     readonly property color track: dark ? "#598e8e93" : "#408e8e93"

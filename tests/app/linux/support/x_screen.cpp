@@ -168,6 +168,27 @@ bool XScreen::isOutOfWindowLists(const XWindow& window) const {
     return has("_NET_WM_STATE_SKIP_TASKBAR") && has("_NET_WM_STATE_SKIP_PAGER");
 }
 
+void XScreen::announceBlur() {
+    auto* const x = connection_.get();
+    const auto compositor = xcb_generate_id(x);
+    xcb_create_window(x, XCB_COPY_FROM_PARENT, compositor, root_, -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_set_selection_owner(x, compositor, xAtom(x, "_NET_WM_CM_S0"), XCB_CURRENT_TIME);
+    const auto property = xAtom(x, "_KDE_NET_WM_BLUR_BEHIND_REGION");
+    xcb_change_property(x, XCB_PROP_MODE_REPLACE, root_, property, property, 8, 0, nullptr);
+    xcb_flush(x);
+}
+
+QRect XScreen::blurredBehind(const XWindow& window) const {
+    const auto numbers = property(window.id, "_KDE_NET_WM_BLUR_BEHIND_REGION");
+    QRect area;
+    for (std::size_t i = 0; i + 3 < numbers.size(); i += 4) {
+        area |= QRect(static_cast<int>(numbers[i]), static_cast<int>(numbers[i + 1]),
+                      static_cast<int>(numbers[i + 2]), static_cast<int>(numbers[i + 3]));
+    }
+    return area;
+}
+
 void XScreen::takeKeyboardAway() const {
     xcb_set_input_focus(connection_.get(), XCB_INPUT_FOCUS_PARENT, root_, XCB_CURRENT_TIME);
     xcb_flush(connection_.get());

@@ -51,6 +51,12 @@ public:
     // The settings that the programs of the desktop share. To begin with, no two presses are a double one.
     void setSettings(const XSettingValues& values);
 
+    // There is a compositor, which blurs what is behind the windows that ask for it.
+    void announceBlur();
+
+    // What it blurs behind the window, in pixels of it; nothing where it was not asked.
+    [[nodiscard]] QRect blurredBehind(const XWindow& window) const;
+
     // The server ends, and with it the screen.
     void end();
 

@@ -47,8 +47,6 @@ enum : NSEventModifierFlags {
 + (void)removeMonitor:(id)monitor;
 @end
 
-// The application
-
 typedef enum __attribute__((enum_extensibility(open))) NSApplicationActivationPolicy : NSInteger {
     NSApplicationActivationPolicyRegular,
     NSApplicationActivationPolicyAccessory,
@@ -68,11 +66,36 @@ extern "C" NSAppearanceName const NSAppearanceNameDarkAqua QUELBY_SINCE(10.14);
     QUELBY_SINCE(10.14);
 @end
 
+// Colours
+
+@interface NSColorSpace : NSObject
+@property(class, readonly, strong) NSColorSpace* sRGBColorSpace;
+@end
+
+@interface NSColor : NSObject
+@property(class, readonly, strong) NSColor* controlAccentColor QUELBY_SINCE(10.14);
+- (nullable NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
+// Of a colour in a space of red, green and blue; any other raises.
+@property(readonly) CGFloat redComponent;
+@property(readonly) CGFloat greenComponent;
+@property(readonly) CGFloat blueComponent;
+@end
+
+extern "C" NSNotificationName const NSSystemColorsDidChangeNotification;
+
+@interface NSFont : NSObject
++ (NSFont*)systemFontOfSize:(CGFloat)size; // 0: the usual size
+@property(readonly, copy, nullable) NSString* familyName;
+@end
+
+// The application
+
 @interface NSApplication : NSResponder
 @property(class, readonly, strong) NSApplication* sharedApplication;
 @property(readonly, strong, nullable) NSEvent* currentEvent;
 @property(readonly, strong) NSAppearance* effectiveAppearance QUELBY_SINCE(10.14);
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
+- (void)activate QUELBY_SINCE(14.0);
 - (void)activateIgnoringOtherApps:(BOOL)ignoring;
 - (void)terminate:(nullable id)sender;
 @end
@@ -82,9 +105,14 @@ extern "C" NSNotificationName const NSApplicationWillTerminateNotification;
 
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
+@property(readonly) BOOL accessibilityDisplayShouldIncreaseContrast;
 @property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
+@property(readonly) BOOL accessibilityDisplayShouldReduceTransparency;
 - (BOOL)openURL:(NSURL*)url;
 @end
+
+extern "C" NSNotificationName const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 
 // Views and windows
 
@@ -97,9 +125,11 @@ extern "C" NSNotificationName const NSApplicationWillTerminateNotification;
 @property(copy, nullable) NSString* toolTip;
 @property(readonly, strong) NSAppearance* effectiveAppearance QUELBY_SINCE(10.14);
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView*)view;
+- (void)viewDidChangeEffectiveAppearance QUELBY_SINCE(10.14);
 @end
 
 @interface NSWindow : NSResponder
+@property(readonly, getter=isVisible) BOOL visible;
 - (void)makeKeyWindow;
 - (NSRect)convertRectToScreen:(NSRect)rect;
 @end
@@ -189,7 +219,7 @@ static const NSControlStateValue NSControlStateValueOff = 0;
 static const NSControlStateValue NSControlStateValueOn = 1;
 
 @interface NSMenuItem : NSObject
-+ (instancetype)separatorItem;
++ (NSMenuItem*)separatorItem;
 - (instancetype)initWithTitle:(NSString*)title action:(nullable SEL)action keyEquivalent:(NSString*)key;
 @property(weak, nullable) id target;
 @property NSInteger tag;

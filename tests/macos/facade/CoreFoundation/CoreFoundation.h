@@ -18,7 +18,6 @@ typedef uint32_t UInt32;
 typedef signed long CFIndex;
 typedef unsigned long CFTypeID;
 typedef UInt32 CFStringEncoding;
-typedef CFIndex CFNumberType;
 
 typedef const void* CFTypeRef;
 typedef const struct __CFAllocator* CFAllocatorRef;
@@ -32,7 +31,7 @@ enum { kNilOptions = 0 };
 
 enum { kCFStringEncodingUTF8 = 0x08000100 };
 
-enum { kCFNumberSInt64Type = 4 };
+typedef enum CFNumberType : CFIndex { kCFNumberSInt64Type = 4 } CFNumberType;
 
 extern const CFAllocatorRef _Nullable kCFAllocatorDefault;
 
@@ -57,6 +56,12 @@ CFTypeID CFDictionaryGetTypeID(void);
 CFIndex CFDictionaryGetCount(CFDictionaryRef _Nonnull dictionary);
 void CFDictionaryGetKeysAndValues(CFDictionaryRef _Nonnull dictionary, const void* _Nonnull* _Nullable keys,
                                   const void* _Nonnull* _Nullable values);
+
+// The program's own domain of preferences.
+extern const CFStringRef _Nonnull kCFPreferencesCurrentApplication;
+
+// Writes what was changed, and takes over what others have. False where it could not be written.
+Boolean CFPreferencesAppSynchronize(CFStringRef _Nonnull domain);
 
 #ifdef __cplusplus
 }

@@ -90,12 +90,15 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 - (BOOL)isEqualToString:(NSString*)text;
 @end
 
-@interface NSNumber : NSObject
+@interface NSValue : NSObject
+@end
+
+@interface NSNumber : NSValue
 @property(readonly) BOOL boolValue;
 @end
 
 @interface NSArray<__covariant ObjectType> : NSObject
-+ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nullable])objects count:(NSUInteger)count;
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)count;
 @property(readonly) NSUInteger count;
 @property(nullable, readonly) ObjectType firstObject;
 @end
@@ -104,6 +107,22 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 @end
 
 @interface NSError : NSObject
+@end
+
+typedef NSString* NSKeyValueChangeKey;
+
+typedef NSUInteger NSKeyValueObservingOptions __attribute__((flag_enum, enum_extensibility(open)));
+
+@interface NSObject (NSKeyValueObserving)
+- (void)observeValueForKeyPath:(nullable NSString*)keyPath
+                      ofObject:(nullable id)object
+                        change:(nullable NSDictionary<NSKeyValueChangeKey, id>*)change
+                       context:(nullable void*)context;
+- (void)addObserver:(NSObject*)observer
+         forKeyPath:(NSString*)keyPath
+            options:(NSKeyValueObservingOptions)options
+            context:(nullable void*)context;
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath;
 @end
 
 typedef NSString* NSNotificationName;
@@ -124,9 +143,10 @@ typedef NSString* NSNotificationName;
 + (nullable instancetype)URLWithString:(NSString*)text;
 @end
 
-typedef NSUInteger NSSearchPathDirectory __attribute__((enum_extensibility(open)));
-
-enum : NSSearchPathDirectory { NSLibraryDirectory = 5, NSApplicationSupportDirectory = 14 };
+typedef enum __attribute__((enum_extensibility(open))) NSSearchPathDirectory : NSUInteger {
+    NSLibraryDirectory = 5,
+    NSApplicationSupportDirectory = 14,
+} NSSearchPathDirectory;
 
 typedef NSUInteger NSSearchPathDomainMask __attribute__((flag_enum, enum_extensibility(open)));
 
@@ -148,7 +168,17 @@ typedef double NSTimeInterval;
 - (NSDate*)startOfDayForDate:(NSDate*)date;
 @end
 
-@interface NSRelativeDateTimeFormatter : NSObject
+@interface NSLocale : NSObject
+@property(class, readonly, copy) NSArray<NSString*>* preferredLanguages;
++ (instancetype)localeWithLocaleIdentifier:(NSString*)identifier;
+@end
+
+@interface NSFormatter : NSObject
+@end
+
+QUELBY_SINCE(10.15)
+@interface NSRelativeDateTimeFormatter : NSFormatter
+@property(copy, null_resettable) NSLocale* locale;
 - (NSString*)localizedStringForDate:(NSDate*)date relativeToDate:(NSDate*)reference;
 @end
 
@@ -172,7 +202,6 @@ typedef double NSTimeInterval;
 - (void)setBool:(BOOL)value forKey:(NSString*)key;
 - (void)removeObjectForKey:(NSString*)key;
 - (void)removePersistentDomainForName:(NSString*)domain;
-- (BOOL)synchronize;
 @end
 
 @interface NSAppleEventDescriptor : NSObject

@@ -17,9 +17,21 @@
 
 enum : NSCellImagePosition { NSImageLeading = 7 };
 
+extern NSString* const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
+
 @interface NSApplication (Gaps)
+- (void)activate;
 - (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)policy;
 - (NSAppearance*)effectiveAppearance;
+@end
+
+@interface NSColor (Gaps)
++ (NSColor*)controlAccentColor;
+- (NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
+@end
+
+@interface NSColorSpace (Gaps)
++ (NSColorSpace*)sRGBColorSpace;
 @end
 
 @interface NSEvent (Gaps)
@@ -41,9 +53,12 @@ enum : NSCellImagePosition { NSImageLeading = 7 };
 
 @interface NSView (Gaps)
 - (NSAppearance*)effectiveAppearance;
+- (void)viewDidChangeEffectiveAppearance;
 @end
 
 @interface NSWorkspace (Gaps)
+- (BOOL)accessibilityDisplayShouldIncreaseContrast;
 - (BOOL)accessibilityDisplayShouldReduceMotion;
+- (BOOL)accessibilityDisplayShouldReduceTransparency;
 @end
 #endif

@@ -8,7 +8,10 @@
 - (NSDate*)startOfDayForDate:(NSDate*)date;
 @end
 
-@interface NSRelativeDateTimeFormatter : NSObject
+@interface NSRelativeDateTimeFormatter : NSObject {
+    NSString* language_;
+}
+- (void)setLocale:(NSLocale*)locale;
 - (NSString*)localizedStringForDate:(NSDate*)date relativeToDate:(NSDate*)reference;
 @end
 #endif

@@ -98,6 +98,21 @@ TEST_F(ChargeLimitCardTest, OffersTheHelperOrTellsWhatItIsDoingOrIsOnlyAHeader) 
     }
 }
 
+TEST_F(ChargeLimitCardTest, OffersAnUpdateOfAHelperOfAnotherVersionAboveItsSettings) {
+    const auto settings = chargeLimitCard(fields, linuxWords).stopLevel;
+    fields.helperOutdated = true;
+    const auto card = chargeLimitCard(fields, linuxWords);
+    EXPECT_EQ(card.offer,
+              (HelperOffer{.explanation = secondary(
+                               "The charge helper that is installed is not the one of this version."),
+                           .installButton = {{"arrow.down.circle.fill", ColorName::white},
+                                             {"Update Helper (one-time password)", ColorName::white}}}));
+    EXPECT_EQ(card.stopLevel, settings);
+    fields.chargeLimitEnabled = false;
+    EXPECT_EQ(chargeLimitCard(fields, linuxWords).offer, card.offer);
+    EXPECT_EQ(chargeLimitCard(fields, linuxWords).stopLevel, std::nullopt);
+}
+
 TEST_F(ChargeLimitCardTest, SaysNothingOfAPlugThatTheSystemDoesNotHave) {
     fields.isPluggedIn = true;
     EXPECT_EQ(chargeLimitCard(fields, linuxWords).stopLevel->status.text.text, "Charging to 80%");

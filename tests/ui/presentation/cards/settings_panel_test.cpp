@@ -143,6 +143,9 @@ TEST(HelperSection, OffersToInstallTheHelper) {
     expected.installed = true;
     expected.button = primary("Uninstall");
     EXPECT_EQ(helperSection(fields), expected);
+    fields.helperOutdated = true;
+    expected.update = helperUpdate();
+    EXPECT_EQ(helperSection(fields), expected);
 }
 
 TEST(UninstallSection, OffersTheWayOut) {
