@@ -48,6 +48,10 @@ expect "and leaves nothing of that" test "$first" = "$(contents "$prefix")"
 
 expect "uninstalls" install_it --uninstall
 expect "what was there before is there, and nothing else" test "$before" = "$(contents "$prefix")"
+expect "installs below a folder that is not there" "$source_dir/install" --built "$build" --prefix "$work/new"
+expect "twice" "$source_dir/install" --built "$build" --prefix "$work/new"
+expect "uninstalls from there" "$source_dir/install" --uninstall --prefix "$work/new"
+expect "and the folder is not there" test ! -e "$work/new"
 expect_not "there is nothing to uninstall twice" install_it --uninstall
 expect_not "refuses a prefix that is relative" "$source_dir/install" --prefix relative --built "$build"
 

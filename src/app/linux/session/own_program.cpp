@@ -40,6 +40,7 @@ Problem OwnProgram::startAnew(char** argv, const char* oneMore) const {
     }
     words.emplace_back(oneMore);
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (auto& word : words) {
         arguments.push_back(word.data());
     }
