@@ -50,8 +50,12 @@ struct Reading {
     }
 
     void addPictureOptions(CLI::Option& screenshotForm) {
-        add("--view", "dashboard|settings", "With --screenshot: the page to draw; dashboard unless named",
-            screenshotForm, [this](const std::string& text) { screenshot.page = parsePage(text); });
+        add("--view", "dashboard|settings|energy",
+            "With --screenshot: the page to draw; dashboard unless named", screenshotForm,
+            [this](const std::string& text) {
+                screenshot.energy = text == "energy";
+                screenshot.page = screenshot.energy ? Page::dashboard : parsePage(text);
+            });
         add("--scale", "N", "With --screenshot: pixels in a point", screenshotForm,
             [this](const std::string& text) {
                 screenshot.scale = parseNumber("--scale", text, smallestScale, largestScale);

@@ -18,7 +18,8 @@ struct HeadlessCommand {};
 struct ScreenshotCommand {
     std::filesystem::path file;
     Page page = Page::dashboard;
-    double scale = 1; // pixels in a point; 0.5 to 8
+    bool energy = false; // where it went, in place of the page
+    double scale = 1;    // pixels in a point; 0.5 to 8
     bool dark = false;
     double scroll = 0; // points from the top
 };

@@ -52,6 +52,7 @@ Result<void> draw(PowerMonitor& monitor, Clock& clock, const ScreenshotCommand& 
     }
     monitor.selectHistoryRange(monitor.historyRange); // with what the cycles have recorded
     const PictureOptions options{.settings = command.page == Page::settings,
+                                 .energy = command.energy,
                                  .dark = command.dark,
                                  .scale = command.scale,
                                  .scrolledTo = command.scroll};

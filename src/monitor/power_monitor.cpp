@@ -165,6 +165,16 @@ void PowerMonitor::recordEnergy() {
     }
 }
 
+EnergyReport PowerMonitor::energyReport(EnergyRange range) {
+    if (!options_.history) {
+        return {.range = range};
+    }
+    if (energyRecorder_) {
+        energyRecorder_->write();
+    }
+    return EnergyReader(platform_.folders->applicationSupport(), *platform_.clock).report(range);
+}
+
 std::optional<double> PowerMonitor::minutesToLimit() const {
     return quelby::minutesToLimit(batteryRecord_, *this);
 }

@@ -11,6 +11,7 @@
 #include <memory>
 
 #include "base/cycle_interval.h"
+#include "history/energy/energy_reader.h"
 #include "history/history_store.h"
 #include "monitor/battery_prediction.h"
 #include "monitor/energy_recorder.h"
@@ -84,6 +85,9 @@ public:
 
     // Shows another range of the history, or the same one renewed.
     void selectHistoryRange(TimeRange range);
+
+    // Where the energy went, up to now; empty without a history.
+    [[nodiscard]] EnergyReport energyReport(EnergyRange range);
 
     // Minutes until charging will stop at the limit; nothing where it will not, or cannot be said yet.
     [[nodiscard]] std::optional<double> minutesToLimit() const;

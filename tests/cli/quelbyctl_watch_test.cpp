@@ -163,6 +163,21 @@ TEST_F(QuelbyctlWatch, ShowsTheRangeOfTheKey) {
     program.showsUntil("\x1b[7;38;5;69m 30m ");
 }
 
+TEST_F(QuelbyctlWatch, ShowsWhereTheEnergyWentAndLeadsBack) {
+    TerminalProgram program(watching(), 80, 70, plainEnvironment());
+    program.showsUntil(said.powerBadge.caption.text);
+    program.type("e");
+    program.showsUntil("Nothing recorded yet");
+    program.type("5");
+    program.showsUntil("\x1b[7;38;5;69m On Battery ");
+    program.type("e");
+    program.showsUntil(said.powerBadge.caption.text);
+    program.type("e");
+    program.showsUntil("By Application");
+    program.type("\x1b");
+    program.showsUntil(said.powerBadge.caption.text);
+}
+
 TEST_F(QuelbyctlWatch, ExplainsItsKeys) {
     TerminalProgram program(watching(), 80, 70, plainEnvironment());
     program.showsUntil("help");

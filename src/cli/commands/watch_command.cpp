@@ -34,13 +34,20 @@ public:
 private:
     [[nodiscard]] Result<void> draw() {
         view_.size = screen_.size();
-        const auto frame = watchFrame(dashboard(*monitor_, platform_.clock->now(), systemWords()), view_);
+        const auto frame =
+            watchFrame(dashboard(*monitor_, platform_.clock->now(), systemWords()), view_, energy());
         view_.scrolledBy = std::clamp(view_.scrolledBy, 0, frame.furthestScroll);
         page_ = frame.page;
         std::vector<std::string> lines;
         std::transform(frame.lines.begin(), frame.lines.end(), std::back_inserter(lines),
                        [this](const Line& line) { return withSequences(line, colors_); });
         return screen_.show(lines);
+    }
+
+    [[nodiscard]] std::optional<EnergyPanel> energy() const {
+        return energyShown_ ? std::optional(energyPanel(monitor_->energyReport(energyRange_), *monitor_,
+                                                        monitor_->minutesToLimit()))
+                            : std::nullopt;
     }
 
     void redraw() {
@@ -72,6 +79,7 @@ private:
             act(press.character);
             break;
         case Key::escape:
+            energyShown_ = energyShown_ && view_.help; // the way back, one step at a time
             view_.help = false;
             break;
         case Key::up:
@@ -96,12 +104,22 @@ private:
     }
 
     void act(char character) {
-        const auto range = static_cast<std::size_t>(character - '1');
         if (character == 'q') {
             ::raise(SIGTERM); // ends the run as a signal from outside does
         } else if (character == '?') {
             view_.help = !view_.help;
-        } else if (character >= '1' && range < allTimeRanges.size() && monitor_ != nullptr) {
+        } else if (character == 'e') {
+            energyShown_ = !energyShown_;
+            view_.scrolledBy = 0;
+        } else if (character >= '1') {
+            select(static_cast<std::size_t>(character - '1'));
+        }
+    }
+
+    void select(std::size_t range) {
+        if (energyShown_ && range < allEnergyRanges.size()) {
+            energyRange_ = allEnergyRanges.at(range);
+        } else if (!energyShown_ && range < allTimeRanges.size() && monitor_ != nullptr) {
             monitor_->selectHistoryRange(allTimeRanges.at(range));
         }
     }
@@ -110,6 +128,8 @@ private:
     Platform platform_;
     ColorDepth colors_ = outputColors();
     WatchView view_;
+    bool energyShown_ = false; // in place of the cards
+    EnergyRange energyRange_ = EnergyRange::today;
     int page_ = 1; // rows by which a page is scrolled
     TerminalScreen screen_;
     KeyListener keys_{screen_.takesKeys(), [this](std::string_view bytes) { press(bytes); }};

@@ -148,4 +148,12 @@ std::vector<BatteryDay> EnergyReader::batteryDays() const {
     return days;
 }
 
+EnergyReport EnergyReader::report(EnergyRange range) const {
+    return {.range = range,
+            .apps = byApp(range),
+            .sleeps = sleeps(),
+            .sessions = sessions(),
+            .days = batteryDays()};
+}
+
 } // namespace quelby

@@ -16,6 +16,15 @@ namespace quelby {
 [[nodiscard]] std::vector<TimedEnergy> byDay(const std::vector<TimedEnergy>& hours,
                                              Date (*startOfDay)(Date moment));
 
+// What is known at one moment.
+struct EnergyReport {
+    EnergyRange range = EnergyRange::today;
+    std::vector<NamedEnergy> apps; // the largest first
+    std::vector<Sleep> sleeps;     // latest first
+    std::vector<Session> sessions; // latest first
+    std::vector<BatteryDay> days;  // oldest first
+};
+
 // The history is opened anew for each answer, so what is recorded later is found. Where there is none, or where no program
 // has kept such tables in it yet, answers are empty.
 //
@@ -42,6 +51,8 @@ public:
 
     // Oldest first.
     [[nodiscard]] std::vector<BatteryDay> batteryDays() const;
+
+    [[nodiscard]] EnergyReport report(EnergyRange range) const;
 
 private:
     [[nodiscard]] Connection open() const;

@@ -38,6 +38,8 @@ class Words : public QObject {
     Q_PROPERTY(QString settings READ settings CONSTANT)
     Q_PROPERTY(QString back READ back CONSTANT)
     Q_PROPERTY(QString closeSettings READ closeSettings CONSTANT)
+    Q_PROPERTY(QString closeEnergy READ closeEnergy CONSTANT)
+    Q_PROPERTY(QString showEnergy READ showEnergy CONSTANT)
 
 public:
     [[nodiscard]] static QString program() { return QString::fromUtf8(words::program); }
@@ -47,6 +49,10 @@ public:
     [[nodiscard]] static QString back() { return QString::fromUtf8(words::back); }
 
     [[nodiscard]] static QString closeSettings() { return QString::fromUtf8(words::closeSettings); }
+
+    [[nodiscard]] static QString closeEnergy() { return QString::fromUtf8(words::closeEnergy); }
+
+    [[nodiscard]] static QString showEnergy() { return QString::fromUtf8(words::showEnergy); }
 };
 
 } // namespace quelby

@@ -26,6 +26,9 @@ void DashboardModel::setWatched(bool watched) {
     }
     if (watched) {
         subscribe();
+        if (energyShown_) {
+            loadEnergy(energyReport_.range);
+        }
         refresh(); // what is shown first is already up to date
     } else {
         subscriptions_.clear();
@@ -82,6 +85,8 @@ void DashboardModel::refresh() {
     }
     if (settingsShown_) {
         refreshSettings();
+    } else if (energyShown_) {
+        refreshEnergy();
     } else {
         refreshDashboard();
     }
@@ -100,6 +105,39 @@ void DashboardModel::refreshSettings() {
     auto content = settingsPanel(*monitor_, clock_.now(), relativeDate);
     renew(header_, content.header, &DashboardModel::headerChanged);
     renew(settings_, std::move(content), &DashboardModel::settingsChanged);
+}
+
+void DashboardModel::refreshEnergy() {
+    auto content = energyPanel(energyReport_, *monitor_, monitor_->minutesToLimit());
+    renew(header_, content.header, &DashboardModel::headerChanged);
+    renew(energy_, std::move(content), &DashboardModel::energyChanged);
+}
+
+void DashboardModel::loadEnergy(EnergyRange range) {
+    energyReport_ = monitor_->energyReport(range);
+}
+
+void DashboardModel::setEnergyShown(bool shown) {
+    if (shown == energyShown_) {
+        return;
+    }
+    energyShown_ = shown;
+    if (shown) {
+        loadEnergy(energyReport_.range);
+    }
+    if (isWatched()) {
+        refresh();
+    }
+    Q_EMIT energyShownChanged();
+}
+
+void DashboardModel::selectEnergyRange(int index) {
+    if (const auto range = elementAt(allEnergyRanges, index)) {
+        loadEnergy(*range);
+        if (isWatched()) {
+            refresh();
+        }
+    }
 }
 
 void DashboardModel::setSettingsShown(bool shown) {

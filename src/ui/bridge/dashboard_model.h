@@ -41,10 +41,12 @@ class DashboardModel : public QObject {
     // Set by the view: whether there is anybody who could see a change, and which of its sides is shown.
     Q_PROPERTY(bool watched READ isWatched WRITE setWatched NOTIFY watchedChanged)
     Q_PROPERTY(bool settingsShown READ areSettingsShown WRITE setSettingsShown NOTIFY settingsShownChanged)
+    Q_PROPERTY(bool energyShown READ isEnergyShown WRITE setEnergyShown NOTIFY energyShownChanged)
 
     Q_PROPERTY(quelby::HeaderValue header READ header NOTIFY headerChanged)
     QUELBY_CARDS(QUELBY_CARD_PROPERTY)
     Q_PROPERTY(quelby::SettingsPanelValue settings READ settings NOTIFY settingsChanged)
+    Q_PROPERTY(quelby::EnergyPanelValue energy READ energy NOTIFY energyChanged)
     Q_PROPERTY(quelby::LabelValue quitButton READ quitButton CONSTANT)
 
     Q_PROPERTY(quelby::DialogValue chargingTip READ chargingTip CONSTANT)
@@ -65,11 +67,18 @@ public:
 
     void setSettingsShown(bool shown);
 
+    [[nodiscard]] bool isEnergyShown() const { return energyShown_; }
+
+    // What is kept of the energy is asked for when it begins to be shown, and when another range is selected.
+    void setEnergyShown(bool shown);
+
     [[nodiscard]] HeaderValue header() const { return header_; }
 
     QUELBY_CARDS(QUELBY_CARD_READER)
 
     [[nodiscard]] SettingsPanelValue settings() const { return settings_; }
+
+    [[nodiscard]] EnergyPanelValue energy() const { return energy_; }
 
     [[nodiscard]] LabelValue quitButton() const;
     [[nodiscard]] DialogValue chargingTip() const;
@@ -86,6 +95,7 @@ public:
 
     // What is chosen counts from 0 in the order of its buttons; a number that no button has is ignored.
     Q_INVOKABLE void selectHistoryRange(int index);
+    Q_INVOKABLE void selectEnergyRange(int index);
     Q_INVOKABLE void setLaunchAtLogin(bool enabled);
     Q_INVOKABLE void selectMenuBarDisplay(int index);
     Q_INVOKABLE void setAutoCalibrate(bool enabled);
@@ -97,6 +107,8 @@ public:
 Q_SIGNALS:
     void watchedChanged();
     void settingsShownChanged();
+    void energyShownChanged();
+    void energyChanged();
     void headerChanged();
     QUELBY_CARDS(QUELBY_CARD_SIGNAL)
     void settingsChanged();
@@ -110,6 +122,8 @@ private:
     void refresh();
     void refreshDashboard();
     void refreshSettings();
+    void refreshEnergy();
+    void loadEnergy(EnergyRange range);
 
     // Holds what is coming, if it says something else, and tells so.
     template <typename Value, typename Record>
@@ -127,6 +141,9 @@ private:
     HeaderValue header_;
     QUELBY_CARDS(QUELBY_CARD_HELD)
     SettingsPanelValue settings_;
+    bool energyShown_ = false;
+    EnergyReport energyReport_;
+    EnergyPanelValue energy_;
 };
 
 } // namespace quelby

@@ -5,6 +5,7 @@
 #include "ui/presentation/cards/dialogs.h"
 #include "ui/presentation/cards/settings_panel.h"
 #include "ui/presentation/dashboard.h"
+#include "ui/presentation/energy/energy_panel.h"
 
 namespace quelby {
 
@@ -103,5 +104,15 @@ QUELBY_VALUE(HelperSection, helperContent)
 QUELBY_VALUE(UninstallSection, uninstallContent)
 QUELBY_VALUE(SettingsPanel, settingsContent)
 QUELBY_VALUE(Dialog, dialogContent)
+
+QUELBY_VALUE(EnergyRow, energyRowContent)
+QUELBY_VALUE(PastRow, pastRowContent)
+QUELBY_LIST(EnergyRow, energyRows)
+QUELBY_LIST(PastRow, pastRows)
+QUELBY_SERIES(HealthPoint, healthSeries)
+QUELBY_VALUE(EnergyUse, energyUseContent)
+QUELBY_VALUE(PastSection, pastContent)
+QUELBY_VALUE(AgeingSection, ageingContent)
+QUELBY_VALUE(EnergyPanel, energyContent)
 
 } // namespace quelby

@@ -27,6 +27,7 @@ FocusScope {
     property bool rounded: false
 
     property bool showSettings: false
+    property bool showEnergy: false // where it went, in place of the cards
     property bool showUninstallConfirm: false
     property bool uninstalling: false // as soon as the question is gone from the screen
     property alias scrollTop: scroll.contentY
@@ -93,12 +94,16 @@ FocusScope {
         }
     }
 
+    onShowEnergyChanged: scrollTo(0)
+
     onShowSettingsChanged: {
         scrollTo(0)
+        showEnergy = showEnergy && !showSettings
         showUninstallConfirm = showUninstallConfirm && showSettings
     }
 
     Binding { target: view.dashboard; property: "settingsShown"; value: view.showSettings }
+    Binding { target: view.dashboard; property: "energyShown"; value: view.showEnergy }
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
     Binding { target: Theme; property: "contrast"; value: view.contrast }
@@ -176,14 +181,17 @@ FocusScope {
             DashboardHeader {
                 content: view.dashboard.header
                 inSettings: view.showSettings
+                inEnergy: view.showEnergy
                 Layout.fillWidth: true
                 onSettingsToggled: view.showSettings = !view.showSettings
+                onEnergyClosed: view.showEnergy = false
             }
 
             DashboardCards {
                 dashboard: view.dashboard
-                visible: !view.showSettings
+                visible: !view.showSettings && !view.showEnergy
                 Layout.fillWidth: true
+                onEnergyWanted: view.showEnergy = true
             }
 
             // Made when it is wanted. A Loader of Qt 6.4 does not take bound components.
@@ -194,6 +202,15 @@ FocusScope {
                     dashboard: view.dashboard
                     Layout.fillWidth: true
                     onUninstallWanted: view.showUninstallConfirm = true
+                }
+            }
+
+            Repeater {
+                model: view.showEnergy ? 1 : 0
+
+                EnergyPanel {
+                    dashboard: view.dashboard
+                    Layout.fillWidth: true
                 }
             }
 

@@ -56,6 +56,7 @@ QImage dashboardPicture(DashboardModel& model, const PictureOptions& options) {
     DashboardView view(model, {.dark = options.dark, .animated = false});
     view.setWatched(true);
     view.showSettings(options.settings);
+    view.showEnergy(options.energy);
     auto picture = emptyPicture(view.item(), options.scale);
     PictureWindow window(view.item(), picture);
     window.settle();

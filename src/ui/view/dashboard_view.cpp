@@ -81,6 +81,10 @@ void DashboardView::showSettings(bool shown) {
     item_->setProperty("showSettings", shown);
 }
 
+void DashboardView::showEnergy(bool shown) {
+    item_->setProperty("showEnergy", shown);
+}
+
 void DashboardView::scrollTo(double top) {
     QMetaObject::invokeMethod(item_.get(), "scrollTo", Q_ARG(double, top));
 }

@@ -41,6 +41,7 @@ public:
     void setAppearance(Appearance appearance);
     void setFrame(ViewFrame frame);
     void showSettings(bool shown);
+    void showEnergy(bool shown); // where it went
 
     // In points from the top; the end of the column at the most.
     void scrollTo(double top);

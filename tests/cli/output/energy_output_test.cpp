@@ -18,8 +18,8 @@ EnergyOutput ofTwoApps() {
 TEST(EnergyOutput, TellsTheLargestFirstWithItsShareOfACharge) {
     EXPECT_EQ(energyInForm(ofTwoApps(), OutputForm::text, 60),
               "Today: 8.6 Wh, 17 % of a charge\n"
-              "  Web Browser    8.5 Wh   17 %  ███████████████████████████\n"
-              "  a \"b\", c     0.12 Wh   <1 %  ▍\n");
+              "  Web Browser    8.5 Wh   17 %  ████████████████████████████\n"
+              "  a \"b\", c      0.12 Wh   <1 %  ▍\n");
 }
 
 TEST(EnergyOutput, TellsNoShareWithoutABattery) {

@@ -15,6 +15,9 @@ DashboardTestCase {
         history: HistoryCard,
         efficiency: EfficiencyCard,
         details: BatteryDetailsCard,
+        use: EnergyUseCard,
+        past: PastCard,
+        ageing: AgeingCard,
         general: GeneralSection,
         calibration: CalibrationSection,
         helper: HelperSection,
@@ -118,6 +121,39 @@ DashboardTestCase {
             verify(!view.showSettings)
             compare(all(Symbol, one(DashboardHeader)).map(symbol => symbol.content.name), ["bolt.fill", "gearshape"])
         }
+    }
+
+    function test_opensTheEnergyByItsFigureAndLeadsBackInBothWays_data() {
+        return [{ tag: "chevron", back: Words.back }, { tag: "cross", back: Words.closeEnergy }]
+    }
+
+    function test_opensTheEnergyByItsFigureAndLeadsBackInBothWays(row) {
+        const today = said.history.today.text + ", " + Words.showEnergy
+        for (const act of [click, button => press(button, Qt.Key_Space), button => press(button, Qt.Key_Return)]) {
+            act(named(PlainButton, today))
+            verify(view.showEnergy)
+            compare(cardsFromTheTop(), ["use", "past", "past", "ageing"])
+            compare(texts(one(DashboardHeader)), [said.energy.header.title.text])
+            act(named(PlainButton, row.back))
+            verify(!view.showEnergy)
+            verify(!view.showSettings)
+            compare(cardsFromTheTop()[0], "chargeLimit")
+        }
+    }
+
+    function test_selectsTheRangeOfTheEnergy() {
+        view.showEnergy = true
+        settle()
+        click(all(ChoiceButton, one(EnergyUseCard))[3])
+        verify(said.energy.use.ranges.at(3).selected)
+        verify(!said.energy.use.ranges.at(0).selected)
+    }
+
+    function test_showsOnlyTheUseOfEnergyOfAMachineWithoutABattery() {
+        set("hasBattery", false)
+        view.showEnergy = true
+        settle()
+        compare(cardsFromTheTop(), ["use"])
     }
 
     function test_beginsAtTheTopOfEitherSide() {

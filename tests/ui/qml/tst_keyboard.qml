@@ -33,9 +33,13 @@ DashboardTestCase {
         return said.quitButton.text.text
     }
 
+    function today() {
+        return said.history.today.text + ", " + Words.showEnergy
+    }
+
     function dashboard() {
         return [Words.settings, said.chargeLimit.title.text, one(StepSlider).name, said.trend.title.text,
-                ...choices(HistoryCard), said.history.title.text, quit()]
+                today(), ...choices(HistoryCard), said.history.title.text, quit()]
     }
 
     function settings() {
@@ -46,7 +50,7 @@ DashboardTestCase {
     }
 
     function test_tabReachesEverythingInTheOrderInWhichItIsRead() {
-        compare(dashboard().length, 10)
+        compare(dashboard().length, 11)
         compare(roundOfTab(Qt.Key_Tab, Words.settings), dashboard())
         showSettings()
         compare(settings().length, 17)
@@ -61,12 +65,12 @@ DashboardTestCase {
         set("hasBattery", false)
         set("powerHistory", [])
         set("historyData", [])
-        compare(roundOfTab(Qt.Key_Tab, Words.settings), [Words.settings, ...choices(HistoryCard), quit()])
+        compare(roundOfTab(Qt.Key_Tab, Words.settings), [Words.settings, today(), ...choices(HistoryCard), quit()])
     }
 
     function test_whatHasTheFocusIsInSightAndShowsIt_data() {
         return [
-            { tag: "dashboard", settings: false, count: 10 },
+            { tag: "dashboard", settings: false, count: 11 },
             { tag: "settings", settings: true, count: 17 }
         ]
     }

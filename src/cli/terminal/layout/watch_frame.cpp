@@ -8,6 +8,7 @@
 #include "cli/terminal/layout/card_frame.h"
 #include "cli/terminal/layout/dashboard_cards.h"
 #include "cli/terminal/layout/dashboard_text.h"
+#include "cli/terminal/layout/energy_cards.h"
 
 namespace quelby::cli {
 
@@ -20,6 +21,8 @@ const Style quiet{.color = ColorName::secondary};
 Block helpCard(int columns) {
     constexpr int keyColumns = 14;
     constexpr std::array keys{std::pair("1 2 3 4", "history of 30 minutes, 1 hour, 24 hours, 7 days"),
+                              std::pair("1 to 5", "energy of today, 24 hours, 7 days, 30 days, on battery"),
+                              std::pair("e", "where the energy went, and back"),
                               std::pair("↑ ↓", "scroll by a row"),
                               std::pair("PgUp PgDn", "scroll by a page"),
                               std::pair("Home End", "to the beginning, to the end"),
@@ -32,11 +35,12 @@ Block helpCard(int columns) {
     return framed(card, columns);
 }
 
-Line footerLine(const WatchView& view, int furthestScroll) {
+Line footerLine(const WatchView& view, int furthestScroll, bool energy) {
     const auto layout = cardColumns(view.size.columns);
     Line keys{blanks(layout.margin + 1)};
     for (const auto& [key, meaning] :
-         {std::pair("q", " quit   "), std::pair("1-4", " range   "), std::pair("?", " help")}) {
+         {std::pair("q", " quit   "), std::pair(energy ? "1-5" : "1-4", " range   "),
+          std::pair("e", energy ? " dashboard   " : " energy   "), std::pair("?", " help")}) {
         keys.push_back({key, {.bold = true}});
         keys.push_back({meaning, quiet});
     }
@@ -45,12 +49,20 @@ Line footerLine(const WatchView& view, int furthestScroll) {
                   view.size.columns);
 }
 
+std::vector<Block> cards(const Dashboard& dashboard, const WatchView& view,
+                         const std::optional<EnergyPanel>& energy, int columns) {
+    if (view.help) {
+        return {helpCard(columns)};
+    }
+    return energy ? energyCards(*energy, columns) : dashboardCards(dashboard, columns);
+}
+
 } // namespace
 
-WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view) {
+WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view,
+                      const std::optional<EnergyPanel>& energy) {
     const auto layout = cardColumns(view.size.columns);
-    const auto content = view.help ? inColumns({helpCard(layout.width)}, layout)
-                                   : inColumns(dashboardCards(dashboard, layout.width), layout);
+    const auto content = inColumns(cards(dashboard, view, energy, layout.width), layout);
     const bool hasFooter = view.size.rows >= fewestRowsForFooter;
     const int page = std::max(view.size.rows - (hasFooter ? 2 : 1), 0);
     WatchFrame frame{.furthestScroll = std::max(static_cast<int>(content.size()) - page, 0), .page = page};
@@ -62,7 +74,8 @@ WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view) {
         frame.lines.push_back(fitted(source < content.size() ? content[source] : Line{}, view.size.columns));
     }
     if (hasFooter) {
-        frame.lines.push_back(footerLine({view.size, scrolledBy, view.help}, frame.furthestScroll));
+        frame.lines.push_back(
+            footerLine({view.size, scrolledBy, view.help}, frame.furthestScroll, energy.has_value()));
     }
     return frame;
 }

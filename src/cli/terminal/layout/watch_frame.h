@@ -1,10 +1,13 @@
-// What `quelbyctl watch` shows in a terminal: the dashboard between a header and the keys that can be
+// What `quelbyctl watch` shows in a terminal: the dashboard, or where the energy went, between a header and the keys that can be
 // pressed.
 #pragma once
+
+#include <optional>
 
 #include "cli/terminal/layout/styled_line.h"
 #include "cli/terminal/layout/terminal_size.h"
 #include "ui/presentation/dashboard.h"
+#include "ui/presentation/energy/energy_panel.h"
 
 namespace quelby::cli {
 
@@ -22,7 +25,8 @@ struct WatchFrame {
     int page = 1;           // rows of the cards that are shown
 };
 
-// A view that is scrolled beyond the end shows the end.
-[[nodiscard]] WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view);
+// A view that is scrolled beyond the end shows the end. Where there is one, the energy takes the place of the cards.
+[[nodiscard]] WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view,
+                                    const std::optional<EnergyPanel>& energy = std::nullopt);
 
 } // namespace quelby::cli

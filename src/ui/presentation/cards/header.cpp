@@ -5,6 +5,17 @@
 
 namespace quelby {
 
+namespace {
+
+Header headerWithWayBack(std::string_view title) {
+    return {.symbol = {"chevron.left", ColorName::primary},
+            .title = primary(std::string(title)),
+            .clock = std::nullopt,
+            .toggle = {"xmark.circle", ColorName::secondary}};
+}
+
+} // namespace
+
 Header dashboardHeader(Date now) {
     return {.symbol = {"bolt.fill", ColorName::yellow},
             .title = primary(std::string(words::program)),
@@ -13,10 +24,11 @@ Header dashboardHeader(Date now) {
 }
 
 Header settingsHeader() {
-    return {.symbol = {"chevron.left", ColorName::primary},
-            .title = primary(std::string(words::settings)),
-            .clock = std::nullopt,
-            .toggle = {"xmark.circle", ColorName::secondary}};
+    return headerWithWayBack(words::settings);
+}
+
+Header energyHeader() {
+    return headerWithWayBack(words::energy);
 }
 
 Label quitButton() {

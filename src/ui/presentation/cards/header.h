@@ -17,6 +17,7 @@ struct Header {
 
 [[nodiscard]] Header dashboardHeader(Date now);
 [[nodiscard]] Header settingsHeader();
+[[nodiscard]] Header energyHeader();
 
 [[nodiscard]] Label quitButton();
 

@@ -9,6 +9,8 @@ ColumnLayout {
 
     required property DashboardModel dashboard
 
+    signal energyWanted
+
     spacing: Theme.viewSpacing
 
     ChargeLimitCard {
@@ -51,6 +53,7 @@ ColumnLayout {
         content: cards.dashboard.history
         Layout.fillWidth: true
         onRangeChosen: index => cards.dashboard.selectHistoryRange(index)
+        onEnergyWanted: cards.energyWanted()
     }
 
     EfficiencyCard {

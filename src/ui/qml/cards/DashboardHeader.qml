@@ -8,24 +8,35 @@ RowLayout {
 
     required property headerContent content
     required property bool inSettings
+    property bool inEnergy: false
+    readonly property bool leadsBack: inSettings || inEnergy
 
     signal settingsToggled
+    signal energyClosed
+
+    function toggle() {
+        if (inEnergy) {
+            energyClosed()
+        } else {
+            settingsToggled()
+        }
+    }
 
     spacing: 4 * Theme.unit
 
     Symbol {
         content: header.content.symbol
         size: Theme.title2Size
-        visible: !header.inSettings
+        visible: !header.leadsBack
     }
 
     PlainButton {
         id: back
 
         name: Words.back
-        visible: header.inSettings
+        visible: header.leadsBack
         padding: Theme.unit
-        onClicked: header.settingsToggled()
+        onClicked: header.toggle()
 
         contentItem: Symbol {
             content: header.content.symbol
@@ -49,9 +60,9 @@ RowLayout {
     }
 
     PlainButton {
-        name: header.inSettings ? Words.closeSettings : Words.settings
+        name: header.inEnergy ? Words.closeEnergy : header.inSettings ? Words.closeSettings : Words.settings
         padding: Theme.unit
-        onClicked: header.settingsToggled()
+        onClicked: header.toggle()
 
         contentItem: Symbol {
             content: header.content.toggle

@@ -11,6 +11,7 @@ CardChrome {
     required property historyContent content
 
     signal rangeChosen(int index)
+    signal energyWanted
 
     name: content.title.text
     spacing: 5 * Theme.unit
@@ -19,7 +20,20 @@ CardChrome {
         symbol: card.content.symbol
         title: card.content.title
 
-        InkText { content: card.content.today }
+        // Looks like a text until somebody comes near.
+        PlainButton {
+            name: card.content.today.text + ", " + Words.showEnergy
+            leftInset: -2 * Theme.unit
+            rightInset: leftInset
+            topInset: -Theme.unit
+            bottomInset: topInset
+            onClicked: card.energyWanted()
+
+            contentItem: InkText {
+                content: card.content.today
+                silent: true
+            }
+        }
     }
 
     ChoiceRow {

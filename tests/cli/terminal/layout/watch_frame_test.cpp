@@ -59,7 +59,7 @@ TEST_F(WatchFrameTest, BeginsWithTheClockAndEndsWithTheKeys) {
     const auto shown = lines({.size = {60, 20}});
     EXPECT_THAT(shown.front(), HasSubstr("Quelby"));
     EXPECT_THAT(shown.front(), HasSubstr("22:13:20"));
-    EXPECT_THAT(shown.back(), HasSubstr("q quit   1-4 range   ? help"));
+    EXPECT_THAT(shown.back(), HasSubstr("q quit   1-4 range   e energy   ? help"));
 }
 
 TEST_F(WatchFrameTest, ShowsEveryCardWhereThereIsRoom) {
@@ -90,6 +90,28 @@ TEST_F(WatchFrameTest, SaysThatThereIsMoreBelow) {
     EXPECT_THAT(lines({.size = {60, 20}}).back(), HasSubstr("↓ more"));
     EXPECT_THAT(lines({.size = {60, 20}, .scrolledBy = WatchView::theEnd}).back(), Not(HasSubstr("more")));
     EXPECT_THAT(lines({.size = {160, 200}}).back(), Not(HasSubstr("more")));
+}
+
+TEST_F(WatchFrameTest, ShowsWhereTheEnergyWentInPlaceOfTheCards) {
+    fields.rawMaxCapacity = 4000;
+    fields.voltage = 12;
+    const EnergyReport report{.apps = {{"firefox", 8.2}, {"system", 4}},
+                              .sleeps = {{.start = 1'700'000'000, .seconds = 3600, .percentBefore = 50}}};
+    const auto panel = energyPanel(report, fields, 85.0);
+    for (const int columns : {40, 80, 120}) {
+        const auto shown =
+            watchFrame(dashboard(fields, 1'700'000'000, linuxWords), {.size = {columns, 60}}, panel);
+        std::string text;
+        for (const auto& line : shown.lines) {
+            text += withSequences(line, ColorDepth::none) + '\n';
+            EXPECT_EQ(displayWidth(withSequences(line, ColorDepth::none)), columns);
+        }
+        EXPECT_THAT(text, HasSubstr("firefox"));
+        EXPECT_THAT(text, HasSubstr("8.2 Wh   17 %"));
+        EXPECT_THAT(text, HasSubstr("~1h 25m to 80%"));
+        EXPECT_THAT(text, HasSubstr("drained more than 1 % an hour"));
+        EXPECT_THAT(text, Not(HasSubstr("Top Processes")));
+    }
 }
 
 TEST_F(WatchFrameTest, ShowsTheKeysInPlaceOfTheCards) {

@@ -25,6 +25,12 @@ TEST(Header, OfTheSettingsLeadsBackAndHasNoClock) {
     EXPECT_EQ(settingsHeader(), expected);
 }
 
+TEST(Header, OfTheEnergyLeadsBackLikeThatOfTheSettings) {
+    auto expected = settingsHeader();
+    expected.title = primary("Energy");
+    EXPECT_EQ(energyHeader(), expected);
+}
+
 TEST(QuitButton, SaysWhatItQuits) {
     EXPECT_EQ(quitButton(), (Label{{"xmark.circle", ColorName::secondary}, secondary("Quit Quelby")}));
 }
