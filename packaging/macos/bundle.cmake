@@ -35,6 +35,10 @@ function(make_application program companion)
         MACOSX_BUNDLE ON OUTPUT_NAME Quelby MACOSX_BUNDLE_INFO_PLIST ${property_list})
     set_target_properties(${companion} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY $<TARGET_BUNDLE_CONTENT_DIR:${program}>/MacOS)
+    # Where macdeployqt puts libraries. The linker is told, so that building and installing leave it as it is.
+    foreach(target ${program} ${companion})
+        target_link_options(${target} PRIVATE LINKER:-rpath,@executable_path/../Frameworks)
+    endforeach()
     add_icon(${program})
     add_resource(${program} ${PROJECT_SOURCE_DIR}/packaging/macos/put-quelbyctl-into-path)
     if(QUELBY_HELPER)

@@ -2,10 +2,7 @@
 
 set(QUELBY_SIGNING_IDENTITY "-" CACHE STRING "Whose signature the application gets; - for none of anybody's (ad hoc)")
 
-set(frameworks @executable_path/../Frameworks)
-set_target_properties(quelby quelbyctl PROPERTIES INSTALL_RPATH ${frameworks})
-install(TARGETS quelby BUNDLE DESTINATION .)
-install(TARGETS quelbyctl RUNTIME DESTINATION Quelby.app/Contents/MacOS) # there already, but for its search path
+install(TARGETS quelby BUNDLE DESTINATION .) # and quelbyctl in it
 
 # Qt's own tool takes Qt and every other library that does not come with the system into the application.
 find_program(MACDEPLOYQT macdeployqt HINTS ${Qt6_DIR}/../../../bin)
