@@ -41,10 +41,10 @@ QRegion insideOfCorners(QSize size, double radius) {
 
 bool askForBlur(QWindow& window, double cornerRadius) {
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (x11 == nullptr) {
+    auto* const connection = x11 == nullptr ? nullptr : x11->connection();
+    if (connection == nullptr) {
         return false;
     }
-    auto* const connection = x11->connection();
     const auto property = xAtom(connection, blurProperty);
     if (!isAnnounced(connection, property)) {
         return false;
