@@ -3,13 +3,12 @@
 
 import glob
 import os
-import sys
 import time
 
 from picture import Picture
-from session import Session, eventually
+from session import eventually
 from virtual_pointer import VirtualPointer, socket_path
-from walk import Walk
+from walk import walk_through
 
 CONFIG = """
 xwayland {xwayland}
@@ -25,6 +24,7 @@ STYLE = "* {{ font-family: sans-serif; font-size: 13px; }} window {{ background:
 
 
 class Sway:
+    kind = "sway"
     points = (1280, 800)
 
     def __init__(self, session, edge, scale, xwayland):
@@ -93,21 +93,15 @@ class Sway:
             "another workspace": lambda: self.command("workspace", "2"),
         }
 
+    def go_dark(self):
+        """As people do it who have no portal."""
+        self.session.run("gsettings", "set", "org.gnome.desktop.interface", "color-scheme", "prefer-dark")
+
     def tidy(self):
         self.command("workspace", "1")
 
 
 CASES = [("top", 1, "disable"), ("bottom", 1.5, "enable"), ("top", 2, "enable"), ("bottom", 1, "disable")]
 
-
-def main():
-    binaries, pictures = sys.argv[1:3]
-    for edge, scale, xwayland in CASES if "--all" in sys.argv else CASES[:2]:
-        with Session(binaries) as session:
-            desktop = Sway(session, edge, scale, xwayland)
-            desktop.start()
-            Walk(desktop, pictures, "--all" in sys.argv).run()
-
-
 if __name__ == "__main__":
-    main()
+    walk_through(Sway, CASES, usually=2)

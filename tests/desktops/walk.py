@@ -1,12 +1,15 @@
 """What a person does with the popover, on whatever desktop it is, and what must come of it."""
 
 import os
+import sys
 import time
 
-from session import eventually
+from contact_sheet import write_contact_sheet
+from session import Session, eventually
 
 VIEW = (400, 660)  # points
 GAP = 6  # points
+DARK = 0.35  # of white
 
 
 class Failure(Exception):
@@ -14,14 +17,16 @@ class Failure(Exception):
 
 
 class Walk:
-    """A desktop has: name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
+    """A desktop has: kind, name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
     aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
-    meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name)."""
+    meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name), tidy() (after these),
+    go_dark()."""
 
-    def __init__(self, desktop, pictures, keeps_all=False):
+    def __init__(self, desktop, pictures, looks_on=False):
         self.desktop = desktop
         self.pictures = pictures
-        self.keeps_all = keeps_all  # not only what is not as it should be
+        self.looks_on = looks_on  # and keeps what it sees
+        self.looks = {}  # pictures by what they show, for a person's eyes
         self.closed = None  # the picture without the popover
         self.item = None
 
@@ -33,6 +38,8 @@ class Walk:
             for name, step in self.desktop.steps_aside().items():
                 self.closes(name, step)
             self.opens_for_a_second_start()
+            if self.looks_on:
+                self.follows_into_the_dark()
             self.ends_cleanly()
         except Failure as failure:
             self.keep("failure")
@@ -75,20 +82,21 @@ class Walk:
         return last[0]
 
     def find_item(self):
-        """The item is what comes into the panel with the program."""
+        """The item is what comes into the panel with the program, at the right end: others may make room for it."""
         before = self.still()
         self.quelby = self.desktop.session.start(self.desktop.session.quelby)
         area = eventually(lambda: before.difference(self.desktop.picture(), self.area_of_panel()))
         self.require(area, "no item appears in the panel")
         area = before.difference(self.still(), self.area_of_panel())
-        self.item = ((area[0] + area[2]) // 2, (area[1] + area[3]) // 2)
+        self.item = (area[2] - (area[3] - area[1]) // 2, (area[1] + area[3]) // 2)
         self.closed = self.desktop.picture()
 
     def popover(self):
-        """Where it is; None where what has changed is smaller, as a pointer is."""
+        """Where it is; None where what has changed is smaller, as pointers and tool tips are."""
         area = self.closed.difference(self.desktop.picture(), self.area_of_windows())
-        wide = area and area[2] - area[0] >= VIEW[0] * self.desktop.scale / 2
-        return area if wide else None
+        scale = self.desktop.scale
+        large = area and area[2] - area[0] >= VIEW[0] * scale / 2 and area[3] - area[1] >= VIEW[1] * scale / 4
+        return area if large else None
 
     def press_item(self):
         self.desktop.press(*self.item)
@@ -108,8 +116,8 @@ class Walk:
     def opens_at_the_item_and_closes_with_its_press(self):
         area = self.open()
         self.require_place(area)
-        if self.keeps_all:
-            self.keep("open")
+        self.looks["closed"] = self.closed
+        self.looks["open"] = self.still()
         self.press_item()
         self.must_close("a second press of the item")
         time.sleep(0.6)
@@ -147,7 +155,36 @@ class Walk:
         self.desktop.escape()
         self.must_close("Escape after a second start")
 
+    def follows_into_the_dark(self):
+        self.desktop.go_dark()
+        self.closed = self.still()
+        self.press_item()
+        self.require(eventually(self.popover), "a press of the item does not open the popover in the dark")
+        self.desktop.rest()
+        self.require(eventually(lambda: self.desktop.picture().lightness(self.popover()) < DARK),
+                     "the popover stays light on a dark desktop")
+        self.looks["dark"] = self.still()
+        self.desktop.escape()
+        self.must_close("Escape in the dark")
+
     def ends_cleanly(self):
         self.quelby.terminate()
         status = self.quelby.wait(10)
         self.require(status == 0, f"the program ends with status {status}")
+
+
+def walk_through(kind, cases, usually=1):
+    """In a session of its own for each case. Usually only the first ones; with --all every one, with a contact sheet
+    in the end."""
+    binaries, pictures = sys.argv[1:3]
+    everything = "--all" in sys.argv
+    looks = {}
+    for case in cases if everything else cases[:usually]:
+        with Session(binaries) as session:
+            desktop = kind(session, *case)
+            desktop.start()
+            walk = Walk(desktop, pictures, everything)
+            walk.run()
+            looks.setdefault(desktop.scale, walk.looks)
+    if everything:
+        print(f"{kind.kind}: see {write_contact_sheet(pictures, kind.kind, looks)}")

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QStandardPaths>
 #include <QWindow>
 
 #include "app/linux/display.h"
@@ -39,7 +40,7 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, WithoutTray witho
     : bus_(bus)
     , platform_(platform)
     , withoutTray_(withoutTray)
-    , configurationFolder_(QString::fromStdString(platform_.folders->configuration().string()))
+    , configurationFolder_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
     , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
@@ -67,7 +68,11 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
                                                  forgetDisplay();
                                                  openBatterySettings();
                                              },
-                                         .appearance = [this] { return appearance(); }});
+                                         .appearance =
+                                             [this] {
+                                                 appearance_.refresh();
+                                                 return appearance();
+                                             }});
 }
 
 void LinuxDesktop::addKeyMonitor(std::function<bool(const KeyDown&)> handler) {

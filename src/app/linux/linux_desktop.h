@@ -45,8 +45,8 @@ private:
 
     SessionBus& bus_;
     Platform platform_;
-    WithoutTray withoutTray_; // asked once: a tray that goes away later comes back
-    QString configurationFolder_;
+    WithoutTray withoutTray_;     // asked once: a tray that goes away later comes back
+    QString configurationFolder_; // the desktop's, also where this program's own files are elsewhere
     DesktopAppearance appearance_;
     std::function<bool(const KeyDown&)> keyMonitor_;
     std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover

@@ -7,6 +7,7 @@
 #include "app/linux/linux_desktop.h"
 #include "app/linux/session/exit_guard.h"
 #include "app/linux/session/single_instance.h"
+#include "app/linux/session/wayland_compositor.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
 #include "console/program.h"
@@ -28,10 +29,12 @@ QString serviceName(MachineKind kind) {
 
 class TrayProgram {
 public:
-    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray)
+    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray,
+                CompositorWatch* compositor)
         : platform_(machine.platform())
         , kind_(machine.kind())
         , withoutTray_(withoutTray)
+        , compositor_(compositor)
         , interval_(arguments.pace == Pace::withoutWaiting ? fastInterval : interval) {}
 
     void run() {
@@ -68,6 +71,9 @@ public:
         });
         delegate->applicationDidFinishLaunching();
         desktop.start();
+        if (compositor_ != nullptr) {
+            compositor_->follow([&] { desktop.terminate(); });
+        }
         const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
         QCoreApplication::exec();
         delegate->applicationWillTerminate();
@@ -78,15 +84,17 @@ private:
     Platform platform_;
     MachineKind kind_;
     WithoutTray withoutTray_;
+    CompositorWatch* compositor_;            // none but on Wayland
     std::chrono::duration<double> interval_; // from one cycle to the next
 };
 
-Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
+Result<void> run(const MachineArguments& arguments, const TrayCommand& command, CompositorWatch* compositor) {
     const auto machine = Machine::make(arguments.machine);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }
-    TrayProgram(**machine, arguments, command.background ? WithoutTray::wait : WithoutTray::openWindow).run();
+    const auto withoutTray = command.background ? WithoutTray::wait : WithoutTray::openWindow;
+    TrayProgram(**machine, arguments, withoutTray, compositor).run();
     return {};
 }
 
@@ -102,15 +110,17 @@ void restoreVariable(const char* name, const QByteArray& before) {
 
 int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
     const auto platform = qgetenv("QT_QPA_PLATFORM");
-    if (const auto prepared = prepareDisplay(); !prepared) {
-        return reportOutcome("quelby", prepared);
+    const auto display = prepareDisplay();
+    if (!display) {
+        return reportOutcome("quelby", tl::make_unexpected(display.error()));
     }
+    const auto compositor = isOfWayland(*display) ? CompositorWatch::connect() : nullptr;
     QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     return runProgramWith<QGuiApplication>("quelby", argv, [&] {
         restoreVariable("QT_QPA_PLATFORM", platform); // which was for this program, not for those it starts
-        return run(arguments, command);
+        return run(arguments, command, compositor.get());
     });
 }
 

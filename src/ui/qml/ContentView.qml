@@ -16,6 +16,7 @@ FocusScope {
     required property bool dark
     required property bool animated
     property bool contrast: false
+    property color accent: "transparent" // where the desktop has none
     property real textScale: 1
 
     // Where nothing else draws the edge of the window.
@@ -98,6 +99,7 @@ FocusScope {
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
     Binding { target: Theme; property: "contrast"; value: view.contrast }
+    Binding { target: Theme; property: "desktopAccent"; value: view.accent }
     Binding { target: Theme; property: "textScale"; value: view.textScale }
 
     // A question that was left open does not come back by itself.

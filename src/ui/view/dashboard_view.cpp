@@ -1,9 +1,12 @@
 #include "ui/view/dashboard_view.h"
 
+#include <QColor>
 #include <QQmlComponent>
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
+
+#include "ui/view/accent.h"
 
 Q_IMPORT_QML_PLUGIN(QuelbyPlugin)
 Q_IMPORT_QML_PLUGIN(Quelby_BridgePlugin)
@@ -19,12 +22,19 @@ void failIfBroken(const QQmlComponent& component) {
     }
 }
 
+// Clear where the desktop has none.
+QColor accentOf(const Appearance& appearance) {
+    return appearance.accent ? QColor::fromRgb(accentBelowWhite(*appearance.accent, appearance.contrast))
+                             : QColor(Qt::transparent);
+}
+
 std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& model, Appearance appearance) {
     auto* const object =
         component.createWithInitialProperties({{QStringLiteral("dashboard"), QVariant::fromValue(&model)},
                                                {QStringLiteral("dark"), appearance.dark},
                                                {QStringLiteral("animated"), appearance.animated},
                                                {QStringLiteral("contrast"), appearance.contrast},
+                                               {QStringLiteral("accent"), accentOf(appearance)},
                                                {QStringLiteral("textScale"), appearance.textScale}});
     failIfBroken(component);
     QQmlEngine::setObjectOwnership(object, QQmlEngine::CppOwnership);
@@ -57,6 +67,7 @@ void DashboardView::setAppearance(Appearance appearance) {
     item_->setProperty("dark", appearance.dark);
     item_->setProperty("animated", appearance.animated);
     item_->setProperty("contrast", appearance.contrast);
+    item_->setProperty("accent", accentOf(appearance));
     item_->setProperty("textScale", appearance.textScale);
 }
 

@@ -166,6 +166,11 @@ void LayerSurface::awaitSize() {
     }
 }
 
+void LayerSurface::releaseKeyboard() {
+    layer::setKeyboard(layer_, layer::Keyboard::none);
+    wl_surface_commit(surface_);
+}
+
 void LayerSurface::handOver() {
     wl_proxy_set_queue(reinterpret_cast<wl_proxy*>(layer_), nullptr);
 }

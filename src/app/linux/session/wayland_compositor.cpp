@@ -5,6 +5,7 @@
 #include <memory>
 #include <string_view>
 
+#include <QSocketNotifier>
 #include <wayland-client.h>
 
 namespace quelby::app {
@@ -34,15 +35,50 @@ void found(void* data, wl_registry* /*registry*/, std::uint32_t /*name*/, const 
     all.viewporter |= interface == viewporter;
 }
 
+using Display = std::unique_ptr<wl_display, Disconnect>;
+
+Display connected() {
+    const char* const name = std::getenv("WAYLAND_DISPLAY");
+    const bool named =
+        name != nullptr && !std::string_view(name).empty(); // otherwise the library would guess
+    return Display(named ? wl_display_connect(name) : nullptr);
+}
+
+class ConnectedWatch final : public CompositorWatch {
+public:
+    explicit ConnectedWatch(Display display) : display_(std::move(display)) {}
+
+    void follow(std::function<void()> gone) override {
+        readable_ =
+            std::make_unique<QSocketNotifier>(wl_display_get_fd(display_.get()), QSocketNotifier::Read);
+        QObject::connect(readable_.get(), &QSocketNotifier::activated, readable_.get(),
+                         [this, gone = std::move(gone)] {
+                             if (!isThere()) {
+                                 readable_->setEnabled(false);
+                                 gone();
+                             }
+                         });
+    }
+
+private:
+    // Takes in what has come, of which nothing is of any interest.
+    [[nodiscard]] bool isThere() const {
+        while (wl_display_prepare_read(display_.get()) != 0) {
+            wl_display_dispatch_pending(display_.get());
+        }
+        return wl_display_read_events(display_.get()) >= 0 &&
+               wl_display_dispatch_pending(display_.get()) >= 0;
+    }
+
+    Display display_;
+    std::unique_ptr<QSocketNotifier> readable_; // none before anybody follows
+};
+
 } // namespace
 
 WaylandOffer askWayland() {
     static constexpr wl_registry_listener listener{found, [](void*, wl_registry*, std::uint32_t) {}};
-    const char* const name = std::getenv("WAYLAND_DISPLAY");
-    if (name == nullptr || std::string_view(name).empty()) { // for which the library would guess
-        return {};
-    }
-    const std::unique_ptr<wl_display, Disconnect> display(wl_display_connect(name));
+    const auto display = connected();
     if (!display) {
         return {};
     }
@@ -51,6 +87,11 @@ WaylandOffer askWayland() {
     wl_registry_add_listener(registry.get(), &listener, &all);
     const bool answers = wl_display_roundtrip(display.get()) >= 0;
     return {.answers = answers, .desktopWindows = answers && all.layerShell && all.viewporter};
+}
+
+std::unique_ptr<CompositorWatch> CompositorWatch::connect() {
+    auto display = connected();
+    return display ? std::make_unique<ConnectedWatch>(std::move(display)) : nullptr;
 }
 
 } // namespace quelby::app
