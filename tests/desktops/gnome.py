@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """GNOME with its extension for status items: on Wayland in a window of the screen that nobody sees, and on X11."""
 
+import glob
 import os
+import re
 
 from session import eventually
 from walk import walk_through
@@ -22,6 +24,7 @@ SETTINGS = (
 class Gnome(XDesktop):
     kind = "GNOME on X11"
     command = ["gnome-shell", "--x11"]
+    settings = SETTINGS
     patience = 60  # seconds, until the shell is there
     depth = 32  # points of its panel, about
 
@@ -36,7 +39,7 @@ class Gnome(XDesktop):
         self.start_screen()
         self.start_system_bus()
         self.session.share_environment()
-        for schema, key, value in SETTINGS:
+        for schema, key, value in self.settings:
             self.session.run("gsettings", "set", schema, key, value)
         self.start_shell()
         assert eventually(self.has_tray, self.patience), "the shell does not start"
@@ -100,26 +103,21 @@ class GnomeOnWayland(Gnome):
 
     def start_shell(self):
         width, height = self.screen
-        self.session.start(["gnome-shell", "--nested", "--wayland", "--wayland-display", "wayland-gnome"],
+        self.server = self.session.start(["gnome-shell", "--nested", "--wayland", "--wayland-display", "wayland-gnome"],
                            MUTTER_DEBUG_DUMMY_MODE_SPECS=f"{width}x{height}",
                            MUTTER_DEBUG_DUMMY_MONITOR_SCALES=str(self.scale))
         socket = os.path.join(self.session.environment["XDG_RUNTIME_DIR"], "wayland-gnome")
         assert eventually(lambda: os.path.exists(socket), self.patience), "the shell does not start"
         self.session.environment["WAYLAND_DISPLAY"] = "wayland-gnome"
-        before = int(self.display[1:])
-        self.session.environment["DISPLAY"] = self.own_display(before)
+        self.session.environment["DISPLAY"] = self.own_display()
+        pattern = os.path.join(self.session.environment["XDG_RUNTIME_DIR"], ".mutter-Xwaylandauth.*")
+        self.session.environment["XAUTHORITY"] = eventually(lambda: glob.glob(pattern))[0]
 
-    def own_display(self, hosts):
+    def own_display(self):
         """The server of X that the shell has for programs of X11."""
-        pattern = b"using public X11 display :"
-
-        def told():
-            log = self.session.log("gnome-shell").encode()
-            return log.lower().split(pattern.lower())[1].split(b",")[0] if pattern.lower() in log.lower() else None
-
-        number = eventually(told)
-        assert number, "the shell has no server of X"
-        return ":" + number.decode().strip()
+        told = eventually(lambda: re.search(r"public X11 display (:\d+)", self.session.log("gnome-shell")))
+        assert told, "the shell has no server of X"
+        return told.group(1)
 
 
 CASES = [("top", 1)]

@@ -117,7 +117,7 @@ class PlasmaOnWayland(Plasma):
     def start(self):
         self.start_screen()
         self.session.environment["XDG_SESSION_TYPE"] = "wayland"
-        self.session.start([self.own_copy("kwin_wayland"), "--x11-display", self.display, "--width", str(self.points[0]),
+        self.server = self.session.start([self.own_copy("kwin_wayland"), "--x11-display", self.display, "--width", str(self.points[0]),
                             "--height", str(self.points[1]), "--scale", str(self.scale), "--socket", "wayland-kde",
                             "--no-lockscreen"], KWIN_COMPOSE="Q")
         del self.session.environment["DISPLAY"]

@@ -1,6 +1,8 @@
 """What a person does with the popover, on whatever desktop it is, and what must come of it."""
 
 import os
+import signal
+import subprocess
 import sys
 import time
 
@@ -20,7 +22,8 @@ class Walk:
     """A desktop has: kind, name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
     aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
     meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name), tidy() (after these),
-    go_dark()."""
+    go_dark(), and
+    server (the process without which there is no desktop)."""
 
     def __init__(self, desktop, pictures, looks_on=False):
         self.desktop = desktop
@@ -33,16 +36,19 @@ class Walk:
     def run(self):
         try:
             self.find_item()
+            self.opens_for_a_second_start((self.desktop.screen[0], self.item[1]))  # where nobody knows where it is
             self.opens_at_the_item_and_closes_with_its_press()
             self.closes("Escape", self.desktop.escape)
             for name, step in self.desktop.steps_aside().items():
                 self.closes(name, step)
-            self.opens_for_a_second_start()
+            self.opens_for_a_second_start(self.item)
             if self.looks_on:
                 self.follows_into_the_dark()
             self.ends_cleanly()
+            self.ends_with_the_desktop()
         except Failure as failure:
-            self.keep("failure")
+            if self.desktop.server.poll() is None:
+                self.keep("failure")
             raise SystemExit(f"{self.desktop.name}: {failure}\n{self.desktop.session.log('quelby')}") from None
         print(f"{self.desktop.name}: as it should be")
 
@@ -115,7 +121,7 @@ class Walk:
 
     def opens_at_the_item_and_closes_with_its_press(self):
         area = self.open()
-        self.require_place(area)
+        self.require_place(area, self.item)
         self.looks["closed"] = self.closed
         self.looks["open"] = self.still()
         self.press_item()
@@ -123,20 +129,20 @@ class Walk:
         time.sleep(0.6)
         self.require(self.popover() is None, "the press that closed the popover opens it again")
 
-    def require_place(self, area):
+    def require_place(self, area, item):
         scale = self.desktop.scale
         _, top, right, bottom = self.area_of_windows()
         edge, _ = self.desktop.panel
         gap = GAP * scale
         height = min(VIEW[1] * scale, bottom - top - 2 * gap)
         room = (gap, right - gap)
-        wanted = self.item[0] - VIEW[0] * scale / 2
+        wanted = item[0] - VIEW[0] * scale / 2
         x = max(room[0], min(wanted, room[1] - VIEW[0] * scale))
         y = top + gap if edge == "top" else bottom - gap - height
         expected = (x, y, x + VIEW[0] * scale, y + height)
         self.require(area, "the popover is gone again")
         near = all(abs(one - other) <= 2 * scale for one, other in zip(area, expected))
-        self.require(near, f"the popover is at {area} instead of {expected}, with the item at {self.item}")
+        self.require(near, f"the popover is at {area} instead of {expected}, with the item at {item}")
 
     def closes(self, how, step):
         self.open()
@@ -147,11 +153,11 @@ class Walk:
         self.require(eventually(lambda: self.popover() is None, 4), f"after {how} something is left")
         time.sleep(0.6)  # until the next press is not taken for this one
 
-    def opens_for_a_second_start(self):
+    def opens_for_a_second_start(self, item):
         self.desktop.session.run(*self.desktop.session.quelby)
         self.require(eventually(self.popover), "a second start does not open the popover")
         self.still()
-        self.require_place(self.popover())
+        self.require_place(self.popover(), item)
         self.desktop.escape()
         self.must_close("Escape after a second start")
 
@@ -169,8 +175,24 @@ class Walk:
 
     def ends_cleanly(self):
         self.quelby.terminate()
-        status = self.quelby.wait(10)
-        self.require(status == 0, f"the program ends with status {status}")
+        self.require_end("the program")
+
+    def ends_with_the_desktop(self):
+        """While it is open."""
+        self.closed = self.still()
+        self.quelby = self.desktop.session.start(self.desktop.session.quelby)
+        eventually(lambda: self.closed.difference(self.desktop.picture(), self.area_of_panel()))
+        self.desktop.session.run(*self.desktop.session.quelby)
+        self.require(eventually(self.popover), "a second start does not open the popover of the next start")
+        os.killpg(self.desktop.server.pid, signal.SIGKILL)
+        self.require_end("the program whose desktop is gone")
+
+    def require_end(self, who):
+        try:
+            status = self.quelby.wait(10)
+        except subprocess.TimeoutExpired:
+            status = "none"
+        self.require(status == 0, f"{who} ends with status {status}")
 
 
 def walk_through(kind, cases, usually=1):

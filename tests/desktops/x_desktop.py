@@ -35,8 +35,8 @@ class XDesktop:
         os.chmod(frame, 0o777)
         number = next(n for n in range(90, 190) if not os.path.exists(f"/tmp/.X11-unix/X{n}"))
         width, height = self.screen
-        self.session.start(["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp",
-                            "-noreset", "-nocursor", "-wr", "-fbdir", frame])
+        self.server = self.session.start(["Xvfb", f":{number}", "-screen", "0", f"{width}x{height}x24", "-nolisten",
+                                          "tcp", "-noreset", "-nocursor", "-wr", "-fbdir", frame])
         self.file = os.path.join(frame, "Xvfb_screen0")
         assert eventually(lambda: os.path.exists(f"/tmp/.X11-unix/X{number}") and os.path.exists(self.file))
         self.display = f":{number}"

@@ -29,12 +29,10 @@ QString serviceName(MachineKind kind) {
 
 class TrayProgram {
 public:
-    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray,
-                CompositorWatch* compositor)
+    TrayProgram(Machine& machine, const MachineArguments& arguments, WithoutTray withoutTray)
         : platform_(machine.platform())
         , kind_(machine.kind())
         , withoutTray_(withoutTray)
-        , compositor_(compositor)
         , interval_(arguments.pace == Pace::withoutWaiting ? fastInterval : interval) {}
 
     void run() {
@@ -71,9 +69,6 @@ public:
         });
         delegate->applicationDidFinishLaunching();
         desktop.start();
-        if (compositor_ != nullptr) {
-            compositor_->follow([&] { desktop.terminate(); });
-        }
         const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
         QCoreApplication::exec();
         delegate->applicationWillTerminate();
@@ -84,17 +79,16 @@ private:
     Platform platform_;
     MachineKind kind_;
     WithoutTray withoutTray_;
-    CompositorWatch* compositor_;            // none but on Wayland
     std::chrono::duration<double> interval_; // from one cycle to the next
 };
 
-Result<void> run(const MachineArguments& arguments, const TrayCommand& command, CompositorWatch* compositor) {
+Result<void> run(const MachineArguments& arguments, const TrayCommand& command) {
     const auto machine = Machine::make(arguments.machine);
     if (!machine) {
         return tl::make_unexpected(machine.error());
     }
     const auto withoutTray = command.background ? WithoutTray::wait : WithoutTray::openWindow;
-    TrayProgram(**machine, arguments, withoutTray, compositor).run();
+    TrayProgram(**machine, arguments, withoutTray).run();
     return {};
 }
 
@@ -114,13 +108,15 @@ int runInTray(const MachineArguments& arguments, const TrayCommand& command, cha
     if (!display) {
         return reportOutcome("quelby", tl::make_unexpected(display.error()));
     }
-    const auto compositor = isOfWayland(*display) ? CompositorWatch::connect() : nullptr;
     QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     return runProgramWith<QGuiApplication>("quelby", argv, [&] {
         restoreVariable("QT_QPA_PLATFORM", platform); // which was for this program, not for those it starts
-        return run(arguments, command, compositor.get());
+        if (isOfWayland(*display)) {
+            exitWithCompositor();
+        }
+        return run(arguments, command);
     });
 }
 

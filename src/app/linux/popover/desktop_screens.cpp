@@ -5,7 +5,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "app/linux/popover/plasma_panels.h"
+#include "app/linux/popover/edge_panels.h"
 
 namespace quelby::app {
 
@@ -64,10 +64,6 @@ QRect pixelsOf(const QScreen& screen, double scale) {
     return {points.topLeft(), points.size() * scale};
 }
 
-bool isPlasma() {
-    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':').contains(QLatin1String("KDE"));
-}
-
 } // namespace
 
 QMargins reservedBy(const std::vector<Strut>& struts, QRect screen, QSize desktop) {
@@ -81,13 +77,13 @@ QMargins reservedBy(const std::vector<Strut>& struts, QRect screen, QSize deskto
 std::vector<DesktopScreen> desktopScreens() {
     const bool x11 = QGuiApplication::platformName() == QLatin1String("xcb");
     const auto panels = x11 ? panelStruts() : PanelStruts();
-    const auto panelsOfPlasma = !x11 && isPlasma() ? plasmaPanels() : std::vector<PlasmaPanel>();
+    const auto otherPanels = x11 ? std::vector<EdgePanel>() : edgePanels();
     std::vector<DesktopScreen> screens;
     for (const auto* const screen : QGuiApplication::screens()) {
         const double scale = x11 ? screen->devicePixelRatio() : 1; // elsewhere all is told in points
         const auto pixels = pixelsOf(*screen, scale);
         const auto reserved =
-            reservedBy(panels.struts, pixels, panels.desktop) | reservedBy(panelsOfPlasma, pixels);
+            reservedBy(panels.struts, pixels, panels.desktop) | reservedBy(otherPanels, pixels);
         screens.push_back({.pixels = pixels,
                            .reserved = reserved | knownToQt(*screen, scale),
                            .scale = scale,

@@ -1,11 +1,16 @@
 #include "app/linux/session/wayland_compositor.h"
 
+#include <chrono>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 #include <string_view>
+#include <thread>
 
-#include <QSocketNotifier>
+#include <QGuiApplication>
+#include <QThread>
+#include <qpa/qplatformnativeinterface.h>
 #include <wayland-client.h>
 
 namespace quelby::app {
@@ -44,35 +49,29 @@ Display connected() {
     return Display(named ? wl_display_connect(name) : nullptr);
 }
 
-class ConnectedWatch final : public CompositorWatch {
-public:
-    explicit ConnectedWatch(Display display) : display_(std::move(display)) {}
+constexpr std::chrono::seconds longestFarewell(5);
 
-    void follow(std::function<void()> gone) override {
-        readable_ =
-            std::make_unique<QSocketNotifier>(wl_display_get_fd(display_.get()), QSocketNotifier::Read);
-        QObject::connect(readable_.get(), &QSocketNotifier::activated, readable_.get(),
-                         [this, gone = std::move(gone)] {
-                             if (!isThere()) {
-                                 readable_->setEnabled(false);
-                                 gone();
-                             }
-                         });
-    }
+bool isQtsCompositorGone() {
+    auto* const native = QGuiApplication::platformNativeInterface();
+    void* const display = native == nullptr ? nullptr : native->nativeResourceForIntegration("wl_display");
+    return display != nullptr && wl_display_get_error(static_cast<wl_display*>(display)) != 0;
+}
 
-private:
-    // Takes in what has come, of which nothing is of any interest.
-    [[nodiscard]] bool isThere() const {
-        while (wl_display_prepare_read(display_.get()) != 0) {
-            wl_display_dispatch_pending(display_.get());
+// Qt says so before it ends the program, in whichever of its threads has noticed it. That one waits here then, as it would
+// end the program on its own way back, until the main thread has done so.
+void exitWhenQtHasLostIt(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    auto* const application = QCoreApplication::instance();
+    if (application != nullptr && type != QtDebugMsg && isQtsCompositorGone()) {
+        if (QThread::currentThread() == application->thread()) {
+            std::exit(0);
         }
-        return wl_display_read_events(display_.get()) >= 0 &&
-               wl_display_dispatch_pending(display_.get()) >= 0;
+        QMetaObject::invokeMethod(
+            application, [] { std::exit(0); }, Qt::QueuedConnection);
+        std::this_thread::sleep_for(longestFarewell);
     }
-
-    Display display_;
-    std::unique_ptr<QSocketNotifier> readable_; // none before anybody follows
-};
+    std::fprintf(stderr, "%s\n",
+                 qPrintable(qFormatLogMessage(type, context, text))); // as it would have done itself
+}
 
 } // namespace
 
@@ -89,9 +88,8 @@ WaylandOffer askWayland() {
     return {.answers = answers, .desktopWindows = answers && all.layerShell && all.viewporter};
 }
 
-std::unique_ptr<CompositorWatch> CompositorWatch::connect() {
-    auto display = connected();
-    return display ? std::make_unique<ConnectedWatch>(std::move(display)) : nullptr;
+void exitWithCompositor() {
+    qInstallMessageHandler(exitWhenQtHasLostIt);
 }
 
 } // namespace quelby::app

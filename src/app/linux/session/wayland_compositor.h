@@ -1,8 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-
 namespace quelby::app {
 
 // What the Wayland compositor that the environment names offers to this program.
@@ -13,17 +10,8 @@ struct WaylandOffer {
 
 [[nodiscard]] WaylandOffer askWayland();
 
-// Notices when that compositor is gone. Qt ends the program then, without a chance for anything else, as soon as it hears
-// of it; who was connected first hears of it first, so this is made before Qt's application object.
-class CompositorWatch {
-public:
-    // Nothing where there is none.
-    [[nodiscard]] static std::unique_ptr<CompositorWatch> connect();
-
-    virtual ~CompositorWatch() = default;
-
-    // Needs Qt's application object. Told once.
-    virtual void follow(std::function<void()> gone) = 0;
-};
+// Qt ends the program as failed as soon as it has lost the compositor, without a chance for anything else. From now on it
+// ends by exit(0) instead. Needs Qt's application object, on Wayland.
+void exitWithCompositor();
 
 } // namespace quelby::app

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "app/linux/popover/plasma_panels.h"
 #include "ui/support/printing.h"
 
 namespace quelby::app {
@@ -82,30 +81,6 @@ TEST(LayerPlace, IsBesideThePanelWhoeverKeepsItFree) {
         EXPECT_EQ(place.keyboard, layer::Keyboard::exclusive) << each.name;
         EXPECT_FALSE(place.amongPanels) << each.name;
     }
-}
-
-TEST(PlasmaPanels, AreALineEach) {
-    EXPECT_EQ(plasmaPanelsIn("0 0 bottom 44\n"), (std::vector<PlasmaPanel>{{{0, 0}, Qt::BottomEdge, 44}}));
-    EXPECT_EQ(plasmaPanelsIn("-1280 0 left 60\n0 800 top 30\n"),
-              (std::vector<PlasmaPanel>{{{-1280, 0}, Qt::LeftEdge, 60}, {{0, 800}, Qt::TopEdge, 30}}));
-}
-
-TEST(PlasmaPanels, AreNoneOfWhatIsNotUnderstood) {
-    for (const auto* const answer :
-         {"", "\n", "0 0 bottom", "0 0 middle 44", "0 0 top 0", "0 0 top -3", "0 x top 30", "0 0 top 30 1",
-          "Error: panels is not defined at line 1"}) {
-        EXPECT_TRUE(plasmaPanelsIn(answer).empty()) << answer;
-    }
-}
-
-TEST(PlasmaPanels, KeepTheirEdgeOfTheirScreenFree) {
-    const std::vector<PlasmaPanel> panels{{{0, 0}, Qt::BottomEdge, 44},
-                                          {{0, 0}, Qt::BottomEdge, 30},
-                                          {{0, 0}, Qt::LeftEdge, 60},
-                                          {{1280, 0}, Qt::TopEdge, 20}};
-    EXPECT_EQ(reservedBy(panels, QRect(0, 0, 1280, 800)), QMargins(60, 0, 0, 44));
-    EXPECT_EQ(reservedBy(panels, QRect(1280, 0, 1280, 800)), QMargins(0, 20, 0, 0));
-    EXPECT_EQ(reservedBy({}, QRect(0, 0, 1280, 800)), QMargins());
 }
 
 } // namespace
