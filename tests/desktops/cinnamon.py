@@ -39,6 +39,7 @@ class Cinnamon(Gnome):
 
     def go_dark(self):
         self.session.run("gsettings", "set", "org.cinnamon.desktop.interface", "gtk-theme", "Adwaita-dark")
+        self.session.start(["csd-xsettings"])
 
 
 CASES = [("bottom", 1), ("top", 1)]

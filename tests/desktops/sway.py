@@ -28,6 +28,7 @@ class Sway:
     points = (1280, 800)
     layout = points  # all outputs together
     left = 0  # of this output
+    is_main = True  # where a second start opens it when nothing is known of the item
     outputs = 1
     output = "HEADLESS-1"
     workspaces = ("1", "2")
@@ -122,6 +123,7 @@ class TwoOutputs(Sway):
     kind = "sway with two outputs"
     layout = (2560, 800)
     left = 1280
+    is_main = False
     outputs = 2
     output = "HEADLESS-2"
     workspaces = ("2", "3")

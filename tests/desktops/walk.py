@@ -19,7 +19,8 @@ class Failure(Exception):
 
 
 class Walk:
-    """A desktop has: kind, name, scale, screen (width and height in pixels), panel (its edge and its depth in pixels),
+    """A desktop has: kind, name, scale, is_main (whether it is the screen with
+    the tray where there are several), screen (width and height in pixels), panel (its edge and its depth in pixels),
     aside (how many pixels at the left belong to other windows), session, picture(), press(x, y), rest() (the pointer goes where it
     meets nothing), escape(), steps_aside() (a dictionary of ways to go elsewhere by a name), tidy() (after these),
     go_dark(), and
@@ -36,7 +37,8 @@ class Walk:
     def run(self):
         try:
             self.find_item()
-            self.opens_for_a_second_start((self.desktop.screen[0], self.item[1]))  # where nobody knows where it is
+            if self.desktop.is_main:  # and nobody knows where the item is
+                self.opens_for_a_second_start((self.desktop.screen[0], self.item[1]))
             self.opens_at_the_item_and_closes_with_its_press()
             self.closes("Escape", self.desktop.escape)
             for name, step in self.desktop.steps_aside().items():
@@ -89,6 +91,7 @@ class Walk:
 
     def find_item(self):
         """The item is what comes into the panel with the program, at the right end: others may make room for it."""
+        self.desktop.rest()
         before = self.still()
         self.quelby = self.desktop.session.start(self.desktop.session.quelby)
         area = eventually(lambda: before.difference(self.desktop.picture(), self.area_of_panel()))

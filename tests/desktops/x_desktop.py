@@ -11,6 +11,7 @@ class XDesktop:
     """Has besides: kind, manager, the command of the window manager, and panel_command."""
 
     aside = 0
+    is_main = True
     points = (1280, 800)
 
     def __init__(self, session, edge, scale):
