@@ -100,6 +100,7 @@ class Gnome(XDesktop):
 
 class GnomeOnWayland(Gnome):
     kind = "GNOME on Wayland"
+    aside = 80  # where the pointer rests
 
     def start_shell(self):
         width, height = self.screen

@@ -9,7 +9,7 @@ import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 NOBODY = 65534
-PATIENCE = 10  # seconds, for what takes far less
+PATIENCE = 20  # seconds, for what takes far less
 
 
 def eventually(condition, patience=PATIENCE):

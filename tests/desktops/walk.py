@@ -185,8 +185,9 @@ class Walk:
         self.closed = self.still()
         self.quelby = self.desktop.session.start(self.desktop.session.quelby)
         eventually(lambda: self.closed.difference(self.desktop.picture(), self.area_of_panel()))
-        self.desktop.session.run(*self.desktop.session.quelby)
-        self.require(eventually(self.popover), "a second start does not open the popover of the next start")
+        self.still()
+        self.press_item()
+        self.require(eventually(self.popover), "a press of the item does not open the popover of the next start")
         os.killpg(self.desktop.server.pid, signal.SIGKILL)
         self.require_end("the program whose desktop is gone")
 

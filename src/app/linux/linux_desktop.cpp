@@ -93,7 +93,10 @@ void LinuxDesktop::terminate() {
 void LinuxDesktop::start() {
     connectToX();
     setBus(bus_.connection());
-    bus_.follow([this](const std::optional<QDBusConnection>& bus) { setBus(bus); });
+    bus_.follow([this](const std::optional<QDBusConnection>& bus) {
+        withoutTray_ = WithoutTray::wait; // whatever the bus before had yet to tell
+        setBus(bus);
+    });
 }
 
 // Only where Qt is connected with it as well: elsewhere the compositor would start a server of X for this.
