@@ -49,6 +49,9 @@ StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, Listener liste
 }
 
 void StatusNotifierWatcher::ownerChanged(const QString& owner) {
+    if (host_ && !told_ && !hasDenied_) {
+        tell(host_); // it went before it could answer
+    }
     host_.reset();
     if (owner.isEmpty()) {
         tell(std::nullopt);
@@ -70,6 +73,7 @@ void StatusNotifierWatcher::askWhoItIs() {
         }
         host_ = trayHost(processName(process.value()));
         told_ = false; // of this one
+        hasDenied_ = false;
         listener_.met(*host_);
         registerItem();
         askForHost();
@@ -97,6 +101,7 @@ void StatusNotifierWatcher::askForHost() {
             return;
         }
         if (reply.isValid() && !reply.value().variant().toBool()) {
+            hasDenied_ = true;
             patience_.start();
         } else {
             hostRegistered();

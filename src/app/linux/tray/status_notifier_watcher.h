@@ -50,6 +50,7 @@ private:
     QDBusServiceWatcher watcher_;
     std::optional<TrayHost> host_; // as it is when a panel is there; none without a watcher
     bool told_ = false;            // that it shows the item
+    bool hasDenied_ = false;       // that any panel shows items
     QTimer patience_;
 };
 

@@ -29,6 +29,9 @@ void FakeWatcher::setHost(bool present) {
 }
 
 bool FakeWatcher::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    if (message.member() == "Get" && isMute) {
+        return true;
+    }
     if (message.member() == "Get" && hasHost) {
         return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(*hasHost))));
     }

@@ -25,6 +25,8 @@ public:
     // Whether a panel shows them; nothing where the watcher does not say.
     std::optional<bool> hasHost;
 
+    bool isMute = false; // on being asked for it
+
     // A panel comes, or goes.
     void setHost(bool present);
 

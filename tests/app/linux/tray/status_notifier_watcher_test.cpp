@@ -71,6 +71,17 @@ TEST_F(StatusNotifierWatcherTest, WaitsForAPanelThatBeginsAfterItsWatcher) {
     EXPECT_THAT(told, ElementsAre(true));
 }
 
+TEST_F(StatusNotifierWatcherTest, TakesOneThatGoesBeforeItCouldAnswerForOneThatHasShownItems) {
+    std::optional<FakeWatcher> watcher("xfce4-panel");
+    watcher->isMute = true;
+    follow(1h);
+    ASSERT_TRUE(eventually([&] { return !watcher->items.empty(); }));
+    EXPECT_TRUE(told.empty());
+    watcher.reset();
+    ASSERT_TRUE(hasBeenTold(2));
+    EXPECT_THAT(told, ElementsAre(true, false));
+}
+
 TEST_F(StatusNotifierWatcherTest, NoticesThatTheLastPanelIsGone) {
     FakeWatcher watcher("kded5");
     watcher.hasHost = true;
