@@ -22,6 +22,6 @@ def write_contact_sheet(folder, name, looks):
         sheet = sheet.paste(part, left, MARGIN)
         left += part.width + MARGIN
     os.makedirs(folder, exist_ok=True)
-    path = os.path.join(folder, f"{name}.png")
+    path = os.path.join(folder, f"{name}.png".replace(" ", "-"))
     sheet.write_png(path)
     return path

@@ -44,6 +44,7 @@ class Lxqt(XDesktop):
 
     def __init__(self, session, edge, scale):
         super().__init__(session, edge, scale)
+        session.environment["XDG_CONFIG_DIRS"] = "/etc/xdg:/usr/share"  # as its session has it
         session.write("config/lxqt/panel.conf", PANEL.format(position=edge.capitalize()))
         session.write("config/openbox/rc.xml", MANAGER)
 
