@@ -1,10 +1,7 @@
 #!/usr/bin/env python3
 """The panel of LXQt on a screen that nobody sees."""
 
-import sys
-
-from session import Session
-from walk import Walk
+from walk import walk_through
 from x_desktop import XDesktop
 
 PANEL = """
@@ -41,26 +38,22 @@ MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 
 
 class Lxqt(XDesktop):
+    kind = "LXQt"
     manager = ["openbox"]
     panel_command = ["lxqt-panel"]
 
     def __init__(self, session, edge, scale):
-        super().__init__(session, "LXQt", edge, scale)
+        super().__init__(session, edge, scale)
+        session.environment["XDG_CONFIG_DIRS"] = "/etc/xdg:/usr/share"  # as its session has it
         session.write("config/lxqt/panel.conf", PANEL.format(position=edge.capitalize()))
         session.write("config/openbox/rc.xml", MANAGER)
+
+    def go_dark(self):
+        """As its own settings write it for programs that are not Qt's."""
+        self.session.write("config/gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Adwaita-dark\n")
 
 
 CASES = [("bottom", 1), ("top", 1), ("bottom", 2)]
 
-
-def main():
-    binaries, pictures = sys.argv[1:3]
-    for edge, scale in CASES if "--all" in sys.argv else CASES[:1]:
-        with Session(binaries) as session:
-            desktop = Lxqt(session, edge, scale)
-            desktop.start()
-            Walk(desktop, pictures, "--all" in sys.argv).run()
-
-
 if __name__ == "__main__":
-    main()
+    walk_through(Lxqt, CASES)

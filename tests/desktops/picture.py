@@ -55,6 +55,25 @@ class Picture:
                     break
         return (columns[0], rows[0], columns[1], rows[-1] + 1)
 
+    def lightness(self, area):
+        """On average, from 0 (black) to 1 (white)."""
+        left, top, right, bottom = area
+        rows = [self.row(y)[3 * left:3 * right] for y in range(top, bottom)]
+        return sum(sum(row) for row in rows) / (255 * sum(len(row) for row in rows))
+
+    def right_part(self, width):
+        left = max(0, self.width - width)
+        return Picture(self.width - left, self.height, b"".join(self.row(y)[3 * left:] for y in range(self.height)))
+
+    def paste(self, other, left, top):
+        """Gives a picture with the other one in it; what does not fit is left out."""
+        pixels = bytearray(self.pixels)
+        width = min(other.width, self.width - left)
+        for y in range(min(other.height, self.height - top)):
+            start = 3 * (self.width * (top + y) + left)
+            pixels[start:start + 3 * width] = other.row(y)[:3 * width]
+        return Picture(self.width, self.height, bytes(pixels))
+
     def write_png(self, path):
         def chunk(kind, data):
             return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))

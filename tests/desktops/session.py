@@ -9,7 +9,7 @@ import time
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
 NOBODY = 65534
-PATIENCE = 10  # seconds, for what takes far less
+PATIENCE = 20  # seconds, for what takes far less
 
 
 def eventually(condition, patience=PATIENCE):
@@ -72,7 +72,11 @@ class Session:
         os.makedirs(os.path.dirname(path), exist_ok=True)
         with open(path, "w", encoding="utf-8") as file:
             file.write(text)
-        return path
+        written = path
+        while os.getuid() == 0 and path != self.folder:
+            os.chown(path, NOBODY, NOBODY)
+            path = os.path.dirname(path)
+        return written
 
     def as_user(self, command):
         if os.getuid() == 0:
@@ -106,6 +110,10 @@ class Session:
         done = subprocess.run(self.as_user(list(command)), cwd=self.folder, stdin=subprocess.DEVNULL, timeout=30,
                               capture_output=True, env={**self.environment, **variables}, check=False)
         return done.stdout
+
+    def share_environment(self):
+        """With the bus, which starts programs as well."""
+        self.run("dbus-update-activation-environment", "--all")
 
     def log(self, program):
         try:

@@ -1,10 +1,7 @@
 #!/usr/bin/env python3
 """The panel and the window manager of XFCE on a screen that nobody sees."""
 
-import sys
-
-from session import Session
-from walk import Walk
+from walk import walk_through
 from x_desktop import XDesktop
 
 PANEL = """<?xml version="1.0" encoding="UTF-8"?>
@@ -54,29 +51,25 @@ MANAGER = """<?xml version="1.0" encoding="UTF-8"?>
 
 
 class Xfce(XDesktop):
+    kind = "XFCE"
     manager = ["xfwm4"]
     panel_command = ["xfce4-panel", "--disable-wm-check"]
 
     def __init__(self, session, edge, scale):
-        super().__init__(session, "XFCE", edge, scale)
+        super().__init__(session, edge, scale)
         channels = "config/xfce4/xfconf/xfce-perchannel-xml/"
         position = "p=6;x=0;y=0" if edge == "top" else "p=10;x=0;y=0"
         session.write(channels + "xfce4-panel.xml", PANEL.format(position=position, size=28))
         session.write(channels + "xfwm4.xml", MANAGER)
         session.write(channels + "xsettings.xml", SETTINGS.format(scale=scale))
 
+    def go_dark(self):
+        self.session.run("xfconf-query", "-c", "xsettings", "-p", "/Net/ThemeName", "-n", "-t", "string", "-s",
+                         "Adwaita-dark")
+        self.session.start(["xfsettingsd", "--no-daemon"])
+
 
 CASES = [("top", 1), ("bottom", 1), ("top", 2), ("bottom", 2)]
 
-
-def main():
-    binaries, pictures = sys.argv[1:3]
-    for edge, scale in CASES if "--all" in sys.argv else CASES[:1]:
-        with Session(binaries) as session:
-            desktop = Xfce(session, edge, scale)
-            desktop.start()
-            Walk(desktop, pictures, "--all" in sys.argv).run()
-
-
 if __name__ == "__main__":
-    main()
+    walk_through(Xfce, CASES)

@@ -32,7 +32,7 @@ bool isReached(const Displays& displays, std::string_view plugin) {
     if (plugin == xPlugin) {
         return displays.x11;
     }
-    return !plugin.starts_with(waylandPlugin) || displays.wayland.answers;
+    return !isOfWayland(plugin) || displays.wayland.answers;
 }
 
 bool works(const Displays& displays, std::string_view plugin) {
@@ -97,22 +97,26 @@ Result<std::string> chooseDisplay(const Displays& displays) {
     return problem("there is no display; --headless works without one");
 }
 
-Result<void> prepareDisplay() {
-    const auto chosen = chooseDisplay({.wanted = qEnvironmentVariable("QT_QPA_PLATFORM").toStdString(),
-                                       .x11 = reachesX(),
-                                       .wayland = askWayland(),
-                                       .hasPlugin = isInstalled});
+Result<std::string> prepareDisplay() {
+    auto chosen = chooseDisplay({.wanted = qEnvironmentVariable("QT_QPA_PLATFORM").toStdString(),
+                                 .x11 = reachesX(),
+                                 .wayland = askWayland(),
+                                 .hasPlugin = isInstalled});
     if (!chosen) {
-        return tl::make_unexpected(chosen.error());
+        return chosen;
     }
     qputenv("QT_QPA_PLATFORM", chosen->c_str());
-    if (std::string_view(*chosen).starts_with(waylandPlugin)) {
+    if (isOfWayland(*chosen)) {
         qputenv(windowsWithoutRole, "1");
         qputenv(graphics, "none");
         // Of both it warns, as if they were mistakes.
         QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland*.warning=false"));
     }
-    return {};
+    return chosen;
+}
+
+bool isOfWayland(std::string_view plugin) {
+    return plugin.starts_with(waylandPlugin);
 }
 
 void forgetDisplay() {

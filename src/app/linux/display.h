@@ -22,8 +22,10 @@ struct Displays {
 [[nodiscard]] Result<std::string> chooseDisplay(const Displays& displays);
 
 // Has Qt, which is not there yet, take the display of the environment that it can reach, by variables of the
-// environment.
-[[nodiscard]] Result<void> prepareDisplay();
+// environment. Gives the name of Qt's plugin.
+[[nodiscard]] Result<std::string> prepareDisplay();
+
+[[nodiscard]] bool isOfWayland(std::string_view plugin);
 
 // Takes these variables away again, so that programs that this one starts do not inherit them. Once a window has
 // been shown.

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QStandardPaths>
 #include <QWindow>
 
 #include "app/linux/display.h"
@@ -41,7 +42,7 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, const OwnProgram&
     , platform_(platform)
     , program_(program)
     , firstOpening_(firstOpening)
-    , configurationFolder_(QString::fromStdString(platform_.folders->configuration().string()))
+    , configurationFolder_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
     , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
@@ -69,7 +70,11 @@ Popover& LinuxDesktop::makePopover(std::shared_ptr<PowerMonitor> monitor, std::f
                                forgetDisplay();
                                openBatterySettings();
                            },
-                       .appearance = [this] { return appearance(); }};
+                       .appearance =
+                           [this] {
+                               appearance_.refresh();
+                               return appearance();
+                           }};
     return popover_.emplace(std::move(parts), [this] { return giveWay(); });
 }
 
@@ -99,7 +104,10 @@ void LinuxDesktop::terminate() {
 void LinuxDesktop::start() {
     connectToX();
     setBus(bus_.connection());
-    bus_.follow([this](const std::optional<QDBusConnection>& bus) { setBus(bus); });
+    bus_.follow([this](const std::optional<QDBusConnection>& bus) {
+        withoutTray_ = WithoutTray::wait; // whatever the bus before had yet to tell
+        setBus(bus);
+    });
 }
 
 // Only where Qt is connected with it as well: elsewhere the compositor would start a server of X for this.

@@ -59,7 +59,7 @@ private:
     const OwnProgram& program_;
     FirstOpening firstOpening_; // never again once it has been asked: a tray that goes away later comes back
     Ending ending_ = Ending::gone;
-    QString configurationFolder_;
+    QString configurationFolder_; // the desktop's, also where this program's own files are elsewhere
     DesktopAppearance appearance_;
     std::function<bool(const KeyDown&)> keyMonitor_;
     std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover

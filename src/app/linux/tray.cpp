@@ -8,6 +8,7 @@
 #include "app/linux/session/exit_guard.h"
 #include "app/linux/session/own_program.h"
 #include "app/linux/session/single_instance.h"
+#include "app/linux/session/wayland_compositor.h"
 #include "app/recorder_lock.h"
 #include "app/tray.h"
 #include "console/program.h"
@@ -113,8 +114,9 @@ void restoreVariable(const char* name, const QByteArray& before) {
 
 int runInTray(const MachineArguments& arguments, const TrayCommand& command, char** argv) {
     const auto platform = qgetenv("QT_QPA_PLATFORM");
-    if (const auto prepared = prepareDisplay(); !prepared) {
-        return reportOutcome("quelby", prepared);
+    const auto display = prepareDisplay();
+    if (!display) {
+        return reportOutcome("quelby", tl::make_unexpected(display.error()));
     }
     QGuiApplication::setDesktopSettingsAware(false); // the desktop's own toolkit would come along
     QGuiApplication::setDesktopFileName(QStringLiteral("com.quelby.Quelby"));
@@ -123,6 +125,9 @@ int runInTray(const MachineArguments& arguments, const TrayCommand& command, cha
     auto ending = Ending::gone;
     const int status = runProgramWith<QGuiApplication>("quelby", argv, [&]() -> Result<void> {
         restoreVariable("QT_QPA_PLATFORM", platform); // which was for this program, not for those it starts
+        if (isOfWayland(*display)) {
+            exitWithCompositor();
+        }
         return run(arguments, command, program).map([&](Ending end) { ending = end; });
     });
     if (ending == Ending::gone) {

@@ -16,6 +16,7 @@ FocusScope {
     required property bool dark
     required property bool animated
     property bool contrast: false
+    property color accent: "transparent" // where the desktop has none
     property real textScale: 1
 
     // What is behind the view.
@@ -107,6 +108,7 @@ FocusScope {
     Binding { target: Theme; property: "dark"; value: view.dark }
     Binding { target: Theme; property: "animated"; value: view.animated }
     Binding { target: Theme; property: "contrast"; value: view.contrast }
+    Binding { target: Theme; property: "desktopAccent"; value: view.accent }
     Binding { target: Theme; property: "textScale"; value: view.textScale }
     Binding { target: Theme; property: "blurred"; value: view.blurred }
 

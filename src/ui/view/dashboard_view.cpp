@@ -1,9 +1,12 @@
 #include "ui/view/dashboard_view.h"
 
+#include <QColor>
 #include <QQmlComponent>
 #include <QQmlExtensionPlugin>
 #include <QQuickWindow>
 #include <QSGRendererInterface>
+
+#include "ui/view/accent.h"
 
 Q_IMPORT_QML_PLUGIN(QuelbyPlugin)
 Q_IMPORT_QML_PLUGIN(Quelby_BridgePlugin)
@@ -27,12 +30,19 @@ bool isMaterial(const Appearance& appearance) {
     return appearance.backdrop == Backdrop::material;
 }
 
+// Clear where the desktop has none.
+QColor accentOf(const Appearance& appearance) {
+    return appearance.accent ? QColor::fromRgb(accentBelowWhite(*appearance.accent, appearance.contrast))
+                             : QColor(Qt::transparent);
+}
+
 std::unique_ptr<QQuickItem> makeItem(QQmlComponent& component, DashboardModel& model, Appearance appearance) {
     auto* const object =
         component.createWithInitialProperties({{QStringLiteral("dashboard"), QVariant::fromValue(&model)},
                                                {QStringLiteral("dark"), appearance.dark},
                                                {QStringLiteral("animated"), appearance.animated},
                                                {QStringLiteral("contrast"), appearance.contrast},
+                                               {QStringLiteral("accent"), accentOf(appearance)},
                                                {QStringLiteral("textScale"), appearance.textScale},
                                                {QStringLiteral("blurred"), isBlurred(appearance)},
                                                {QStringLiteral("material"), isMaterial(appearance)}});
@@ -67,6 +77,7 @@ void DashboardView::setAppearance(Appearance appearance) {
     item_->setProperty("dark", appearance.dark);
     item_->setProperty("animated", appearance.animated);
     item_->setProperty("contrast", appearance.contrast);
+    item_->setProperty("accent", accentOf(appearance));
     item_->setProperty("textScale", appearance.textScale);
     item_->setProperty("blurred", isBlurred(appearance));
     item_->setProperty("material", isMaterial(appearance));

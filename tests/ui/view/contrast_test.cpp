@@ -185,6 +185,18 @@ TEST_P(Readability, OfEveryInkOnACard) {
     EXPECT_GE(contrast(Qt::white, fills[Ink::Accent]), readable);
 }
 
+// However light it is.
+TEST_P(Readability, OfTheDesktopsAccent) {
+    ShownView view(dashboard, {.dark = dark(), .animated = false, .accent = 0xFFEE55});
+    auto* const theme = themeOf(view);
+    ASSERT_NE(theme, nullptr);
+    const auto accent = theme->property("fills").value<QList<QColor>>()[Ink::Accent];
+    EXPECT_GE(contrast(Qt::white, accent), readable);
+    EXPECT_NEAR(accent.hslHue(), QColor(0xFF, 0xEE, 0x55).hslHue(), 2);
+    view.view().setAppearance({.dark = dark(), .animated = false});
+    EXPECT_EQ(theme->property("fills").value<QList<QColor>>()[Ink::Accent], QColor("#2f6feb"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Themes, Readability, testing::Bool(),
                          [](const auto& theme) { return std::string(theme.param ? "dark" : "light"); });
 

@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QScreen>
 
+#include "app/linux/popover/edge_panels.h"
+
 namespace quelby::app {
 
 namespace {
@@ -75,11 +77,13 @@ QMargins reservedBy(const std::vector<Strut>& struts, QRect screen, QSize deskto
 std::vector<DesktopScreen> desktopScreens() {
     const bool x11 = QGuiApplication::platformName() == QLatin1String("xcb");
     const auto panels = x11 ? panelStruts() : PanelStruts();
+    const auto otherPanels = x11 ? std::vector<EdgePanel>() : edgePanels();
     std::vector<DesktopScreen> screens;
     for (const auto* const screen : QGuiApplication::screens()) {
         const double scale = x11 ? screen->devicePixelRatio() : 1; // elsewhere all is told in points
         const auto pixels = pixelsOf(*screen, scale);
-        const auto reserved = reservedBy(panels.struts, pixels, panels.desktop);
+        const auto reserved =
+            reservedBy(panels.struts, pixels, panels.desktop) | reservedBy(otherPanels, pixels);
         screens.push_back({.pixels = pixels,
                            .reserved = reserved | knownToQt(*screen, scale),
                            .scale = scale,

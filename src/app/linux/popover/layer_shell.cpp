@@ -116,10 +116,13 @@ LayerSurface::LayerSurface(LayerShell& shell, QWindow& window, const LayerPlace&
                            std::function<void()> closed)
     : shell_(shell), window_(window), closed_(std::move(closed)) {
     static constexpr layer::SurfaceListener listener{configured, closedByCompositor};
+    auto* const screen =
+        window_.screen(); // as it has been chosen: by its place Qt may take it for another one
+    window_.setPosition(screen->geometry().topLeft());
     window_.show(); // makes the surface; nothing is drawn before the event loop is back
     auto* const native = QGuiApplication::platformNativeInterface();
     surface_ = static_cast<wl_surface*>(native->nativeResourceForWindow("surface", &window_));
-    auto* const output = static_cast<wl_output*>(native->nativeResourceForScreen("output", window_.screen()));
+    auto* const output = static_cast<wl_output*>(native->nativeResourceForScreen("output", screen));
     const OnQueue<layer::Shell> own(shell_.shell(), shell_.queue());
     layer_ = layer::getSurface(own.get(), surface_, output, layer::overlay, "quelby");
     layer::listen(layer_, &listener, this);
@@ -164,6 +167,11 @@ void LayerSurface::awaitSize() {
             return;
         }
     }
+}
+
+void LayerSurface::releaseKeyboard() {
+    layer::setKeyboard(layer_, layer::Keyboard::none);
+    wl_surface_commit(surface_);
 }
 
 void LayerSurface::handOver() {

@@ -1,12 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
-#include <QMargins>
-#include <QSize>
 #include <QWindow>
 
-#include "app/linux/popover/layer_protocol.h"
+#include "app/linux/popover/layer_place.h"
 
 namespace quelby::app {
 
@@ -43,15 +42,6 @@ private:
     wl_shm* memory_ = nullptr;
 };
 
-// Where such a window is.
-struct LayerPlace {
-    std::uint32_t anchors = 0;
-    QMargins margins;
-    QSize size = {0, 0};      // a zero: from anchor to anchor
-    bool amongPanels = false; // instead of beside them
-    layer::Keyboard keyboard = layer::Keyboard::none;
-};
-
 // Shows a window of Qt's, with Qt::BypassWindowManagerHint, as one that belongs to the desktop. With this object
 // the window is hidden.
 class LayerSurface {
@@ -66,6 +56,8 @@ public:
     [[nodiscard]] QSize size() const { return size_; }
 
     void move(const LayerPlace& place);
+
+    void releaseKeyboard();
 
     // In place of anything drawn: one clear pixel, as large as the window.
     void showNothing();

@@ -21,6 +21,8 @@ public:
     LayerStage& operator=(const LayerStage&) = delete;
     ~LayerStage() override;
 
+    void letGo() override;
+
 private:
     struct Catcher;
 

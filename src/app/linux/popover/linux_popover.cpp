@@ -98,6 +98,9 @@ bool LinuxPopover::isShown() const {
 
 void LinuxPopover::show() {
     givingBack_.stop();
+    if (!isShown()) {
+        appearanceChanged(); // which not everybody tells of
+    }
     if (make()) {
         window_->show(itemPress_);
     }
@@ -139,7 +142,9 @@ bool LinuxPopover::itemPressed(std::optional<QPoint> told, std::chrono::millisec
 void LinuxPopover::appearanceChanged() {
     const auto appearance = parts_.appearance();
     if (appearance.textScale != shownTextScale_) { // the window is of another size then
-        close();
+        if (isShown()) {
+            close();
+        }
         giveBack();
     } else if (window_) {
         window_->setAppearance(appearance);

@@ -24,9 +24,13 @@ PlainStage::PlainStage(QQuickWindow& window, const ItemPress& press, QSize size,
 }
 
 PlainStage::~PlainStage() {
+    PlainStage::letGo();
+    window_.hide();
+}
+
+void PlainStage::letGo() {
     presses_.reset();
     catchers_.clear();
-    window_.hide();
 }
 
 void PlainStage::place(const ItemPress& press, QSize size) {

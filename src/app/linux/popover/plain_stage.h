@@ -19,6 +19,8 @@ public:
     PlainStage& operator=(const PlainStage&) = delete;
     ~PlainStage() override;
 
+    void letGo() override;
+
 private:
     void place(const ItemPress& press, QSize size);
     void insistOnPlace();

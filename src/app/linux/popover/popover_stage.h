@@ -32,6 +32,9 @@ public:
     };
 
     virtual ~PopoverStage() = default;
+
+    // The window is about to leave: from now on it keeps nothing from anybody, neither presses nor keys.
+    virtual void letGo() = 0;
 };
 
 // The size is the one that it has where there is room for it. The window outlives the stage.

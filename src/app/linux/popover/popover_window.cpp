@@ -48,6 +48,12 @@ public:
     explicit Window(PopoverWindow& popover) : popover_(popover) {}
 
 protected:
+    // On its way out nothing in it can be pressed any more.
+    bool event(QEvent* event) override {
+        const bool press = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::TouchBegin;
+        return (press && popover_.leaving_) || QQuickWindow::event(event);
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         QQuickWindow::keyPressEvent(event);
         if (!event->isAccepted() && event->key() == Qt::Key_Escape) {
@@ -87,7 +93,7 @@ PopoverWindow::PopoverWindow(const PopoverParts& parts, PopoverForm form, Listen
              ProgramActions{.quit = parts.quit, .openBatterySettings = parts.openBatterySettings})
     , view_(model_, appearance_)
     , window_(std::make_unique<Window>(*this))
-    , entrance_(view_.item()) {
+    , transition_(view_.item()) {
     window_->setTitle(QString::fromUtf8(words::program));
     window_->setIcon(programIcon());
     if (form_ == PopoverForm::atTheItem) {
@@ -105,6 +111,9 @@ PopoverWindow::~PopoverWindow() {
 }
 
 void PopoverWindow::show(const ItemPress& press) {
+    if (leaving_) {
+        gone();
+    }
     view_.setWatched(true);
     if (form_ == PopoverForm::ordinary) {
         showAsOrdinaryWindow();
@@ -139,10 +148,11 @@ void PopoverWindow::placed(QSize size, Qt::Edge panel) {
     lieOnWhatIsBehind();
     const bool seenThrough = showsTransparency();
     view_.setFrame(seenThrough ? ViewFrame::rounded : ViewFrame::straight);
+    panel_ = panel;
     if (seenThrough && appearance_.animated) {
-        entrance_.begin(panel);
+        transition_.comeIn(panel);
     } else {
-        entrance_.end();
+        transition_.end();
     }
 }
 
@@ -168,9 +178,21 @@ void PopoverWindow::showAsOrdinaryWindow() {
 
 void PopoverWindow::hide() {
     focusAway_.stop();
+    view_.setWatched(false);
+    if (!stage_ || !appearance_.animated || !showsTransparency()) {
+        gone();
+    } else if (!leaving_) {
+        leaving_ = true;
+        stage_->letGo();
+        transition_.goOut(panel_, [this] { gone(); });
+    }
+}
+
+void PopoverWindow::gone() {
+    leaving_ = false;
+    transition_.end();
     stage_.reset();
     window_->hide();
-    view_.setWatched(false);
 }
 
 void PopoverWindow::setAppearance(Appearance appearance) {
@@ -180,7 +202,7 @@ void PopoverWindow::setAppearance(Appearance appearance) {
 }
 
 void PopoverWindow::focusLeft() {
-    if (stage_ && !window_->isActive()) {
+    if (isShown() && stage_ && !window_->isActive()) {
         listener_.wentElsewhere(pointerPlace(windowSystem()));
     }
 }

@@ -6,8 +6,8 @@
 #include <QQuickWindow>
 #include <QTimer>
 
-#include "app/linux/popover/popover_entrance.h"
 #include "app/linux/popover/popover_stage.h"
+#include "app/linux/popover/popover_transition.h"
 #include "app/linux/popover/quick_library.h"
 #include "ui/view/dashboard_view.h"
 
@@ -21,7 +21,7 @@ public:
     PopoverWindow& operator=(const PopoverWindow&) = delete;
     ~PopoverWindow() override;
 
-    [[nodiscard]] bool isShown() const override { return stage_ || window_->isVisible(); }
+    [[nodiscard]] bool isShown() const override { return !leaving_ && (stage_ || window_->isVisible()); }
 
     void show(const ItemPress& press) override;
 
@@ -40,6 +40,7 @@ private:
     void placed(QSize size, Qt::Edge panel);
     void lieOnWhatIsBehind();
     void focusLeft();
+    void gone();
 
     PopoverForm form_;
     Listener listener_;
@@ -48,7 +49,9 @@ private:
     DashboardModel model_;
     DashboardView view_;
     std::unique_ptr<QQuickWindow> window_;
-    PopoverEntrance entrance_;
+    PopoverTransition transition_;
+    Qt::Edge panel_ = Qt::TopEdge;        // from where it came
+    bool leaving_ = false;                // still to be seen, but of no more use
     QTimer focusAway_;                    // runs while it is not yet certain that the focus stays away
     std::unique_ptr<PopoverStage> stage_; // while it is shown at the item
 };

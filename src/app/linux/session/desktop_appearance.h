@@ -13,8 +13,8 @@
 
 namespace quelby::app {
 
-// How the desktop likes its programs, followed: through its portal, by X11's settings, or in the settings file
-// of GTK programs.
+// How the desktop likes its programs, followed: through its portal, by X11's settings, or in the files in which
+// desktops keep their settings.
 class DesktopAppearance : public QObject {
     Q_OBJECT
 
@@ -23,6 +23,9 @@ public:
     DesktopAppearance(const QString& configurationFolder, std::function<void()> changed);
 
     [[nodiscard]] Appearance current() const { return appearance(settings_); }
+
+    // Reads the files again, of whose changes hardly anybody tells.
+    void refresh() { changeTo(settings_); }
 
     // As the function of this name says.
     [[nodiscard]] std::optional<bool> darkScheme() const { return app::darkScheme(settings_); }
@@ -37,6 +40,12 @@ public:
 
 private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+
+    // KDE tells so of its own.
+    void filesChanged();
+
+    // Of those that are stored, somewhere below the prefix.
+    void storeChanged(const QString& prefix);
 
 private:
     void askForEverything();

@@ -1,4 +1,4 @@
-// What a desktop says of light and dark and of animations, from all who may say it, and what comes of that.
+// What a desktop says of light and dark, of animations and of its colours, from all who may say it, and what comes of that.
 #pragma once
 
 #include <chrono>
@@ -20,6 +20,7 @@ struct PortalSettings {
     std::optional<double> animationFactor;    // in KDE's: 0 for none
     std::optional<std::uint32_t> contrast;    // 1 asks for more
     std::optional<double> textScale;          // GNOME's, of its own usual size
+    std::optional<std::uint32_t> accent;      // 0xRRGGBB
 
     bool operator==(const PortalSettings&) const = default;
 };
@@ -27,6 +28,7 @@ struct PortalSettings {
 struct DesktopSettings {
     PortalSettings portal;
     XSettings x;
+    PortalSettings stored = {}; // GNOME's, of which also other desktops make use where there is no portal
     ToolkitSettings file;
 
     bool operator==(const DesktopSettings&) const = default;
@@ -36,6 +38,10 @@ struct DesktopSettings {
 [[nodiscard]] std::optional<bool> darkScheme(const DesktopSettings& settings);
 
 [[nodiscard]] Appearance appearance(const DesktopSettings& settings);
+
+// As the portal tells it: red, green and blue from 0 to 1. Nothing where they are not, by which it says that there is
+// none.
+[[nodiscard]] std::optional<std::uint32_t> accentFrom(double red, double green, double blue);
 
 // Within it two presses are a double one: 400 ms where nobody says otherwise.
 [[nodiscard]] std::chrono::milliseconds doublePress(const DesktopSettings& settings);

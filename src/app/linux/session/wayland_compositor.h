@@ -10,4 +10,8 @@ struct WaylandOffer {
 
 [[nodiscard]] WaylandOffer askWayland();
 
+// Qt ends the program as failed as soon as it has lost the compositor, without a chance for anything else. From now on it
+// ends by exit(0) instead. Needs Qt's application object, on Wayland.
+void exitWithCompositor();
+
 } // namespace quelby::app

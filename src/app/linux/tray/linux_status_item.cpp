@@ -23,7 +23,9 @@ void LinuxStatusItem::setBus(const std::optional<QDBusConnection>& bus) {
         return;
     }
     item_.emplace(*bus, actions_, listener_.pressed, listener_.tokenGiven);
-    watcher_.emplace(*bus, [this](const std::optional<TrayHost>& host) { hostChanged(host); });
+    watcher_.emplace(*bus, StatusNotifierWatcher::Listener{
+                               .met = [this](const TrayHost& host) { item_->setHost(host); },
+                               .shown = [this](const std::optional<TrayHost>& host) { hostChanged(host); }});
 }
 
 void LinuxStatusItem::hostChanged(const std::optional<TrayHost>& host) {
@@ -33,7 +35,6 @@ void LinuxStatusItem::hostChanged(const std::optional<TrayHost>& host) {
         return;
     }
     older_.reset();
-    item_->setHost(*host_);
     listener_.shown(true);
     takeInk();
     show();

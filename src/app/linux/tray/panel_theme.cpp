@@ -18,6 +18,16 @@ std::string firstValue(const QStringList& files, const QString& key) {
     return {};
 }
 
+// The user's file, and then those for everybody, where the panel looks for them as well.
+QStringList inSharedFolders(const QString& configurationFolder, const QString& name) {
+    QStringList files{configurationFolder + name};
+    const auto shared = qEnvironmentVariable("XDG_CONFIG_DIRS");
+    for (const auto& folder : (shared.isEmpty() ? QStringLiteral("/etc/xdg") : shared).split(':')) {
+        files.append(folder + name);
+    }
+    return files;
+}
+
 } // namespace
 
 std::string panelTheme(PanelStyle style, const QString& configurationFolder) {
@@ -27,9 +37,7 @@ std::string panelTheme(PanelStyle style, const QString& configurationFolder) {
                            configurationFolder + QStringLiteral("/kdedefaults/plasmarc")},
                           QStringLiteral("Theme/name"));
     case PanelStyle::lxqt:
-        return firstValue({configurationFolder + QStringLiteral("/lxqt/lxqt.conf"),
-                           QStringLiteral("/etc/xdg/lxqt/lxqt.conf"),
-                           QStringLiteral("/usr/share/lxqt/lxqt.conf")},
+        return firstValue(inSharedFolders(configurationFolder, QStringLiteral("/lxqt/lxqt.conf")),
                           QStringLiteral("theme"));
     case PanelStyle::dark:
     case PanelStyle::published:

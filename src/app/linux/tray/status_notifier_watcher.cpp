@@ -12,6 +12,7 @@ namespace quelby::app {
 namespace {
 
 const auto watcherService = QStringLiteral("org.kde.StatusNotifierWatcher");
+const auto watcherPath = QStringLiteral("/StatusNotifierWatcher");
 
 std::string processName(uint process) {
     QFile file(QStringLiteral("/proc/%1/comm").arg(process));
@@ -28,20 +29,32 @@ QDBusMessage busCall(const QString& method, const QVariantList& arguments) {
 
 } // namespace
 
-StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, HostListener listener)
+StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, Listener listener,
+                                             std::chrono::milliseconds patience)
     : bus_(std::move(bus))
     , listener_(std::move(listener))
     , itemService_(QStringLiteral("org.kde.StatusNotifierItem-%1-1").arg(QCoreApplication::applicationPid()))
     , watcher_(watcherService, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
+    patience_.setSingleShot(true);
+    patience_.setInterval(patience);
+    QObject::connect(&patience_, &QTimer::timeout, this, [this] { tell(std::nullopt); });
     bus_.registerService(itemService_);
-    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, &owner_,
+    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
                      [this](const QString&, const QString&, const QString& owner) { ownerChanged(owner); });
+    bus_.connect(watcherService, watcherPath, watcherService, QStringLiteral("StatusNotifierHostRegistered"),
+                 this, SLOT(hostRegistered()));
+    bus_.connect(watcherService, watcherPath, watcherService,
+                 QStringLiteral("StatusNotifierHostUnregistered"), this, SLOT(hostUnregistered()));
     askWhoItIs();
 }
 
 void StatusNotifierWatcher::ownerChanged(const QString& owner) {
+    if (host_ && !told_ && !hasDenied_) {
+        tell(host_); // it went before it could answer
+    }
+    host_.reset();
     if (owner.isEmpty()) {
-        listener_(std::nullopt);
+        tell(std::nullopt);
     } else {
         askWhoItIs();
     }
@@ -50,25 +63,70 @@ void StatusNotifierWatcher::ownerChanged(const QString& owner) {
 // The process behind the watcher tells which host it is. An error says that there is no watcher.
 void StatusNotifierWatcher::askWhoItIs() {
     const auto call = bus_.asyncCall(busCall(QStringLiteral("GetConnectionUnixProcessID"), {watcherService}));
-    auto* const answer = new QDBusPendingCallWatcher(call, &owner_);
-    QObject::connect(answer, &QDBusPendingCallWatcher::finished, &owner_, [this, answer] {
+    auto* const answer = new QDBusPendingCallWatcher(call, this);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         const QDBusPendingReply<uint> process = *answer;
         answer->deleteLater();
         if (process.isError()) {
-            listener_(std::nullopt);
+            tell(std::nullopt);
             return;
         }
-        listener_(trayHost(processName(process.value())));
+        host_ = trayHost(processName(process.value()));
+        told_ = false; // of this one
+        hasDenied_ = false;
+        listener_.met(*host_);
         registerItem();
+        askForHost();
     });
 }
 
 void StatusNotifierWatcher::registerItem() {
-    auto message =
-        QDBusMessage::createMethodCall(watcherService, QStringLiteral("/StatusNotifierWatcher"),
-                                       watcherService, QStringLiteral("RegisterStatusNotifierItem"));
+    auto message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
+                                                  QStringLiteral("RegisterStatusNotifierItem"));
     message.setArguments({itemService_});
     bus_.send(message);
+}
+
+// Those who have no answer show the items themselves.
+void StatusNotifierWatcher::askForHost() {
+    auto message = QDBusMessage::createMethodCall(watcherService, watcherPath,
+                                                  QStringLiteral("org.freedesktop.DBus.Properties"),
+                                                  QStringLiteral("Get"));
+    message.setArguments({watcherService, QStringLiteral("IsStatusNotifierHostRegistered")});
+    auto* const answer = new QDBusPendingCallWatcher(bus_.asyncCall(message), this);
+    QObject::connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        answer->deleteLater();
+        if (!host_) { // it is gone meanwhile
+            return;
+        }
+        if (reply.isValid() && !reply.value().variant().toBool()) {
+            hasDenied_ = true;
+            patience_.start();
+        } else {
+            hostRegistered();
+        }
+    });
+}
+
+void StatusNotifierWatcher::hostRegistered() {
+    if (host_ && !told_) {
+        tell(host_);
+    }
+    patience_.stop();
+}
+
+// There may be others.
+void StatusNotifierWatcher::hostUnregistered() {
+    if (host_) {
+        askForHost();
+    }
+}
+
+void StatusNotifierWatcher::tell(const std::optional<TrayHost>& host) {
+    patience_.stop();
+    told_ = host.has_value();
+    listener_.shown(host);
 }
 
 } // namespace quelby::app

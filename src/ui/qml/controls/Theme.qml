@@ -11,6 +11,7 @@ QtObject {
     property bool dark: false
     property bool animated: true
     property bool contrast: false
+    property color desktopAccent: "transparent" // where it has none
     property real textScale: 1
     property bool blurred: false // what is behind the window
 
@@ -60,6 +61,7 @@ QtObject {
     readonly property color panel: dark ? "#2e2e33" : "#fafafc"
     readonly property color focus: dark ? "#7fb0ff" : "#2f6feb"
     readonly property color onFill: inks[Ink.White] // text on a coloured surface
+    readonly property color accent: desktopAccent.a > 0 ? desktopAccent : "#2f6feb"
     readonly property color accentPressed: Qt.darker(fills[Ink.Accent], 1.15)
     readonly property color destructive: "#c9302c"
     readonly property color knob: "#ffffff"
@@ -81,9 +83,9 @@ QtObject {
            "#1f5fd6", "#ffffff"]
     readonly property list<color> fills: dark
         ? ["#f4f4f6", "#8d8d96", "#43c473", "#e6bd3f", "#f79646", "#f26d66", "#5ba4f8", "#bd87f2", "#48c1d6",
-           "#2f6feb", "#ffffff"]
+           accent, "#ffffff"]
         : ["#1c1c1f", "#8a8a93", "#34b25f", "#e3b01a", "#ee8a2d", "#e5544c", "#3f8cf0", "#a868dd", "#21a9c0",
-           "#2f6feb", "#ffffff"]
+           accent, "#ffffff"]
 
     readonly property ChartStyle chart: ChartStyle {
         fontFamily: theme.family

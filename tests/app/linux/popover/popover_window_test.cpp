@@ -18,7 +18,7 @@ protected:
                                  .clock = computer.clock,
                                  .quit = [] {},
                                  .openBatterySettings = [] {},
-                                 .appearance = [] { return Appearance{.animated = false}; }};
+                                 .appearance = [this] { return Appearance{.animated = animated}; }};
         return std::make_unique<PopoverWindow>(
             parts, form,
             DashboardWindow::Listener{.left = [this] { ++left; },
@@ -44,6 +44,7 @@ protected:
 
     [[nodiscard]] static QWindow& shownWindow() { return *dashboard().window(); }
 
+    bool animated = false;
     int left = 0;
     int wentElsewhere = 0;
     fake::Computer computer;
@@ -97,6 +98,37 @@ TEST_F(PopoverWindowTest, AtTheItemIsAsHighAsTheScreenAllows) {
     EXPECT_EQ(dashboard().height(), shownWindow().height());
     window->hide();
     EXPECT_FALSE(window->isShown());
+}
+
+TEST_F(PopoverWindowTest, GoesOutOfSightGraduallyButIsNotShownAnyMoreAtOnce) {
+    animated = true;
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    ASSERT_TRUE(eventually([&] { return dashboard().opacity() == 1; }));
+    window->hide();
+    EXPECT_FALSE(window->isShown());
+    EXPECT_TRUE(shownWindow().isVisible());
+    window->hide();
+    EXPECT_TRUE(eventually([&] { return !shownWindow().isVisible(); }));
+    EXPECT_EQ(dashboard().opacity(), 1);
+}
+
+TEST_F(PopoverWindowTest, CanBeShownAgainWhileItGoes) {
+    animated = true;
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    window->hide();
+    window->show({});
+    EXPECT_TRUE(window->isShown());
+    EXPECT_TRUE(eventually([&] { return dashboard().opacity() == 1; }));
+    EXPECT_TRUE(shownWindow().isVisible());
+}
+
+TEST_F(PopoverWindowTest, IsGoneAtOnceWhereNothingIsToMove) {
+    const auto window = makeWindow(PopoverForm::atTheItem);
+    window->show({});
+    window->hide();
+    EXPECT_FALSE(shownWindow().isVisible());
 }
 
 TEST_F(PopoverWindowTest, DrawsItsOwnEdgeOnlyAtTheItem) {

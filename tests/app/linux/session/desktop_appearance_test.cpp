@@ -1,5 +1,6 @@
 #include "app/linux/session/desktop_appearance.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
 #include <gmock/gmock.h>
@@ -14,7 +15,8 @@ namespace quelby {
 
 static void PrintTo(const Appearance& appearance, std::ostream* stream) {
     *stream << (appearance.dark ? "dark" : "light") << (appearance.animated ? ", animated" : ", still")
-            << (appearance.contrast ? ", contrast" : "") << ", text " << appearance.textScale;
+            << (appearance.contrast ? ", contrast" : "") << ", text " << appearance.textScale << ", accent "
+            << testing::PrintToString(appearance.accent);
 }
 
 } // namespace quelby
@@ -53,6 +55,14 @@ public:
         }
         const auto wrapped = QVariant::fromValue(QDBusVariant(found->second)); // twice, as the portal does
         return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(wrapped))));
+    }
+
+    void changeAccent(double red, double green, double blue) {
+        QDBusArgument color;
+        color.beginStructure();
+        color << red << green << blue;
+        color.endStructure();
+        change("org.freedesktop.appearance", "accent-color", QVariant::fromValue(color));
     }
 
     void change(const QString& group, const QString& key, const QVariant& value) {
@@ -112,7 +122,7 @@ TEST_F(DesktopAppearanceTest, PassesOverWhatItDoesNotKnow) {
     FakePortal portal({{"color-scheme", 1U}});
     appearance.setBus(*connection);
     ASSERT_TRUE(becomes(dark));
-    portal.change("org.freedesktop.appearance", "accent-color", 2U);
+    portal.change("org.freedesktop.appearance", "accent-color", 2U); // which is no colour
     portal.change("org.example", "color-scheme", 2U);
     portal.change("org.gnome.desktop.interface", "enable-animations", false);
     ASSERT_TRUE(becomes({.dark = true, .animated = false})); // and what came before it changed nothing
@@ -131,6 +141,17 @@ TEST_F(DesktopAppearanceTest, IsLightAgainWhereThePortalDoesNotCareAnyMore) {
     EXPECT_EQ(appearance.darkScheme(), std::nullopt);
     portal.change("org.freedesktop.appearance", "color-scheme", 1U);
     ASSERT_TRUE(becomes(dark));
+}
+
+TEST_F(DesktopAppearanceTest, HasTheAccentOfTheDesktop) {
+    FakePortal portal({});
+    appearance.setBus(*connection);
+    portal.changeAccent(1, 0.5, 0.2);
+    ASSERT_TRUE(becomes({.accent = 0xFF8033}));
+    portal.changeAccent(-1, -1, -1); // for none
+    ASSERT_TRUE(becomes(light));
+    portal.change("org.kde.kdeglobals.General", "AccentColor", "61,174,233");
+    ASSERT_TRUE(becomes({.accent = 0x3DAEE9}));
 }
 
 TEST_F(DesktopAppearanceTest, AsksAPortalThatIsStartedLater) {
@@ -164,6 +185,11 @@ TEST_F(DesktopAppearanceTest, IsThatOfTheSettingsFileWithoutAPortal) {
     folder.write("gtk-3.0/settings.ini", "[Settings]\ngtk-theme-name=Adwaita-dark\n");
     const DesktopAppearance other(QString::fromStdString(folder.path().string()), [] {});
     EXPECT_EQ(other.current(), dark);
+    EXPECT_EQ(appearance.current(), light);
+    appearance.refresh();
+    EXPECT_EQ(appearance.current(), dark);
+    folder.write("gtk-3.0/settings.ini", "");
+    appearance.refresh();
     EXPECT_EQ(appearance.current(), light);
     appearance.setBus(std::nullopt);
     EXPECT_EQ(appearance.current(), light);

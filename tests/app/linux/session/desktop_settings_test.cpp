@@ -46,6 +46,22 @@ const Said everythingSaid[] = {
     {"a user who does not prefer dark, under a dark theme",
      {.x = xDark, .file = {.prefersDark = false}},
      true},
+    {"what is stored asks for dark", {.stored = {.colorScheme = 1}}, true},
+    {"what is stored asks for light under a dark theme",
+     {.stored = {.colorScheme = 2}, .file = {.theme = "Adwaita-dark"}},
+     false},
+    {"the portal knows better than what is stored",
+     {.portal = {.colorScheme = 2}, .stored = {.colorScheme = 1}},
+     false},
+    {"the portal does not care, and what is stored is old",
+     {.portal = {.colorScheme = 0}, .stored = {.colorScheme = 1}},
+     false},
+    {"X11 has a theme, and what is stored is another desktop's",
+     {.x = xLight, .stored = {.colorScheme = 1}},
+     false},
+    {"a dark theme that is stored",
+     {.stored = {.theme = "Adwaita-dark"}, .file = {.theme = "Adwaita"}},
+     true},
     {"X11 has no name", {.x = xSettings({{"Net/ThemeName", ""}}), .file = {.theme = "Arc-Dark"}}, true},
 };
 
@@ -60,6 +76,9 @@ TEST(DesktopSettings, AskForDarkOrLightOrDoNotCare) {
     EXPECT_EQ(darkScheme({.portal = {.colorScheme = 2}}), false);
     EXPECT_EQ(darkScheme({.portal = {.colorScheme = 0}, .x = xDark}), std::nullopt);
     EXPECT_EQ(darkScheme({.x = xDark}), std::nullopt);
+    EXPECT_EQ(darkScheme({.file = {.darkColors = true}}), true);
+    EXPECT_EQ(darkScheme({.file = {.darkColors = false}}), false);
+    EXPECT_EQ(darkScheme({.portal = {.colorScheme = 2}, .file = {.darkColors = true}}), false);
 }
 
 TEST(DesktopSettings, AreAnimatedUnlessAnybodySaysOtherwise) {
@@ -73,6 +92,8 @@ TEST(DesktopSettings, AreAnimatedUnlessAnybodySaysOtherwise) {
     EXPECT_FALSE(animated({.x = xSettings({{"Gtk/EnableAnimations", 0}})}));
     EXPECT_TRUE(animated({.x = xSettings({{"Gtk/EnableAnimations", 1}}), .file = {.animated = false}}));
     EXPECT_FALSE(animated({.file = {.animated = false}}));
+    EXPECT_FALSE(animated({.stored = {.animated = false}}));
+    EXPECT_TRUE(animated({.portal = {.animated = true}, .stored = {.animated = false}}));
 }
 
 TEST(DesktopSettings, WantContrastWhereThePortalOrTheThemeSaysSo) {
@@ -82,6 +103,8 @@ TEST(DesktopSettings, WantContrastWhereThePortalOrTheThemeSaysSo) {
     EXPECT_TRUE(contrast({.portal = {.contrast = 1}}));
     EXPECT_FALSE(contrast({.portal = {.contrast = 2}}));
     EXPECT_TRUE(contrast({.x = xSettings({{"Net/ThemeName", "HighContrastInverse"}})}));
+    EXPECT_TRUE(contrast({.stored = {.contrast = 1}}));
+    EXPECT_FALSE(contrast({.portal = {.contrast = 0}, .stored = {.contrast = 1}}));
 }
 
 TEST(DesktopSettings, HaveATextThatIsAtMostHalfAsLargeAgain) {
@@ -91,6 +114,38 @@ TEST(DesktopSettings, HaveATextThatIsAtMostHalfAsLargeAgain) {
         EXPECT_EQ(appearance({.portal = {.textScale = asked}}).textScale, given) << asked;
     }
     EXPECT_EQ(appearance({.portal = {.textScale = std::nan("")}}).textScale, 1);
+    EXPECT_EQ(appearance({.stored = {.textScale = 1.25}}).textScale, 1.25);
+    EXPECT_EQ(appearance({.file = {.fontResolution = 120}}).textScale, 1.25);
+    EXPECT_EQ(appearance({.portal = {.textScale = 1.5}, .file = {.fontResolution = 120}}).textScale, 1.5);
+}
+
+TEST(DesktopSettings, HaveTheAccentOfThePortalOrElseTheStoredOne) {
+    EXPECT_EQ(appearance({}).accent, std::nullopt);
+    EXPECT_EQ(appearance({.portal = {.accent = 0x112233}}).accent, 0x112233U);
+    EXPECT_EQ(appearance({.stored = {.accent = 0x445566}}).accent, 0x445566U);
+    EXPECT_EQ(appearance({.file = {.accent = 0x778899}}).accent, 0x778899U);
+    EXPECT_EQ(appearance({.portal = {.accent = 0x112233}, .stored = {.accent = 0x445566}}).accent, 0x112233U);
+}
+
+TEST(Accent, IsThreePartsFromZeroToOne) {
+    EXPECT_EQ(accentFrom(0, 0, 0), 0U);
+    EXPECT_EQ(accentFrom(1, 0.5, 0.2), 0xFF8033U);
+    EXPECT_EQ(accentFrom(1, 1, 1), 0xFFFFFFU);
+    for (const double wrong : {-0.01, 1.01, std::nan("")}) {
+        EXPECT_EQ(accentFrom(wrong, 0, 0), std::nullopt) << wrong;
+        EXPECT_EQ(accentFrom(0, wrong, 0), std::nullopt) << wrong;
+        EXPECT_EQ(accentFrom(0, 0, wrong), std::nullopt) << wrong;
+    }
+}
+
+TEST(Accent, IsThreeNumbersInTheWordsOfKde) {
+    EXPECT_EQ(colorOfKde("61,174,233"), 0x3DAEE9U);
+    EXPECT_EQ(colorOfKde("0,0,0"), 0U);
+    EXPECT_EQ(colorOfKde("255,255,255"), 0xFFFFFFU);
+    for (const auto* const wrong :
+         {"", "61", "61,174", "61,174,", "61,174,233,1", "256,0,0", "-1,0,0", "a,b,c", "#3daee9"}) {
+        EXPECT_EQ(colorOfKde(wrong), std::nullopt) << wrong;
+    }
 }
 
 TEST(DesktopSettings, HaveATimeForADoublePress) {
@@ -104,7 +159,7 @@ TEST(DesktopSettings, HaveATimeForADoublePress) {
 ToolkitSettings inFile(const std::string& content) {
     const TemporaryFolder folder;
     folder.write("gtk-3.0/settings.ini", content);
-    return toolkitSettings(QString::fromStdString(folder.path().string()));
+    return toolkitSettings(QString::fromStdString(folder.path().string()), "GNOME");
 }
 
 TEST(ToolkitSettings, AreWhatTheFileSays) {
@@ -121,7 +176,34 @@ TEST(ToolkitSettings, AreNoneWhereTheFileSaysNothing) {
                                       "[Other]\ngtk-theme-name=a-dark\n", "no settings at all"}) {
         EXPECT_EQ(inFile(content), ToolkitSettings()) << content;
     }
-    EXPECT_EQ(toolkitSettings("/nonexistent"), ToolkitSettings());
+    EXPECT_EQ(toolkitSettings("/nonexistent", "KDE"), ToolkitSettings());
+}
+
+TEST(ToolkitSettings, HaveTheColoursOfKdeOnKdeOnly) {
+    const TemporaryFolder folder;
+    const auto path = QString::fromStdString(folder.path().string());
+    folder.write("kdeglobals",
+                 "[General]\nAccentColor=61,174,233\n\n[Colors:Window]\nBackgroundNormal=42,46,50\n");
+    EXPECT_EQ(toolkitSettings(path, "KDE").darkColors, true);
+    EXPECT_EQ(toolkitSettings(path, "KDE").accent, 0x3DAEE9U);
+    EXPECT_EQ(toolkitSettings(path, "GNOME"), ToolkitSettings());
+    folder.write("kdeglobals", "[Colors:Window]\nBackgroundNormal=239,240,241\n");
+    EXPECT_EQ(toolkitSettings(path, "KDE").darkColors, false);
+    EXPECT_EQ(toolkitSettings(path, "KDE").accent, std::nullopt);
+    folder.write("kdeglobals", "[Colors:Window]\nBackgroundNormal=light\n");
+    EXPECT_EQ(toolkitSettings(path, "KDE").darkColors, std::nullopt);
+}
+
+TEST(ToolkitSettings, HaveTheResolutionOfTheFontsOnKdeOnly) {
+    const TemporaryFolder folder;
+    const auto path = QString::fromStdString(folder.path().string());
+    folder.write("kcmfontsrc", "[General]\nforceFontDPIWayland=120\n");
+    EXPECT_EQ(toolkitSettings(path, "KDE").fontResolution, 120);
+    EXPECT_EQ(toolkitSettings(path, "ubuntu:KDE").fontResolution, 120);
+    EXPECT_EQ(toolkitSettings(path, "GNOME").fontResolution, std::nullopt);
+    EXPECT_EQ(toolkitSettings(path, "").fontResolution, std::nullopt);
+    folder.write("kcmfontsrc", "[General]\nforceFontDPIWayland=0\n");
+    EXPECT_EQ(toolkitSettings(path, "KDE").fontResolution, std::nullopt);
 }
 
 TEST(DarkTheme, IsOneByAWordOfItsName) {

@@ -2,6 +2,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusVariant>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 
@@ -20,7 +21,20 @@ FakeWatcher::~FakeWatcher() {
     bus_->unregisterObject("/StatusNotifierWatcher");
 }
 
+void FakeWatcher::setHost(bool present) {
+    hasHost = present;
+    const auto name = present ? "StatusNotifierHostRegistered" : "StatusNotifierHostUnregistered";
+    EXPECT_TRUE(bus_->send(
+        QDBusMessage::createSignal("/StatusNotifierWatcher", "org.kde.StatusNotifierWatcher", name)));
+}
+
 bool FakeWatcher::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
+    if (message.member() == "Get" && isMute) {
+        return true;
+    }
+    if (message.member() == "Get" && hasHost) {
+        return connection.send(message.createReply(QVariant::fromValue(QDBusVariant(*hasHost))));
+    }
     if (message.member() != "RegisterStatusNotifierItem" || message.signature() != "s") {
         return false;
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,14 @@ public:
 
     // The services of the items that registered here.
     std::vector<QString> items;
+
+    // Whether a panel shows them; nothing where the watcher does not say.
+    std::optional<bool> hasHost;
+
+    bool isMute = false; // on being asked for it
+
+    // A panel comes, or goes.
+    void setHost(bool present);
 
     [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
 

@@ -31,6 +31,21 @@ TEST_F(PanelTheme, OfLxqtIsTheUsersChoice) {
     EXPECT_EQ(theme(PanelStyle::lxqt), "ambiance");
 }
 
+// Without them the panel has no theme, whatever else lies on the disk.
+TEST_F(PanelTheme, OfLxqtIsElseThatOfTheFoldersForEverybody) {
+    const TemporaryFolder shared;
+    shared.write("lxqt/lxqt.conf", "[General]\ntheme=Clearlooks\n");
+    const auto before = qgetenv("XDG_CONFIG_DIRS");
+    qputenv("XDG_CONFIG_DIRS", "/nonexistent");
+    EXPECT_EQ(theme(PanelStyle::lxqt), "");
+    qputenv("XDG_CONFIG_DIRS", QByteArray("/nonexistent:").append(shared.path().c_str()));
+    EXPECT_EQ(theme(PanelStyle::lxqt), "Clearlooks");
+    folder.write("lxqt/lxqt.conf", "[General]\ntheme=ambiance\n");
+    EXPECT_EQ(theme(PanelStyle::lxqt), "ambiance");
+    before.isEmpty() ? static_cast<void>(qunsetenv("XDG_CONFIG_DIRS"))
+                     : static_cast<void>(qputenv("XDG_CONFIG_DIRS", before));
+}
+
 TEST_F(PanelTheme, IsNoneForTheOthers) {
     folder.write("plasmarc", "[Theme]\nname=default\n");
     for (const auto style : {PanelStyle::dark, PanelStyle::published, PanelStyle::unknown}) {
