@@ -45,6 +45,8 @@ StatusNotifierWatcher::StatusNotifierWatcher(QDBusConnection bus, Listener liste
                  this, SLOT(hostRegistered()));
     bus_.connect(watcherService, watcherPath, watcherService,
                  QStringLiteral("StatusNotifierHostUnregistered"), this, SLOT(hostUnregistered()));
+    bus_.connect(watcherService, watcherPath, watcherService,
+                 QStringLiteral("StatusNotifierItemUnregistered"), this, SLOT(itemUnregistered(QString)));
     askWhoItIs();
 }
 
@@ -73,6 +75,7 @@ void StatusNotifierWatcher::askWhoItIs() {
         }
         host_ = trayHost(processName(process.value()));
         told_ = false; // of this one
+        registrations_ = 0;
         hasDenied_ = false;
         listener_.met(*host_);
         registerItem();
@@ -81,10 +84,20 @@ void StatusNotifierWatcher::askWhoItIs() {
 }
 
 void StatusNotifierWatcher::registerItem() {
+    ++registrations_;
     auto message = QDBusMessage::createMethodCall(watcherService, watcherPath, watcherService,
                                                   QStringLiteral("RegisterStatusNotifierItem"));
     message.setArguments({itemService_});
     bus_.send(message);
+}
+
+// GNOME's extension now and then gives up on an item without a menu that has answered all that it was asked. A watcher that
+// insists is left alone.
+void StatusNotifierWatcher::itemUnregistered(const QString& item) {
+    constexpr int mostTimes = 5;
+    if (host_ && item.contains(itemService_) && registrations_ < mostTimes) {
+        registerItem();
+    }
 }
 
 // Those who have no answer show the items themselves.

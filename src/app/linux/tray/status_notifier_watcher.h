@@ -36,6 +36,7 @@ public:
 private Q_SLOTS:
     void hostRegistered();
     void hostUnregistered();
+    void itemUnregistered(const QString& item);
 
 private:
     void ownerChanged(const QString& owner);
@@ -51,6 +52,7 @@ private:
     std::optional<TrayHost> host_; // as it is when a panel is there; none without a watcher
     bool told_ = false;            // that it shows the item
     bool hasDenied_ = false;       // that any panel shows items
+    int registrations_ = 0;        // with this one
     QTimer patience_;
 };
 

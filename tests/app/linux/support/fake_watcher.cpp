@@ -28,6 +28,13 @@ void FakeWatcher::setHost(bool present) {
         QDBusMessage::createSignal("/StatusNotifierWatcher", "org.kde.StatusNotifierWatcher", name)));
 }
 
+void FakeWatcher::giveUp(const QString& item) {
+    auto signal = QDBusMessage::createSignal("/StatusNotifierWatcher", "org.kde.StatusNotifierWatcher",
+                                             "StatusNotifierItemUnregistered");
+    signal.setArguments({item});
+    EXPECT_TRUE(bus_->send(signal));
+}
+
 bool FakeWatcher::handleMessage(const QDBusMessage& message, const QDBusConnection& connection) {
     if (message.member() == "Get" && isMute) {
         return true;

@@ -30,6 +30,9 @@ public:
     // A panel comes, or goes.
     void setHost(bool present);
 
+    // Drops the item.
+    void giveUp(const QString& item);
+
     [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;

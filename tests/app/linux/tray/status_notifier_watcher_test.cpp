@@ -92,6 +92,21 @@ TEST_F(StatusNotifierWatcherTest, NoticesThatTheLastPanelIsGone) {
     EXPECT_THAT(told, ElementsAre(true, false));
 }
 
+TEST_F(StatusNotifierWatcherTest, RegistersAgainWithOneThatGivesUpOnTheItemButNotForever) {
+    FakeWatcher watcher("gnome-shell");
+    follow(0ms);
+    ASSERT_TRUE(hasBeenTold(1));
+    for (std::size_t times = 1; times < 5; ++times) {
+        watcher.giveUp("somebody-else");
+        watcher.giveUp(watcher.items.back());
+        ASSERT_TRUE(eventually([&] { return watcher.items.size() == times + 1; }));
+    }
+    watcher.giveUp(watcher.items.back());
+    watcher.setHost(false); // which is heard of after it
+    ASSERT_TRUE(hasBeenTold(2));
+    EXPECT_EQ(watcher.items.size(), 5U);
+}
+
 TEST_F(StatusNotifierWatcherTest, TellsOnceOfSeveralPanels) {
     FakeWatcher watcher("kded5");
     watcher.hasHost = true;
