@@ -65,8 +65,8 @@ TEST_F(IokitBattery, IsRecordedAsItPlaysElsewhere) {
     auto& battery = registry().battery.emplace();
     for (const auto& [key, value] : recorded) {
         const auto* const flag = std::get_if<bool>(&value);
-        battery.emplace_back(text(key.c_str()), flag != nullptr ? fake::Value(*flag)
-                                                                : integer(std::get<std::int64_t>(value)));
+        battery.emplace_back(text(key.c_str()),
+                             flag != nullptr ? fake::Value(*flag) : integer(std::get<std::int64_t>(value)));
     }
     battery.emplace_back(text("DeviceName"), text("bq40z651"));
     battery.emplace_back(text("ManufacturerData"), fake::Data{});
