@@ -15,7 +15,7 @@ namespace quelby::app {
 // Hears each change of any of it, for as long as it lives.
 class SystemAppearanceListener {
 public:
-    explicit SystemAppearanceListener(std::function<void()> changed);
+    explicit SystemAppearanceListener(const std::function<void()>& changed);
     SystemAppearanceListener(const SystemAppearanceListener&) = delete;
     SystemAppearanceListener& operator=(const SystemAppearanceListener&) = delete;
     ~SystemAppearanceListener();

@@ -107,7 +107,7 @@ struct SystemAppearanceListener::Parts {
     NotificationListener accessibility;
 };
 
-SystemAppearanceListener::SystemAppearanceListener(std::function<void()> changed) {
+SystemAppearanceListener::SystemAppearanceListener(const std::function<void()>& changed) {
     @autoreleasepool {
         parts_ = std::make_unique<Parts>(changed);
     }

@@ -5,17 +5,17 @@ namespace quelby::app {
 namespace {
 
 template <typename Font>
-Font asked(Font font) {
+void ask(Font& font) {
     if constexpr (requires { typename Font::Tag; }) {
         font.setFeature(typename Font::Tag("tnum"), 1);
     }
-    return font;
 }
 
 } // namespace
 
 QFont withTabularDigits(QFont font) {
-    return asked(std::move(font));
+    ask(font);
+    return font;
 }
 
 } // namespace quelby::app

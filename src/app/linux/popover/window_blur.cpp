@@ -39,7 +39,7 @@ QRegion insideOfCorners(QSize size, double radius) {
     return {path.toFillPolygon().toPolygon()};
 }
 
-bool askForBlur(QWindow& window, double cornerRadius) {
+bool askForBlur(QWindow& window, double radius) {
     const auto* const x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     auto* const connection = x11 == nullptr ? nullptr : x11->connection();
     if (connection == nullptr) {
@@ -50,8 +50,7 @@ bool askForBlur(QWindow& window, double cornerRadius) {
         return false;
     }
     const double pixels = window.devicePixelRatio();
-    const auto part =
-        asNumbers(insideOfCorners((QSizeF(window.size()) * pixels).toSize(), cornerRadius * pixels));
+    const auto part = asNumbers(insideOfCorners((QSizeF(window.size()) * pixels).toSize(), radius * pixels));
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window.winId()),
                         property, XCB_ATOM_CARDINAL, 32, static_cast<std::uint32_t>(part.size()),
                         part.data());

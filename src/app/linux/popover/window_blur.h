@@ -10,6 +10,6 @@ namespace quelby::app {
 
 // Asks the compositor to blur what is behind that part. Whether it is one that does so for X11's windows, as
 // KWin; the program may then be drawn with a background that lets some of it through.
-[[nodiscard]] bool askForBlur(QWindow& window, double cornerRadius);
+[[nodiscard]] bool askForBlur(QWindow& window, double radius);
 
 } // namespace quelby::app
