@@ -43,7 +43,8 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, const OwnProgram&
     , program_(program)
     , firstOpening_(firstOpening)
     , configurationFolder_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
-    , appearance_(configurationFolder_, [this] { appearanceChanged(); }) {}
+    , appearance_(configurationFolder_, [this] { appearanceChanged(); })
+    , overview_([this] { popover_->shellOverviewOpened(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
     return item_.emplace(LinuxStatusItem::Listener{.pressed =
@@ -105,7 +106,7 @@ void LinuxDesktop::start() {
     connectToX();
     setBus(bus_.connection());
     bus_.follow([this](const std::optional<QDBusConnection>& bus) {
-        withoutTray_ = WithoutTray::wait; // whatever the bus before had yet to tell
+        firstOpening_ = FirstOpening::never; // whatever the bus before had yet to tell
         setBus(bus);
     });
 }
@@ -130,6 +131,7 @@ void LinuxDesktop::connectToX() {
 void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
     appearance_.setBus(bus);
     item_->setBus(bus);
+    overview_.setBus(bus);
 }
 
 // On X11 Qt scales everything by the resolution that the desktop gives its fonts, which has it in it.

@@ -139,6 +139,12 @@ bool LinuxPopover::itemPressed(std::optional<QPoint> told, std::chrono::millisec
     return true;
 }
 
+void LinuxPopover::shellOverviewOpened() {
+    if (form_ == PopoverForm::atTheItem) {
+        close();
+    }
+}
+
 void LinuxPopover::appearanceChanged() {
     const auto appearance = parts_.appearance();
     if (appearance.textScale != shownTextScale_) { // the window is of another size then

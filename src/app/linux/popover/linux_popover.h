@@ -40,6 +40,9 @@ public:
     // The desktop likes its programs otherwise now.
     void appearanceChanged();
 
+    // In which a popover would stand alone.
+    void shellOverviewOpened();
+
 private:
     // Whether there is a window now, and whether there is what it is made with.
     [[nodiscard]] bool make();
