@@ -32,7 +32,7 @@ struct CyclingClock final : quelby::Clock {
     }
 };
 
-// Processes of which one in so many works, each an application of its own or together with nine others.
+// Processes of which one in so many works. None has a desktop entry, so each name stands for itself, which costs most.
 class Crowd {
 public:
     Crowd(int count, int workingOneIn) : count_(count), workingOneIn_(workingOneIn) {
