@@ -1,6 +1,7 @@
-// What it adds to a cycle to tell which application used the energy: the listing of applications, the split over all of
-// it, sessions and sleeps, and the minute's write shared out among its cycles. Beside it stand the listings that a cycle
-// has anyway, of the same made-up /proc. CPU time, means; the processes have been looked at before.
+// What it adds to a cycle to tell which application used the energy: the listing of applications, the split
+// over all of it, sessions and sleeps, and the minute's write shared out among its cycles. Beside it stand
+// the listings that a cycle has anyway, of the same made-up /proc. CPU time, means; the processes have been
+// looked at before.
 #include <cstdio>
 #include <ctime>
 #include <optional>
@@ -32,7 +33,8 @@ struct CyclingClock final : quelby::Clock {
     }
 };
 
-// Processes of which one in so many works, each an application of its own or together with nine others.
+// Processes of which one in so many works. None has a desktop entry, so each name stands for itself, which
+// costs most.
 class Crowd {
 public:
     Crowd(int count, int workingOneIn) : count_(count), workingOneIn_(workingOneIn) {

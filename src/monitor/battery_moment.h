@@ -22,12 +22,12 @@ struct BatteryMoment {
 // `fields` are those of the cycle under way.
 [[nodiscard]] BatteryMoment batteryMoment(const PublishedFields& fields, Clock& clock);
 
-// How much time has passed, sleep included, by the computer's own clocks; by the wall clock where these tell nothing, or are
-// of another boot. Never negative.
+// How much time has passed, sleep included, by the computer's own clocks; by the wall clock where these tell
+// nothing, or are of another boot. Never negative.
 [[nodiscard]] double secondsBetween(const BatteryMoment& before, const BatteryMoment& after);
 
-// The computer with its battery slept in between, for a minute or more. What passed while nothing recorded is no sleep, and
-// neither is a jump of the wall clock.
+// The computer with its battery slept in between, for a minute or more. What passed while nothing recorded
+// is no sleep, and neither is a jump of the wall clock.
 [[nodiscard]] std::optional<Sleep> sleepBetween(const BatteryMoment& before, const BatteryMoment& after);
 
 } // namespace quelby

@@ -33,8 +33,8 @@ void sampleBattery(BatteryRecord& record, Date now, Int percent);
 // than three samples, `timeRemaining`.
 void predictBattery(const BatteryRecord& record, PublishedFields& fields);
 
-// Minutes until charging will stop at the limit, by the same slope. Nothing where it will not: the battery does not charge,
-// or the limit is off, has nobody who keeps it, or is reached.
+// Minutes until charging will stop at the limit, by the same slope. Nothing where it will not: the battery
+// does not charge, or the limit is off, has nobody who keeps it, or is reached.
 [[nodiscard]] std::optional<double> minutesToLimit(const BatteryRecord& record,
                                                    const PublishedFields& fields);
 

@@ -23,8 +23,9 @@ public:
     EnergyRecorder& operator=(EnergyRecorder&&) = delete;
     ~EnergyRecorder();
 
-    // One cycle with its figures and its listing of applications, or of processes. A cycle counts for three seconds, as
-    // the history counts it for the energy of today, and one within the same second as another for nothing.
+    // One cycle with its figures and its listing of applications, or of processes. A cycle counts for three
+    // seconds, as the history counts it for the energy of today, and one within the same second as another
+    // for nothing.
     void addCycle(const PublishedFields& fields, std::optional<std::string_view> listing);
 
     // Keeps what has been added up so far.

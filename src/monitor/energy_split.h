@@ -9,9 +9,10 @@
 
 namespace quelby {
 
-// Watt-hours of `hours` at the present power, added to what each application has used: to each line of the listing its
-// part of `cpuPower` by its part of the CPU time of all lines; all else, and what cannot be split because there is no
-// listing, to "system". An application that is really called "system" or "other" is told apart by what follows its name.
+// Watt-hours of `hours` at the present power, added to what each application has used: to each line of the
+// listing its part of `cpuPower` by its part of the CPU time of all lines; all else, and what cannot be
+// split because there is no listing, to "system". An application that is really called "system" or "other"
+// is told apart by what follows its name.
 void addByApp(EnergyByName& energy, std::optional<std::string_view> listing, const PublishedFields& fields,
               double hours);
 

@@ -23,8 +23,8 @@ public:
             0; // between the cycle before and this one, out of the battery; negative: into it
     };
 
-    // The last session that was kept, if there was any: it goes on where the first cycle shows the same half a day later
-    // at the most, with a charge that says that nothing else came in between.
+    // The last session that was kept, if there was any: it goes on where the first cycle shows the same half
+    // a day later at the most, with a charge that says that nothing else came in between.
     explicit SessionWatch(std::optional<Session> last) : last_(last) {}
 
     // Whether a time on battery begins with this cycle.

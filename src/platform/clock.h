@@ -6,8 +6,8 @@
 
 namespace quelby {
 
-// How long the computer has been awake since it booted, and how long it has slept, in seconds. Nobody sets these
-// clocks, so their differences are true where those of the wall clock may be jumps.
+// How long the computer has been awake since it booted, and how long it has slept, in seconds. Nobody sets
+// these clocks, so their differences are true where those of the wall clock may be jumps.
 struct TimeSinceBoot {
     double awake = 0;
     double asleep = 0;

@@ -1,4 +1,5 @@
-// Asks where the energy went, beside a recorder or without one. Neither the history nor anything else is changed.
+// Asks where the energy went, beside a recorder or without one. Neither the history nor anything else is
+// changed.
 #pragma once
 
 #include <filesystem>
@@ -25,11 +26,11 @@ struct EnergyReport {
     std::vector<BatteryDay> days;  // oldest first
 };
 
-// The history is opened anew for each answer, so what is recorded later is found. Where there is none, or where no program
-// has kept such tables in it yet, answers are empty.
+// The history is opened anew for each answer, so what is recorded later is found. Where there is none, or
+// where no program has kept such tables in it yet, answers are empty.
 //
-// Energy is kept by hours: a range begins with the first hour that reaches into it, and ends now. That since the cable was
-// pulled is exact; plugged in, it is that of the last time on battery.
+// Energy is kept by hours: a range begins with the first hour that reaches into it, and ends now. That since
+// the cable was pulled is exact; plugged in, it is that of the last time on battery.
 class EnergyReader {
 public:
     // The clock outlives the reader.

@@ -1,5 +1,5 @@
-// Keeps where the energy went, in tables of its own beside those of the consumption history, which an older program
-// passes over:
+// Keeps where the energy went, in tables of its own beside those of the consumption history, which an older
+// program passes over:
 //
 //   app_energy         watt-hours of each hour by application, kept for 30 days
 //   component_energy   the same energy by component
@@ -7,11 +7,11 @@
 //   sessions           the last thirty times on battery, of charging, and of calibration, each
 //   battery_days       a row for each day of UTC, kept for good
 //
-// An hour has 200 applications at the most, the largest; the others stand together under "other". What was used since the
-// cable was pulled last stands in rows of its own, until it is pulled again.
+// An hour has 200 applications at the most, the largest; the others stand together under "other". What was
+// used since the cable was pulled last stands in rows of its own, until it is pulled again.
 //
-// The file, how durable it is, and who may write to it: see HistoryStore. Nothing reports an error; where the file cannot be
-// opened, nothing is kept. One thread only.
+// The file, how durable it is, and who may write to it: see HistoryStore. Nothing reports an error; where
+// the file cannot be opened, nothing is kept. One thread only.
 #pragma once
 
 #include <filesystem>

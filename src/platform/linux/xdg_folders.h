@@ -29,8 +29,8 @@ private:
     std::filesystem::path program_;
 };
 
-// Where the desktop entries of applications lie, the user's own first: "applications" in the folder for data and in each of
-// $XDG_DATA_DIRS, or else /usr/local/share and /usr/share.
+// Where the desktop entries of applications lie, the user's own first: "applications" in the folder for data
+// and in each of $XDG_DATA_DIRS, or else /usr/local/share and /usr/share.
 [[nodiscard]] std::vector<std::filesystem::path> desktopEntryFolders();
 
 } // namespace quelby

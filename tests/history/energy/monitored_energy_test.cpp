@@ -1,5 +1,5 @@
-// Where the energy went, as a whole monitor keeps it: each sum is made a second time here, from what the computer was
-// made to do.
+// Where the energy went, as a whole monitor keeps it: each sum is made a second time here, from what the
+// computer was made to do.
 #include "monitored_energy.h"
 
 #include <fmt/format.h>

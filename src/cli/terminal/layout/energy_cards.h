@@ -7,7 +7,8 @@
 
 namespace quelby::cli {
 
-// Where the energy went: every section in display order, each of them this many columns wide, its frame included.
+// Where the energy went: every section in display order, each of them this many columns wide, its frame
+// included.
 [[nodiscard]] std::vector<Block> energyCards(const EnergyPanel& panel, int columns);
 
 } // namespace quelby::cli

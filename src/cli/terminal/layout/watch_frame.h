@@ -1,5 +1,5 @@
-// What `quelbyctl watch` shows in a terminal: the dashboard, or where the energy went, between a header and the keys that can be
-// pressed.
+// What `quelbyctl watch` shows in a terminal: the dashboard, or where the energy went, between a header and
+// the keys that can be pressed.
 #pragma once
 
 #include <optional>
@@ -25,7 +25,8 @@ struct WatchFrame {
     int page = 1;           // rows of the cards that are shown
 };
 
-// A view that is scrolled beyond the end shows the end. Where there is one, the energy takes the place of the cards.
+// A view that is scrolled beyond the end shows the end. Where there is one, the energy takes the place of
+// the cards.
 [[nodiscard]] WatchFrame watchFrame(const Dashboard& dashboard, const WatchView& view,
                                     const std::optional<EnergyPanel>& energy = std::nullopt);
 

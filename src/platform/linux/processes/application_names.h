@@ -17,8 +17,8 @@ public:
     explicit ApplicationNames(std::vector<std::filesystem::path> entryFolders)
         : entryFolders_(std::move(entryFolders)) {}
 
-    // Gives the process the name of its application, or none. A desktop moves what it has started into its own control
-    // group a moment later, so each process is looked at twice, and then no more.
+    // Gives the process the name of its application, or none. A desktop moves what it has started into its
+    // own control group a moment later, so each process is looked at twice, and then no more.
     void look(Process& process, ProcDirectory& directory);
 
 private:

@@ -19,8 +19,8 @@ class ProcProcessLister final : public ProcessLister {
 public:
     // Nothing is opened before the first listing. The files of processes are kept open and read again, so a
     // directory that stands in for /proc writes in place. The time of a scan can be handed in; the
-    // directory's "uptime" goes before it, where there is one. The folders are those with desktop entries, which
-    // tell what people call an application.
+    // directory's "uptime" goes before it, where there is one. The folders are those with desktop entries,
+    // which tell what people call an application.
     explicit ProcProcessLister(std::filesystem::path procRoot,
                                std::function<ScanTime()> scanTime = systemScanTime,
                                std::vector<std::filesystem::path> entryFolders = {});

@@ -26,7 +26,7 @@ std::string chargeShareText(double wattHours, std::optional<double> fullCharge) 
         return {};
     }
     const double percent = wattHours / *fullCharge * 100;
-    return percent < 0.5 ? "<1 %" : fmt::format("{:.0f} %", percent);
+    return percent < 0.5 ? "<1 %" : fmt::format("{} %", truncated(std::round(percent)));
 }
 
 std::string durationText(double seconds) {

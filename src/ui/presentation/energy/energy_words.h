@@ -12,7 +12,8 @@ namespace quelby {
 // "0.08 Wh", "8.2 Wh", "182 Wh": as many digits as can be told.
 [[nodiscard]] std::string wattHoursText(double wattHours);
 
-// How much of a full battery it is: "17 %", and "<1 %" for what is less. Nothing where there is no battery to compare with.
+// How much of a full battery it is: "17 %", and "<1 %" for what is less. Nothing where there is no battery
+// to compare with.
 [[nodiscard]] std::string chargeShareText(double wattHours, std::optional<double> fullCharge);
 
 // "45 s", "12 min", "7 h 50 min", "3 d 4 h".
