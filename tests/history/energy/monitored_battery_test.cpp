@@ -130,15 +130,15 @@ TEST(AMonthOfEnergy, IsKeptWholeAndSmall) {
     double used = 0;
     {
         EnergyRecorder recorder(folder.path(), clock);
-        for (int i = 0; i < 40 * 1440; ++i) { // a cycle each minute of forty days
+        for (int i = 0; i < 40 * 288; ++i) { // a cycle every five minutes of forty days
             fields.totalPower = 10 + i % 7;
-            fields.isPluggedIn = i % 1440 > 700;
+            fields.isPluggedIn = i % 288 > 140;
             const auto listing =
                 fmt::format("%CPU APPLICATION\n20.0 Browser\n{}.0 program {}\n", i % 13, i % 60);
             recorder.addCycle(fields, listing);
-            used += i >= 10 * 1440 ? fields.totalPower * 3 / 3600 : 0;
-            clock.time += 60;
-            clock.boot.awake += 60;
+            used += i >= 10 * 288 ? fields.totalPower * 3 / 3600 : 0;
+            clock.time += 300;
+            clock.boot.awake += 300;
         }
     }
     const EnergyReader reader(folder.path(), clock);
