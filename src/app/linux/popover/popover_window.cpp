@@ -63,12 +63,15 @@ protected:
 
     void focusInEvent(QFocusEvent* event) override {
         QQuickWindow::focusInEvent(event);
+        popover_.hasHadFocus_ = true;
         popover_.focusAway_.stop();
     }
 
     void focusOutEvent(QFocusEvent* event) override {
         QQuickWindow::focusOutEvent(event);
-        popover_.focusAway_.start(focusMayComeBack);
+        if (popover_.hasHadFocus_) { // and not before it was last closed, of which a busy desktop tells late
+            popover_.focusAway_.start(focusMayComeBack);
+        }
     }
 
     void resizeEvent(QResizeEvent* event) override {
@@ -132,6 +135,8 @@ QSize PopoverWindow::wholeView() const {
 
 void PopoverWindow::showAtTheItem(const ItemPress& press) {
     stage_.reset();
+    hasHadFocus_ = false;
+    focusAway_.stop();
     stage_ = enterStage(
         *window_, press, wholeView(),
         {.placed = [this](QSize size, Qt::Edge panel) { placed(size, panel); },

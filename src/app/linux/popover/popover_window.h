@@ -53,6 +53,7 @@ private:
     Qt::Edge panel_ = Qt::TopEdge;        // from where it came
     bool leaving_ = false;                // still to be seen, but of no more use
     QTimer focusAway_;                    // runs while it is not yet certain that the focus stays away
+    bool hasHadFocus_ = false;            // since it was last shown at the item
     std::unique_ptr<PopoverStage> stage_; // while it is shown at the item
 };
 
