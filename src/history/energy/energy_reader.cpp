@@ -11,8 +11,8 @@ namespace quelby {
 
 namespace {
 
-constexpr double day = 86400; // seconds
-constexpr double hour = 3600;
+constexpr double secondsInADay = 86400;
+constexpr double secondsInAnHour = 3600;
 
 // Calls read(row) for each row of the answer. Nothing is asked where there is no history.
 template <typename Read>
@@ -58,17 +58,17 @@ Connection EnergyReader::open() const {
 
 std::string EnergyReader::within(EnergyRange range) const {
     const auto reachingBack = [&](double seconds) {
-        return fmt::format("hour > {}", truncated(clock_.now() - seconds - hour));
+        return fmt::format("hour > {}", truncated(clock_.now() - seconds - secondsInAnHour));
     };
     switch (range) {
     case EnergyRange::today:
         return fmt::format("hour >= {}", truncated(clock_.startOfDay()));
     case EnergyRange::twentyFourHours:
-        return reachingBack(day);
+        return reachingBack(secondsInADay);
     case EnergyRange::sevenDays:
-        return reachingBack(7 * day);
+        return reachingBack(7 * secondsInADay);
     case EnergyRange::thirtyDays:
-        return reachingBack(30 * day);
+        return reachingBack(30 * secondsInADay);
     case EnergyRange::sinceUnplugged:
         return "since_unplugged = 1";
     }

@@ -1,5 +1,7 @@
 #include "history/energy/energy_writer.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "base/arithmetic.h"
@@ -121,12 +123,7 @@ bool keep(sqlite3* connection, const BatteryDay& day) {
 
 template <typename Records, typename Keep>
 bool keepEach(const Records& records, Keep keep) {
-    for (const auto& record : records) {
-        if (!keep(record)) {
-            return false;
-        }
-    }
-    return true;
+    return std::all_of(records.begin(), records.end(), keep);
 }
 
 bool keep(sqlite3* connection, const EnergyBatch& batch) {

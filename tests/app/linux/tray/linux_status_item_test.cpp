@@ -152,6 +152,7 @@ TEST_F(LinuxStatusItemTest, DrawsWhatChangesTogetherOnce) {
 TEST_F(LinuxStatusItemTest, SaysNothingTickAfterTickWhileNothingChanges) {
     for (const auto* const host : {"gnome-shell", "ayatana-indicat", "waybar", "lxqt-panel"}) {
         const FakeWatcher watcher(host);
+        shown.clear(); // so that it is this host which is waited for
         connect();
         ASSERT_TRUE(registers(watcher));
         BusPeer peer;
