@@ -7,6 +7,7 @@
 
 #include "platform/interface_font.h"
 #include "ui/presentation/elements/metrics.h"
+#include "ui/presentation/energy/energy_words.h"
 #include "ui/presentation/text/words.h"
 
 namespace quelby {
@@ -39,7 +40,6 @@ class Words : public QObject {
     Q_PROPERTY(QString back READ back CONSTANT)
     Q_PROPERTY(QString closeSettings READ closeSettings CONSTANT)
     Q_PROPERTY(QString closeEnergy READ closeEnergy CONSTANT)
-    Q_PROPERTY(QString showEnergy READ showEnergy CONSTANT)
 
 public:
     [[nodiscard]] static QString program() { return QString::fromUtf8(words::program); }
@@ -52,7 +52,10 @@ public:
 
     [[nodiscard]] static QString closeEnergy() { return QString::fromUtf8(words::closeEnergy); }
 
-    [[nodiscard]] static QString showEnergy() { return QString::fromUtf8(words::showEnergy); }
+    // Of the button with today's figure.
+    [[nodiscard]] Q_INVOKABLE static QString energyButtonName(const QString& today) {
+        return QString::fromStdString(quelby::energyButtonName(today.toStdString()));
+    }
 };
 
 } // namespace quelby

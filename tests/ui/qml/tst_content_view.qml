@@ -128,7 +128,7 @@ DashboardTestCase {
     }
 
     function test_opensTheEnergyByItsFigureAndLeadsBackInBothWays(row) {
-        const today = said.history.today.text + ", " + Words.showEnergy
+        const today = Words.energyButtonName(said.history.today.text)
         for (const act of [click, button => press(button, Qt.Key_Space), button => press(button, Qt.Key_Return)]) {
             act(named(PlainButton, today))
             verify(view.showEnergy)

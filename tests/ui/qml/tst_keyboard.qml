@@ -34,7 +34,7 @@ DashboardTestCase {
     }
 
     function today() {
-        return said.history.today.text + ", " + Words.showEnergy
+        return Words.energyButtonName(said.history.today.text)
     }
 
     function dashboard() {

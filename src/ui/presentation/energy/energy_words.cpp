@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include "base/arithmetic.h"
+#include "ui/presentation/text/words.h"
 
 namespace quelby {
 
@@ -72,6 +73,10 @@ std::string_view sessionName(SessionKind kind) {
         return "Calibration";
     }
     return {};
+}
+
+std::string energyButtonName(std::string_view today) {
+    return fmt::format("{}, {}", today, words::showEnergy);
 }
 
 } // namespace quelby

@@ -35,6 +35,9 @@ inline constexpr std::string_view drainedMuchText = "drained more than 1 % an ho
 // "On battery", "Charging", "Calibration".
 [[nodiscard]] std::string_view sessionName(SessionKind kind);
 
+// How today's figure is called where a press of it shows the rest: "31.4 Wh today, Show Where the Energy Went".
+[[nodiscard]] std::string energyButtonName(std::string_view today);
+
 // How far these figures can be trusted.
 inline constexpr std::string_view energyFootnote =
     "The split over applications is an estimate: the processor's part of the power, by the share of CPU "

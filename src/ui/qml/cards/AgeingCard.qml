@@ -1,6 +1,5 @@
 // How the battery ages, day by day.
 import QtQuick
-import QtQuick.Layouts
 import Quelby
 import Quelby.Bridge
 

@@ -22,7 +22,7 @@ CardChrome {
 
         // Looks like a text until somebody comes near.
         PlainButton {
-            name: card.content.today.text + ", " + Words.showEnergy
+            name: Words.energyButtonName(card.content.today.text)
             leftInset: -2 * Theme.unit
             rightInset: leftInset
             topInset: -Theme.unit

@@ -63,5 +63,9 @@ TEST(ASession, HasAName) {
     }
 }
 
+TEST(EnergyWords, NameTheButtonByItsFigureAndByWhatItShows) {
+    EXPECT_EQ(energyButtonName("31.4 Wh today"), "31.4 Wh today, Show Where the Energy Went");
+}
+
 } // namespace
 } // namespace quelby
