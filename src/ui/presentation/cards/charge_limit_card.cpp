@@ -24,6 +24,7 @@ Text statusText(const PublishedFields& fields, const SystemWords& words) {
 
 std::vector<Text> scale() {
     std::vector<Text> texts;
+    texts.reserve(std::size(scaleLevels));
     for (const auto level : scaleLevels) {
         texts.push_back(secondary(fmt::format("{}%", level)));
     }

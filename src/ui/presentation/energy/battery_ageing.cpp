@@ -8,8 +8,8 @@ namespace quelby {
 
 namespace {
 
-constexpr double day = 86400;      // seconds
-constexpr double month = 30.4375;  // days
+constexpr double secondsInADay = 86400;
+constexpr double daysInAMonth = 30.4375;
 constexpr double leastSaid = 0.05; // % a month, which rounds to 0.1
 
 struct Point {
@@ -21,7 +21,7 @@ std::vector<Point> points(const std::vector<BatteryDay>& days) {
     std::vector<Point> points;
     for (const auto& one : days) {
         if (const auto health = healthPercent(one)) {
-            points.push_back({static_cast<double>(one.day - days.front().day) / day, *health});
+            points.push_back({static_cast<double>(one.day - days.front().day) / secondsInADay, *health});
         }
     }
     return points;
@@ -57,7 +57,7 @@ std::optional<AgeingLine> ageingLine(const std::vector<BatteryDay>& days) {
     const double slope = spread > 0 ? together / spread : 0;
     return AgeingLine{.first = meanHealth + slope * (known.front().day - meanDay),
                       .last = meanHealth + slope * (known.back().day - meanDay),
-                      .percentPerMonth = slope * month};
+                      .percentPerMonth = slope * daysInAMonth};
 }
 
 std::string ageingText(const std::vector<BatteryDay>& days) {
