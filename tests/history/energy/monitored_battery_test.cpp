@@ -24,8 +24,8 @@ TEST_F(MonitoredEnergy, CountsNothingForASleepAcrossMidnightAndTellsWhatItCost) 
     expectTodayOf(reader, used);
     expectTheHistorysToday(reader);
     EXPECT_THAT(reader.sleeps(), ElementsAre(Sleep{.start = asleepAt,
-                                                   .end = asleepAt + 8 * 3600,
-                                                   .seconds = 8 * 3600 - 3,
+                                                   .end = asleepAt + 28'800,
+                                                   .seconds = 28'797,
                                                    .percentBefore = 50,
                                                    .percentAfter = 46,
                                                    .wattHours = 2500 * 12.0 / 1000 - 2300 * 12.0 / 1000}));

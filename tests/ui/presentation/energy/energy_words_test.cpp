@@ -40,7 +40,7 @@ TEST(EnergyWords, TellTheTimeToTheLimit) {
 }
 
 Sleep eightHours(double percentAfter) {
-    return {.seconds = 8 * 3600, .percentBefore = 80, .percentAfter = percentAfter, .wattHours = 3.2};
+    return {.seconds = 28'800, .percentBefore = 80, .percentAfter = percentAfter, .wattHours = 3.2};
 }
 
 TEST(ASleep, SaysWhenItDrainedMoreThanOnePercentAnHour) {
