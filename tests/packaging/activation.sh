@@ -5,6 +5,7 @@
 build=$1
 prefix="$work/a prefix"
 started=()
+# What has ended already need not be ended.
 trap 'kill "${started[@]}" 2>/dev/null || true; wait; rm -rf "$work"' EXIT
 expect "installs" cmake --install "$build" --prefix "$prefix"
 
