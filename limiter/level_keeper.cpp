@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "limiter/charge_levels.h"
+
 namespace quelby::limiter {
 
 namespace {
-
-constexpr int full = 100;
 
 // A write that failed is repeated at longer and longer intervals, seconds.
 constexpr double firstPatience = 60;
@@ -89,8 +89,8 @@ std::optional<std::string> LevelKeeper::complaint(const Result<void>& outcome, c
     if (!outcome) {
         return outcome.error().sentence;
     }
-    const int end = wanted.end.value_or(full);
-    if (end < full && obtained_.end.value_or(end) >= full) {
+    const int end = wanted.end.value_or(fullLevel);
+    if (end < fullLevel && obtained_.end.value_or(end) >= fullLevel) {
         return battery_ + " accepted " + std::to_string(end) + "% but stays at " +
                std::to_string(*obtained_.end) + '%';
     }

@@ -2,20 +2,20 @@
 
 #include <algorithm>
 
+#include "limiter/charge_levels.h"
 #include "limiter/words/explanation.h"
 
 namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
 constexpr int nearlyFull = 95; // %, from where on a worn battery may take no more
 
 // A calibration's seconds change all the time; so many of them may be lost with the helper.
 constexpr double secondsToLose = 60;
 
 bool isFull(const Battery& battery) {
-    return battery.charging == Charging::full || battery.percent.value_or(0) >= full;
+    return battery.charging == Charging::full || battery.percent.value_or(0) >= fullLevel;
 }
 
 bool isStalled(const Battery& battery) {

@@ -1,12 +1,11 @@
 #include "limiter/mechanisms/care_levels.h"
 
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/values.h"
 
 namespace quelby::limiter {
 
 namespace {
-
-constexpr int full = 100;
 
 class CareLevels final : public Mechanism {
 public:
@@ -20,25 +19,25 @@ public:
 
     [[nodiscard]] Setting read() const override {
         const auto level = percentIn(attributes_, attribute_);
-        return {.end = level == 0 ? full : level}; // 0 stands for none
+        return {.end = level == 0 ? fullLevel : level}; // 0 stands for none
     }
 
     [[nodiscard]] Setting limitedTo(int percent, int /*batteryPercent*/) const override {
         return {.end = nearest(levels_, percent)};
     }
 
-    [[nodiscard]] Setting lifted(const Setting& /*found*/) const override { return {.end = full}; }
+    [[nodiscard]] Setting lifted(const Setting& /*found*/) const override { return {.end = fullLevel}; }
 
     [[nodiscard]] Setting restored(const Setting& found) const override {
-        return {.end = nearest(levels_, found.end.value_or(full))};
+        return {.end = nearest(levels_, found.end.value_or(fullLevel))};
     }
 
     [[nodiscard]] Result<void> write(const Setting& setting) override {
-        return writeValue(attributes_, attribute_, std::to_string(setting.end.value_or(full)));
+        return writeValue(attributes_, attribute_, std::to_string(setting.end.value_or(fullLevel)));
     }
 
     [[nodiscard]] Level levelOf(const Setting& setting, std::optional<int> /*limit*/) const override {
-        return {.limits = setting.end.value_or(full) < full, .percent = setting.end};
+        return {.limits = setting.end.value_or(fullLevel) < fullLevel, .percent = setting.end};
     }
 
 private:

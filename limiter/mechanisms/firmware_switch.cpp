@@ -1,12 +1,12 @@
 #include "limiter/mechanisms/firmware_switch.h"
 
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/values.h"
 
 namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
 const std::string on = "1";
 const std::string off = "0";
 
@@ -23,7 +23,7 @@ public:
     }
 
     [[nodiscard]] Setting limitedTo(int percent, int /*batteryPercent*/) const override {
-        return {.mode = percent < full ? on : off};
+        return {.mode = percent < fullLevel ? on : off};
     }
 
     [[nodiscard]] Setting lifted(const Setting& /*found*/) const override { return {.mode = off}; }
@@ -40,7 +40,7 @@ public:
         if (!setting.mode) {
             return {};
         }
-        return setting.mode == on ? Level{.limits = true, .percent = level_} : Level{.percent = full};
+        return setting.mode == on ? Level{.limits = true, .percent = level_} : Level{.percent = fullLevel};
     }
 
 private:

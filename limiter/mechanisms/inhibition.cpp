@@ -1,5 +1,6 @@
 #include "limiter/mechanisms/inhibition.h"
 
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/choices.h"
 #include "limiter/mechanisms/values.h"
 
@@ -7,8 +8,6 @@ namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
-constexpr int distance = 5; // % below the limit at which charging begins again
 const std::string usual = "auto";
 const std::string inhibited = "inhibit-charge";
 const std::string inhibitedAwake = "inhibit-charge-awake"; // charges while the computer sleeps
@@ -34,8 +33,8 @@ public:
         const auto choices = readChoices(attributes_.read(attribute_).value_or(""));
         const bool awakeOnly = choices.offer(inhibitedAwake) && !choices.offer(inhibited);
         const bool isHeld = inhibits(choices.active);
-        const bool hold = batteryPercent >= percent || (isHeld && batteryPercent > percent - distance);
-        if (!hold || percent >= full) {
+        const bool hold = batteryPercent >= percent || (isHeld && batteryPercent > percent - stepToStart);
+        if (!hold || percent >= fullLevel) {
             return {.mode = usual};
         }
         return {.mode = awakeOnly ? inhibitedAwake : inhibited};
@@ -55,9 +54,9 @@ public:
             return {};
         }
         if (!limit) {
-            return inhibits(setting.mode) ? Level{.limits = true} : Level{.percent = full};
+            return inhibits(setting.mode) ? Level{.limits = true} : Level{.percent = fullLevel};
         }
-        return {.limits = *limit < full, .percent = limit};
+        return {.limits = *limit < fullLevel, .percent = limit};
     }
 
 private:

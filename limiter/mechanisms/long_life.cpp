@@ -1,5 +1,6 @@
 #include "limiter/mechanisms/long_life.h"
 
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/choices.h"
 #include "limiter/mechanisms/values.h"
 
@@ -7,7 +8,6 @@ namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
 const std::string longLifeType = "Long_Life";
 const std::string standardType = "Standard";
 
@@ -23,7 +23,7 @@ public:
     }
 
     [[nodiscard]] Setting limitedTo(int percent, int /*batteryPercent*/) const override {
-        return {.mode = percent < full ? longLifeType : standardType};
+        return {.mode = percent < fullLevel ? longLifeType : standardType};
     }
 
     [[nodiscard]] Setting lifted(const Setting& found) const override {
@@ -45,7 +45,7 @@ public:
         if (!setting.mode) {
             return {};
         }
-        return setting.mode == longLifeType ? Level{.limits = true} : Level{.percent = full};
+        return setting.mode == longLifeType ? Level{.limits = true} : Level{.percent = fullLevel};
     }
 
 private:

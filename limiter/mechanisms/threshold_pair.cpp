@@ -3,24 +3,17 @@
 #include <algorithm>
 #include <sstream>
 
-#include "base/number_text.h"
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/values.h"
 
 namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
-constexpr int distance = 5; // % between start and end
 constexpr std::chrono::seconds untilForgotten(1);
 
 std::string pairText(int start, int end) {
     return std::to_string(start) + ' ' + std::to_string(end);
-}
-
-std::optional<int> percentFrom(const std::string& word) {
-    const auto value = wholeNumber(word);
-    return value && *value >= 0 && *value <= full ? std::optional(static_cast<int>(*value)) : std::nullopt;
 }
 
 } // namespace
@@ -30,31 +23,31 @@ Setting ThresholdPair::read() const {
     std::string start;
     std::string end;
     words >> start >> end;
-    Setting setting{.end = percentFrom(end), .start = percentFrom(start)};
+    Setting setting{.end = levelFrom(end), .start = levelFrom(start)};
     if (setting.end == 0) {
-        setting.end = full; // "0 0" stands for none
+        setting.end = fullLevel; // "0 0" stands for none
     }
     return setting;
 }
 
 Setting ThresholdPair::limitedTo(int percent, int /*batteryPercent*/) const {
-    if (percent >= full) {
+    if (percent >= fullLevel) {
         return lifted({});
     }
-    return {.end = percent, .start = std::max(percent - distance, 0)};
+    return {.end = percent, .start = std::max(percent - stepToStart, 0)};
 }
 
 Setting ThresholdPair::lifted(const Setting& /*found*/) const {
-    return {.end = full, .start = 0};
+    return {.end = fullLevel, .start = 0};
 }
 
 Setting ThresholdPair::restored(const Setting& found) const {
-    return {.end = found.end.value_or(full), .start = found.start.value_or(0)};
+    return {.end = found.end.value_or(fullLevel), .start = found.start.value_or(0)};
 }
 
 Result<void> ThresholdPair::write(const Setting& setting) {
-    const int end = setting.end.value_or(full);
-    if (end == full) {
+    const int end = setting.end.value_or(fullLevel);
+    if (end == fullLevel) {
         // Some models go on limiting unless the old levels are forgotten first.
         if (auto forgotten = writeValue(attributes_, attribute, pairText(0, 0)); !forgotten) {
             return forgotten;
@@ -65,7 +58,7 @@ Result<void> ThresholdPair::write(const Setting& setting) {
 }
 
 Level ThresholdPair::levelOf(const Setting& setting, std::optional<int> /*limit*/) const {
-    return {.limits = setting.end.value_or(full) < full, .percent = setting.end};
+    return {.limits = setting.end.value_or(fullLevel) < fullLevel, .percent = setting.end};
 }
 
 } // namespace quelby::limiter

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "limiter/charge_levels.h"
 #include "limiter/mechanisms/choices.h"
 #include "limiter/mechanisms/values.h"
 
@@ -11,8 +12,6 @@ namespace quelby::limiter {
 
 namespace {
 
-constexpr int full = 100;
-constexpr int distance = 5; // % between start and end, the least that every known driver allows
 const std::string custom = "Custom";
 
 bool isRefused(std::error_code failure) {
@@ -47,7 +46,7 @@ Setting Thresholds::read() const {
     Setting setting;
     setting.end = percentIn(attributes_, end_);
     if (setting.end == 0) {
-        setting.end = full; // nothing stops at an empty battery: the driver means that there is no limit
+        setting.end = fullLevel; // nothing stops at an empty battery: the driver means that there is no limit
     }
     setting.start = percentIn(attributes_, start_);
     if (setting.start && setting.end && *setting.start >= *setting.end) {
@@ -67,7 +66,7 @@ Setting Thresholds::limitedTo(int percent, int /*batteryPercent*/) const {
         setting.end = nearest(ends, percent);
     }
     if (attributes_.exists(start_)) {
-        setting.start = std::max(*setting.end - distance, 0);
+        setting.start = std::max(*setting.end - stepToStart, 0);
         const auto starts = percentsIn(attributes_, folder_ + "/charge_control_start_available_thresholds");
         if (!starts.empty()) {
             const auto above = std::upper_bound(starts.begin(), starts.end(), *setting.start);
@@ -81,9 +80,9 @@ Setting Thresholds::limitedTo(int percent, int /*batteryPercent*/) const {
 }
 
 Setting Thresholds::lifted(const Setting& found) const {
-    auto setting = limitedTo(full, full);
+    auto setting = limitedTo(fullLevel, fullLevel);
     if (setting.start) {
-        setting.start = full - 1; // or a battery that is nearly full would stay as it is
+        setting.start = fullLevel - 1; // or a battery that is nearly full would stay as it is
     }
     if (found.mode && found.mode != custom) {
         setting.mode = found.mode;
@@ -92,12 +91,12 @@ Setting Thresholds::lifted(const Setting& found) const {
 }
 
 Setting Thresholds::restored(const Setting& found) const {
-    Setting setting{.end = found.end.value_or(full), .start = found.start};
+    Setting setting{.end = found.end.value_or(fullLevel), .start = found.start};
     if (modeAttribute()) {
         setting.mode = found.mode;
     }
     if (!setting.start && attributes_.exists(start_)) {
-        setting.start = std::max(*setting.end - distance, 0);
+        setting.start = std::max(*setting.end - stepToStart, 0);
     }
     return setting;
 }
@@ -125,7 +124,7 @@ Result<void> Thresholds::writeMode(const Setting& setting) {
 
 // The start must never be above the end, not even between the two writes, on hardware that looks at it.
 Result<void> Thresholds::writeLevels(const Setting& setting) {
-    const int end = setting.end.value_or(full);
+    const int end = setting.end.value_or(fullLevel);
     const auto before = read();
     const bool endFirst = !before.end || (setting.start && *setting.start >= *before.end);
     auto startFailure = endFirst ? std::error_code() : writeStart(setting.start);
@@ -159,8 +158,8 @@ std::error_code Thresholds::writeStart(std::optional<int> percent) {
         return {};
     }
     auto failure = attributes_.write(start_, std::to_string(*percent));
-    if (isRefused(failure) && *percent > full - distance) {
-        failure = attributes_.write(start_, std::to_string(full - distance));
+    if (isRefused(failure) && *percent > fullLevel - stepToStart) {
+        failure = attributes_.write(start_, std::to_string(fullLevel - stepToStart));
     }
     return failure;
 }
@@ -187,9 +186,9 @@ bool Thresholds::endSettlesAt(int percent) const {
 Level Thresholds::levelOf(const Setting& setting, std::optional<int> /*limit*/) const {
     const auto mode = modeAttribute();
     if (mode && mode->isNeeded && setting.mode && setting.mode != custom) {
-        return {.limits = false, .percent = full};
+        return {.limits = false, .percent = fullLevel};
     }
-    return {.limits = setting.end.value_or(full) < full, .percent = setting.end};
+    return {.limits = setting.end.value_or(fullLevel) < fullLevel, .percent = setting.end};
 }
 
 } // namespace quelby::limiter

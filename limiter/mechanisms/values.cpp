@@ -6,30 +6,26 @@
 #include <sstream>
 
 #include "base/number_text.h"
+#include "limiter/charge_levels.h"
 
 namespace quelby::limiter {
 
-namespace {
-
-constexpr int highest = 100;
-
-std::optional<int> percentFrom(std::string_view text) {
+std::optional<int> levelFrom(std::string_view text) {
     const auto value = wholeNumber(text);
-    return value && *value >= 0 && *value <= highest ? std::optional(static_cast<int>(*value)) : std::nullopt;
+    return value && *value >= 0 && *value <= fullLevel ? std::optional(static_cast<int>(*value))
+                                                       : std::nullopt;
 }
-
-} // namespace
 
 std::optional<int> percentIn(const Attributes& attributes, const std::string& attribute) {
     const auto text = attributes.read(attribute);
-    return text ? percentFrom(*text) : std::nullopt;
+    return text ? levelFrom(*text) : std::nullopt;
 }
 
 std::vector<int> percentsIn(const Attributes& attributes, const std::string& attribute) {
     std::vector<int> values;
     std::istringstream words(attributes.read(attribute).value_or(""));
     for (std::string word; words >> word;) {
-        if (const auto value = percentFrom(word)) {
+        if (const auto value = levelFrom(word)) {
             values.push_back(*value);
         }
     }

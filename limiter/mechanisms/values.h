@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/problem.h"
@@ -10,8 +11,10 @@
 
 namespace quelby::limiter {
 
-// Nothing where the attribute cannot be read, or holds anything but 0 to 100: some firmware gives -10 before
-// it was first set.
+// Nothing where it is anything but 0 to 100: some firmware gives -10 before it was first set.
+[[nodiscard]] std::optional<int> levelFrom(std::string_view text);
+
+// Nothing where the attribute cannot be read, or holds no level.
 [[nodiscard]] std::optional<int> percentIn(const Attributes& attributes, const std::string& attribute);
 
 // The values of a list such as "60 70 80 90 100", in rising order; empty where there is none.

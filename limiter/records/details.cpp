@@ -2,16 +2,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/json_value.h"
+
 namespace quelby::limiter {
 
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-template <typename T>
-Json orNull(const std::optional<T>& value) {
-    return value ? Json(*value) : Json(nullptr);
-}
 
 } // namespace
 

@@ -1,12 +1,11 @@
 #include "limiter/words/explanation.h"
 
+#include "limiter/charge_levels.h"
 #include "limiter/words/missing_interface.h"
 
 namespace quelby::limiter {
 
 namespace {
-
-constexpr int full = 100;
 
 std::string percentText(int percent) {
     return std::to_string(percent) + '%';
@@ -22,7 +21,8 @@ std::string standing(const Level& level) {
 std::string aboutLimit(const Situation& situation) {
     const auto& level = situation.inForce;
     if (!level.limits) {
-        return situation.wishedPercent >= full ? "The battery is charged fully." : "No limit is in force.";
+        return situation.wishedPercent >= fullLevel ? "The battery is charged fully."
+                                                    : "No limit is in force.";
     }
     if (!level.percent) {
         return "Charging stops at the firmware's own level, which it does not tell; 60% and 80% are usual.";

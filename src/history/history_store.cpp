@@ -50,11 +50,6 @@ std::string_view tableOf(TimeRange range) {
     return {};
 }
 
-// What goes wrong here may go right the next time.
-void execute(sqlite3* connection, const std::string& script) {
-    sqlite3_exec(connection, script.c_str(), nullptr, nullptr, nullptr);
-}
-
 std::string minuteAggregation(std::int64_t minuteBound) {
     return fmt::format("INSERT OR REPLACE INTO minute_avg (timestamp, watts, battery_pct)\n"
                        "SELECT (timestamp / 60) * 60, AVG(watts), AVG(battery_pct)\n"

@@ -8,8 +8,8 @@ namespace quelby {
 
 namespace {
 
-constexpr Int largestPercentage = 100; // a full charge of no more is one, and no capacity
-constexpr double shortestSleep = 60;   // seconds
+constexpr Int largestPercentage = 100;
+constexpr double shortestSleep = 60; // seconds
 
 // Nothing where the clocks are missing, or run backwards, as they do from one boot to the next.
 std::optional<TimeSinceBoot> passed(const BatteryMoment& before, const BatteryMoment& after) {
@@ -23,8 +23,12 @@ std::optional<TimeSinceBoot> passed(const BatteryMoment& before, const BatteryMo
 
 } // namespace
 
+bool tellsCapacity(const PublishedFields& fields) {
+    return fields.hasBattery && fields.rawMaxCapacity > largestPercentage;
+}
+
 std::optional<double> fullChargeWattHours(const PublishedFields& fields) {
-    const bool told = fields.hasBattery && fields.rawMaxCapacity > largestPercentage && fields.voltage > 0;
+    const bool told = tellsCapacity(fields) && fields.voltage > 0;
     return told ? std::optional(static_cast<double>(fields.rawMaxCapacity.get()) * fields.voltage / 1000)
                 : std::nullopt;
 }
@@ -35,7 +39,7 @@ BatteryMoment batteryMoment(const PublishedFields& fields, Clock& clock) {
         return moment;
     }
     moment.percent = static_cast<double>(fields.batteryPercent.get());
-    if (fields.rawMaxCapacity > largestPercentage && fields.rawCurrentCapacity > 0) {
+    if (tellsCapacity(fields) && fields.rawCurrentCapacity > 0) {
         const auto remaining = static_cast<double>(fields.rawCurrentCapacity.get());
         moment.percent = std::min(remaining * 100 / static_cast<double>(fields.rawMaxCapacity.get()), 100.0);
         moment.wattHours = remaining * fields.voltage / 1000;

@@ -16,7 +16,6 @@ constexpr double writeInterval = 60; // seconds
 constexpr double hour = 3600;
 constexpr double day = 86400;
 constexpr double hoursOfACycle = std::chrono::duration<double, std::ratio<3600>>(cycleInterval).count();
-constexpr Int largestPercentage = 100; // a full charge of no more is one, and no capacity
 
 // Of what could not be written, so that a full disk does not fill the memory.
 constexpr std::size_t mostHours = 4;
@@ -97,7 +96,7 @@ HourOfEnergy& EnergyRecorder::hourOf(Date now, bool sinceUnplugged) {
 }
 
 void EnergyRecorder::noticeDay(const PublishedFields& fields) {
-    if (!fields.hasBattery || fields.rawMaxCapacity <= largestPercentage) {
+    if (!tellsCapacity(fields)) {
         return;
     }
     const auto start = truncated(std::floor(clock_.now() / day) * day);

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 #include <nlohmann/json.hpp>
 
+#include "base/json_value.h"
 #include "base/time_of_day.h"
 #include "cli/output/csv_field.h"
 #include "history/energy/session_kind.h"
@@ -14,11 +15,6 @@ namespace quelby::cli {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-template <typename T>
-Json asJson(const std::optional<T>& value) {
-    return value ? Json(*value) : Json(nullptr);
-}
 
 std::string dateAndTime(std::int64_t time) {
     const auto moment = static_cast<double>(time);
@@ -37,8 +33,8 @@ Json asJson(const Sleep& sleep) {
             {"seconds", sleep.seconds},
             {"percentBefore", sleep.percentBefore},
             {"percentAfter", sleep.percentAfter},
-            {"wattHours", asJson(sleep.wattHours)},
-            {"watts", asJson(meanWatts(sleep))},
+            {"wattHours", orNull(sleep.wattHours)},
+            {"watts", orNull(meanWatts(sleep))},
             {"percentPerHour", percentPerHour(sleep)},
             {"drainedMuch", drainedMuch(sleep)}};
 }
@@ -86,10 +82,10 @@ std::string asCsv(const BatteryDay& day) {
 Json asJson(const BatteryDay& day) {
     return {{"day", day.day},
             {"fullCapacity", day.fullCapacity},
-            {"designCapacity", asJson(day.designCapacity)},
-            {"healthPercent", asJson(healthPercent(day))},
+            {"designCapacity", orNull(day.designCapacity)},
+            {"healthPercent", orNull(healthPercent(day))},
             {"cycleCount", day.cycleCount},
-            {"maxTemperature", asJson(day.maxTemperature)}};
+            {"maxTemperature", orNull(day.maxTemperature)}};
 }
 
 std::string asText(const BatteryDay& day) {

@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/arithmetic.h"
+#include "base/json_value.h"
 #include "base/time_of_day.h"
 #include "base/utf8.h"
 #include "cli/arguments/values.h"
@@ -39,10 +40,6 @@ std::optional<double> shareOfCharge(const EnergyOutput& output, double wattHours
     return output.fullCharge ? std::optional(wattHours / *output.fullCharge) : std::nullopt;
 }
 
-Json asJson(std::optional<double> value) {
-    return value ? Json(*value) : Json(nullptr);
-}
-
 // Calls visit(row) for each row, whatever they are told apart by.
 template <typename Visit>
 void forEachRow(const EnergyOutput& output, Visit visit) {
@@ -63,14 +60,14 @@ std::string energyAsJson(const EnergyOutput& output) {
     forEachRow(output, [&](const auto& row) {
         auto object = identity(row);
         object["wattHours"] = row.wattHours;
-        object["shareOfCharge"] = asJson(shareOfCharge(output, row.wattHours));
+        object["shareOfCharge"] = orNull(shareOfCharge(output, row.wattHours));
         rows.push_back(std::move(object));
     });
     const Json object{{"range", rawValue(output.range)},
                       {"by", groupingWord(output.by)},
                       {"rows", rows},
                       {"totalWh", total(output)},
-                      {"fullChargeWh", asJson(output.fullCharge)}};
+                      {"fullChargeWh", orNull(output.fullCharge)}};
     return object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 

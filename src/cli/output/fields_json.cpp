@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/arithmetic.h"
+#include "base/json_value.h"
 
 namespace quelby::cli {
 
@@ -24,7 +25,7 @@ Json asJson(MenuBarDisplay display) {
 }
 
 Json asJson(const std::optional<Date>& date) {
-    return date ? Json(*date) : Json(nullptr);
+    return orNull(date);
 }
 
 Json asJson(const ProcessInfo_Energy& process) {

@@ -22,10 +22,6 @@ constexpr int namesInAnHour = 200;
 constexpr int sleepsKept = 30;
 constexpr int sessionsKept = 30; // of each kind
 
-bool execute(sqlite3* connection, const std::string& script) {
-    return sqlite3_exec(connection, script.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
 bool done(Statement& statement) {
     return !statement.step() && statement.outcome() == SQLITE_DONE;
 }

@@ -2,6 +2,10 @@
 
 namespace quelby {
 
+bool execute(sqlite3* connection, const std::string& script) {
+    return sqlite3_exec(connection, script.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
 Statement::Statement(sqlite3* connection, const std::string& text) {
     sqlite3_stmt* prepared = nullptr;
     outcome_ = sqlite3_prepare_v2(connection, text.c_str(), -1, &prepared, nullptr);

@@ -23,7 +23,7 @@ const auto script = QStringLiteral("panels().forEach(function(panel) {"
                                    " if (panel.hiding == 'none') print([screen.x, screen.y, panel.location,"
                                    " panel.height].join(' ') + '\\n'); })");
 
-constexpr std::array edges{
+constexpr std::array edgesByName{
     std::pair(QLatin1String("top"), Qt::TopEdge), std::pair(QLatin1String("bottom"), Qt::BottomEdge),
     std::pair(QLatin1String("left"), Qt::LeftEdge), std::pair(QLatin1String("right"), Qt::RightEdge)};
 
@@ -79,7 +79,7 @@ void appendAround(QRect workspace, QRect output, std::vector<EdgePanel>& panels)
     const int gap = *std::min_element(depths.begin(), depths.end());
     for (std::size_t i = 0; i < depths.size(); ++i) {
         if (depths.at(i) > gap) {
-            panels.push_back({output.topLeft(), edges.at(i).second, depths.at(i) - gap});
+            panels.push_back({output.topLeft(), edgesByName.at(i).second, depths.at(i) - gap});
         }
     }
 }
@@ -95,14 +95,14 @@ std::vector<EdgePanel> plasmaPanels(std::string_view answer) {
     const auto text = QString::fromUtf8(answer.data(), static_cast<qsizetype>(answer.size()));
     for (const auto& line : text.split('\n', Qt::SkipEmptyParts)) {
         const auto words = line.simplified().split(' ');
-        const auto edge = std::find_if(edges.begin(), edges.end(),
+        const auto edge = std::find_if(edgesByName.begin(), edgesByName.end(),
                                        [&](const auto& known) { return known.first == words.value(2); });
         bool understood[3];
         const EdgePanel panel{
             .screen = QPoint(words.value(0).toInt(&understood[0]), words.value(1).toInt(&understood[1])),
-            .edge = edge == edges.end() ? Qt::BottomEdge : edge->second,
+            .edge = edge == edgesByName.end() ? Qt::BottomEdge : edge->second,
             .depth = words.value(3).toInt(&understood[2])};
-        const bool whole = words.size() == 4 && edge != edges.end() && panel.depth > 0;
+        const bool whole = words.size() == 4 && edge != edgesByName.end() && panel.depth > 0;
         if (whole &&
             std::all_of(std::begin(understood), std::end(understood), [](bool each) { return each; })) {
             panels.push_back(panel);

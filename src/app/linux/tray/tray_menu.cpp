@@ -13,7 +13,7 @@ constexpr int showDashboard = 1;
 constexpr int firstSeparator = 2;
 constexpr int firstDisplay = 10;
 constexpr int secondSeparator = 3;
-constexpr int settings = 4;
+constexpr int openSettings = 4;
 constexpr int quit = 5;
 
 constexpr int displayCount = static_cast<int>(allMenuBarDisplays.size());
@@ -55,7 +55,7 @@ QVariantMap TrayMenu::propertiesOf(int id) const {
         return {{QStringLiteral("children-display"), QStringLiteral("submenu")}};
     case showDashboard:
         return label(words::showDashboard);
-    case settings:
+    case openSettings:
         return label(words::settings);
     case quit:
         return label(words::quit);
@@ -73,7 +73,7 @@ DBusMenuRow TrayMenu::menu() const {
         add(id);
     }
     add(secondSeparator);
-    add(settings);
+    add(openSettings);
     add(quit);
     return root;
 }
@@ -168,7 +168,7 @@ void TrayMenu::choose(int id) const {
     case showDashboard:
         actions_.showDashboard();
         break;
-    case settings:
+    case openSettings:
         actions_.showSettings();
         break;
     case quit:
