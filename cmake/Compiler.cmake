@@ -32,6 +32,9 @@ target_compile_options(quelby_rules INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(quelby_rules INTERFACE $<$<NOT:$<CONFIG:Debug>>:-fno-ipa-modref>)
 endif()
+# Each program gets what it uses of a library, and not all that stands in the same file.
+target_compile_options(quelby_rules INTERFACE -ffunction-sections -fdata-sections)
+target_link_options(quelby_rules INTERFACE $<IF:$<PLATFORM_ID:Darwin>,-Wl$<COMMA>-dead_strip,-Wl$<COMMA>--gc-sections>)
 # Qt would otherwise take words such as "signals" for itself.
 target_compile_definitions(quelby_rules INTERFACE QT_NO_KEYWORDS)
 target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
@@ -46,12 +49,16 @@ if(QUELBY_FUZZERS)
     target_compile_options(quelby_rules INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# quelby_floor(NAME SOURCES ... [USES ...] [PRECOMPILED ...]) makes one floor of the program: a static library whose
-# folder is its name, which may use only what stands below it. PRECOMPILED are large headers that most of its files
-# include all the same.
+# The files of a library or a test program are compiled a few at a time as one, because most of the work is the same in
+# all of them: the headers, and what is made from templates. So a name is defined once in a folder, not once a file.
+# Tools that look at single files turn it off.
+option(QUELBY_UNITED "Compile a few files at a time" ON)
+
+# quelby_floor(NAME SOURCES ... [USES ...]) makes one floor of the program: a static library whose folder is its name,
+# which may use only what stands below it.
 function(quelby_floor name)
-    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES;PRECOMPILED" ${ARGN})
+    cmake_parse_arguments(FLOOR "" "" "SOURCES;USES" ${ARGN})
     add_library(quelby_${name} STATIC ${FLOOR_SOURCES})
     target_link_libraries(quelby_${name} PUBLIC quelby_rules ${FLOOR_USES})
-    target_precompile_headers(quelby_${name} PRIVATE ${FLOOR_PRECOMPILED})
+    set_target_properties(quelby_${name} PROPERTIES UNITY_BUILD ${QUELBY_UNITED} UNITY_BUILD_BATCH_SIZE 8)
 endfunction()

@@ -1,14 +1,8 @@
 #include "app/linux/session/session_bus.h"
 
-#include <chrono>
-
 namespace quelby::app {
 
 namespace {
-
-using namespace std::chrono_literals;
-
-constexpr auto pauseBetweenAttempts = 5s;
 
 QString connectionName(int number) {
     return QStringLiteral("quelby-%1").arg(number);
@@ -16,7 +10,7 @@ QString connectionName(int number) {
 
 } // namespace
 
-SessionBus::SessionBus() {
+SessionBus::SessionBus(std::chrono::milliseconds pauseBetweenAttempts) {
     retry_.setSingleShot(true);
     retry_.setInterval(pauseBetweenAttempts);
     QObject::connect(&retry_, &QTimer::timeout, this, [this] { connectAgain(); });

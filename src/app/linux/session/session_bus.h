@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <vector>
@@ -17,7 +18,7 @@ class SessionBus : public QObject {
 public:
     using Listener = std::function<void(const std::optional<QDBusConnection>& bus)>;
 
-    SessionBus();
+    explicit SessionBus(std::chrono::milliseconds pauseBetweenAttempts = std::chrono::seconds(5));
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;
     ~SessionBus() override;
