@@ -151,5 +151,5 @@ class TwoOutputs(Sway):
 CASES = [("top", 1, "disable"), ("bottom", 1.5, "enable"), ("top", 2, "enable"), ("bottom", 1, "disable")]
 
 if __name__ == "__main__":
-    walk_through(Sway, CASES, usually=2)
+    walk_through(Sway, CASES)
     walk_through(TwoOutputs, [("top", 1.5, "disable"), ("bottom", 2, "enable")], usually=0)

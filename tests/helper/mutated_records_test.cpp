@@ -123,7 +123,7 @@ int accepted(const std::string& text, int mutations, Decode decode) {
     return count;
 }
 
-constexpr int mutations = 150'000;
+constexpr int mutations = 30'000;
 
 TEST(MutatedRecords, AreRefusedOrMeanWhatTheySay) {
     const int configs = accepted(configText, mutations, decodeDaemonConfig);

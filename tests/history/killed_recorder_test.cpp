@@ -17,7 +17,7 @@ constexpr int readingsKept = 7200 / step + 1;
 // QUELBY_KILL_ROUNDS asks for more.
 std::int64_t rounds() {
     const char* const asked = std::getenv("QUELBY_KILL_ROUNDS");
-    return asked == nullptr ? 25 : wholeNumber(asked).value_or(0);
+    return asked == nullptr ? 10 : wholeNumber(asked).value_or(0);
 }
 
 class KilledRecorder : public RecorderTest {

@@ -26,9 +26,10 @@ function(nested_project name folder)
     set(binary_dir ${CMAKE_CURRENT_BINARY_DIR}/${folder})
     add_test(NAME ${name}.Configures
         COMMAND ${CMAKE_COMMAND} -G ${CMAKE_GENERATOR} -S ${CMAKE_CURRENT_SOURCE_DIR}/${folder} -B ${binary_dir} ${ARGN})
-    set_tests_properties(${name}.Configures PROPERTIES FIXTURES_SETUP ${name}.configured RESOURCE_LOCK ${name})
+    set_tests_properties(${name}.Configures PROPERTIES FIXTURES_SETUP ${name}.configured RESOURCE_LOCK ${name}
+        COST 200)
     add_test(NAME ${name}.Compiles COMMAND ${CMAKE_COMMAND} --build ${binary_dir} --parallel 2)
     set_tests_properties(${name}.Compiles PROPERTIES
         FIXTURES_REQUIRED ${name}.configured FIXTURES_SETUP ${name}.compiled RESOURCE_LOCK ${name}
-        PROCESSORS 2 TIMEOUT 1800)
+        PROCESSORS 2 COST 200 TIMEOUT 1800)
 endfunction()

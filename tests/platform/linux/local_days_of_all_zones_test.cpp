@@ -101,7 +101,7 @@ std::vector<std::string> zones() {
 // The days that a change may touch, and the seconds beside it and beside the start of its day.
 std::vector<Seconds> momentsAround(Seconds change) {
     std::vector<Seconds> moments;
-    for (auto moment = change - 2 * day; moment <= change + 2 * day; moment += day / 8) {
+    for (auto moment = change - 2 * day; moment <= change + 2 * day; moment += day / 2) {
         moments.push_back(moment);
     }
     const auto start = static_cast<Seconds>(startOfLocalDay(static_cast<double>(change)));

@@ -50,7 +50,7 @@ protected:
     PrivateBus bus;
     std::vector<bool> shown;
     int toggles = 0;
-    SessionBus session;
+    SessionBus session{std::chrono::milliseconds(20)};
     LinuxStatusItem item{{.pressed = [](std::optional<QPoint>) { return true; },
                           .tokenGiven = [](const QByteArray&) {},
                           .shown = [this](bool now) { shown.push_back(now); }}};
