@@ -113,6 +113,7 @@ class GnomeOnWayland(Gnome):
         self.session.environment["DISPLAY"] = self.own_display()
         pattern = os.path.join(self.session.environment["XDG_RUNTIME_DIR"], ".mutter-Xwaylandauth.*")
         self.session.environment["XAUTHORITY"] = eventually(lambda: glob.glob(pattern))[0]
+        self.session.start(["/usr/libexec/gsd-xsettings"])  # tells programs of X11 the scale
 
     def own_display(self):
         """The server of X that the shell has for programs of X11."""

@@ -67,6 +67,9 @@ Enabled=false
 
 [Desktops]
 Number=2
+
+[Windows]
+Placement=ZeroCornered
 """
 
 
@@ -126,13 +129,28 @@ class PlasmaOnWayland(Plasma):
         self.session.environment["WAYLAND_DISPLAY"] = "wayland-kde"
         self.session.share_environment()
         self.start_panel()
+        self.aside = 480 * self.scale
+        empty = self.picture()
+        self.session.start(["zenity", "--info", "--text", "Another window"])
+        corner = (0, 0, 100 * self.scale, 100 * self.scale)
+        assert eventually(lambda: empty.difference(self.picture(), corner)), "no window comes"
+
+    def shortcut(self, name):
+        """As if its keys were pressed, which are the compositor's before they are anybody's."""
+        self.session.run("gdbus", "call", "--session", "--dest", "org.kde.kglobalaccel", "--object-path", "/component/kwin",
+                         "--method", "org.kde.kglobalaccel.Component.invokeShortcut", name)
 
     def steps_aside(self):
         width, height = self.screen
-        return {"a press on the bare desktop": lambda: self.press(width // 4, height // 2)}
+        return {
+            "a press on the bare desktop": lambda: self.press(width // 2, height // 4),
+            "a press on a window": lambda: self.press(50 * self.scale, 110 * self.scale),
+            "the keyboard going to another window": lambda: self.shortcut("Walk Through Windows"),
+            "another workspace": lambda: self.shortcut("Switch to Desktop 2"),
+        }
 
     def tidy(self):
-        pass
+        self.shortcut("Switch to Desktop 1")
 
 
 CASES = [("bottom", 1), ("top", 1), ("bottom", 2)]

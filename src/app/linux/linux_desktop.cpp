@@ -44,7 +44,7 @@ LinuxDesktop::LinuxDesktop(SessionBus& bus, Platform platform, const OwnProgram&
     , firstOpening_(firstOpening)
     , configurationFolder_(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation))
     , appearance_(configurationFolder_, [this] { appearanceChanged(); })
-    , overview_([this] { popover_->shellOverviewOpened(); }) {}
+    , view_([this] { popover_->viewChanged(); }) {}
 
 StatusItem& LinuxDesktop::makeStatusItem() {
     return item_.emplace(LinuxStatusItem::Listener{.pressed =
@@ -131,7 +131,7 @@ void LinuxDesktop::connectToX() {
 void LinuxDesktop::setBus(const std::optional<QDBusConnection>& bus) {
     appearance_.setBus(bus);
     item_->setBus(bus);
-    overview_.setBus(bus);
+    view_.setBus(bus);
 }
 
 // On X11 Qt scales everything by the resolution that the desktop gives its fonts, which has it in it.

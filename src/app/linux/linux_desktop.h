@@ -9,7 +9,7 @@
 #include "app/linux/session/desktop_appearance.h"
 #include "app/linux/session/own_program.h"
 #include "app/linux/session/session_bus.h"
-#include "app/linux/session/shell_overview.h"
+#include "app/linux/session/view_change.h"
 #include "app/linux/session/x_desktop.h"
 #include "app/linux/tray/linux_status_item.h"
 
@@ -65,7 +65,7 @@ private:
     std::function<bool(const KeyDown&)> keyMonitor_;
     std::optional<LinuxStatusItem> item_; // none before it is made, as is the popover
     std::optional<LinuxPopover> popover_;
-    ShellOverview overview_;
+    ViewChange view_;
     std::unique_ptr<XDesktop> x_; // none on a desktop of Wayland alone
 };
 

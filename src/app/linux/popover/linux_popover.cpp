@@ -139,7 +139,7 @@ bool LinuxPopover::itemPressed(std::optional<QPoint> told, std::chrono::millisec
     return true;
 }
 
-void LinuxPopover::shellOverviewOpened() {
+void LinuxPopover::viewChanged() {
     if (form_ == PopoverForm::atTheItem) {
         close();
     }

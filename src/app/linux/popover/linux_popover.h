@@ -40,8 +40,8 @@ public:
     // The desktop likes its programs otherwise now.
     void appearanceChanged();
 
-    // In which a popover would stand alone.
-    void shellOverviewOpened();
+    // Something else is shown where the windows were; a popover would stand there alone.
+    void viewChanged();
 
 private:
     // Whether there is a window now, and whether there is what it is made with.
