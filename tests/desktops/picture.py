@@ -4,6 +4,19 @@ import struct
 import zlib
 
 
+def equal_pixels(mine, theirs, most, at_end=False):
+    """How many of two rows that differ within the first, or last, so many."""
+    equal, differs = 0, most
+    while differs - equal > 1:
+        middle = (equal + differs) // 2
+        part = slice(-3 * middle, None) if at_end else slice(3 * middle)
+        if mine[part] == theirs[part]:
+            equal = middle
+        else:
+            differs = middle
+    return equal
+
+
 class Picture:
     """Rows of pixels of three bytes each."""
 
@@ -42,18 +55,14 @@ class Picture:
                 if self.row(y)[3 * left:3 * right] != other.row(y)[3 * left:3 * right]]
         if not rows:
             return None
-        columns = [right, left]
+        first, last = right, left
         for y in rows:
             mine, theirs = self.row(y), other.row(y)
-            for first in range(left, min(columns[0], right)):
-                if mine[3 * first:3 * first + 3] != theirs[3 * first:3 * first + 3]:
-                    columns[0] = first
-                    break
-            for last in range(right - 1, max(columns[1], left) - 1, -1):
-                if mine[3 * last:3 * last + 3] != theirs[3 * last:3 * last + 3]:
-                    columns[1] = max(columns[1], last + 1)
-                    break
-        return (columns[0], rows[0], columns[1], rows[-1] + 1)
+            if mine[3 * left:3 * first] != theirs[3 * left:3 * first]:
+                first = left + equal_pixels(mine[3 * left:], theirs[3 * left:], first - left)
+            if mine[3 * last:3 * right] != theirs[3 * last:3 * right]:
+                last = right - equal_pixels(mine[:3 * right], theirs[:3 * right], right - last, at_end=True)
+        return (first, rows[0], last, rows[-1] + 1)
 
     def lightness(self, area):
         """On average, from 0 (black) to 1 (white)."""
