@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "base/arithmetic.h"
+#include "cli/output/harmless_json.h"
 
 namespace quelby::cli {
 
@@ -54,7 +55,7 @@ Json fieldsObject(const PublishedFields& fields) {
 }
 
 std::string written(const Json& object) {
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return harmless(object.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 } // namespace
