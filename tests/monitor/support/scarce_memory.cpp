@@ -90,7 +90,7 @@ std::ptrdiff_t livingPieces() {
 
 } // namespace quelby
 
-// The forms for arrays, and those that throw nothing, go by these.
+// All forms that are in use, because those of a sanitizer do not go by these.
 
 void* operator new(std::size_t size) {
     if (quelby::isRefused(quelby::Whose::cpps)) {
@@ -128,5 +128,21 @@ void operator delete(void* piece, std::align_val_t /*alignment*/) noexcept {
 }
 
 void operator delete(void* piece, std::size_t /*size*/, std::align_val_t /*alignment*/) noexcept {
+    quelby::giveBack(piece);
+}
+
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return quelby::isRefused(quelby::Whose::cpps) ? nullptr : quelby::given(std::malloc(size + 1));
+}
+
+void* operator new[](std::size_t size) {
+    return operator new(size);
+}
+
+void operator delete[](void* piece) noexcept {
+    quelby::giveBack(piece);
+}
+
+void operator delete[](void* piece, std::size_t /*size*/) noexcept {
     quelby::giveBack(piece);
 }
