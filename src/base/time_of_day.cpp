@@ -12,7 +12,9 @@ namespace quelby {
 
 namespace {
 
+// localtime_r() alone would go on in the zone in which the program was started.
 std::optional<std::tm> localTime(double time) {
+    ::tzset();
     const std::time_t seconds = truncated(time);
     std::tm local{};
     return std::isnan(time) || localtime_r(&seconds, &local) == nullptr ? std::nullopt : std::optional(local);

@@ -9,6 +9,7 @@
 #include "base/cycle_interval.h"
 #include "history/history_file.h"
 #include "history/sqlite/statement.h"
+#include "history/sqlite/transaction.h"
 
 namespace quelby {
 
@@ -149,14 +150,11 @@ void HistoryStore::aggregateIfNeeded() {
     const auto minuteBound = truncated(now - minuteRetention);
     const auto hourBound = truncated(now - hourRetention);
     const auto rawBound = truncated(now - rawRetention);
-    execute(db_->get(), "BEGIN");
+    Transaction run(db_->get(), "BEGIN");
     execute(db_->get(), minuteAggregation(minuteBound));
     execute(db_->get(), hourAggregation(hourBound));
     execute(db_->get(), pruning(rawBound, minuteBound, hourBound));
-    execute(db_->get(), "COMMIT");
-    if (sqlite3_get_autocommit(db_->get()) == 0) {
-        execute(db_->get(), "ROLLBACK"); // so that what comes later does not wait for this to be committed
-    }
+    static_cast<void>(run.commit()); // or else it is taken back
 }
 
 HistoryResult HistoryStore::loadData(TimeRange range) {

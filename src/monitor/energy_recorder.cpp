@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <new>
 #include <utility>
 
 #include "base/arithmetic.h"
@@ -34,7 +35,10 @@ EnergyRecorder::EnergyRecorder(const std::filesystem::path& applicationSupport, 
     : clock_(clock), writer_(applicationSupport), sessions_(writer_.lastSession()) {}
 
 EnergyRecorder::~EnergyRecorder() {
-    write();
+    try {
+        write();
+    } catch (const std::bad_alloc&) { // then the last minute is lost
+    }
 }
 
 void EnergyRecorder::addCycle(const PublishedFields& fields, std::optional<std::string_view> listing) {
@@ -42,21 +46,22 @@ void EnergyRecorder::addCycle(const PublishedFields& fields, std::optional<std::
     if (before_ && truncated(before_->time) == truncated(moment.time)) {
         return;
     }
-    followBattery(fields, moment);
+    const auto before = std::exchange(before_, moment); // so that a cycle that fails is not counted twice
+    followBattery(fields, before, moment);
     addEnergy(fields, listing);
     noticeDay(fields);
-    before_ = moment;
     if (std::abs(moment.time - lastWrite_) >= writeInterval) {
         write();
     }
 }
 
-void EnergyRecorder::followBattery(const PublishedFields& fields, const BatteryMoment& moment) {
-    const auto sleep = before_ ? sleepBetween(*before_, moment) : std::nullopt;
+void EnergyRecorder::followBattery(const PublishedFields& fields, const std::optional<BatteryMoment>& before,
+                                   const BatteryMoment& moment) {
+    const auto sleep = before ? sleepBetween(*before, moment) : std::nullopt;
     const bool unplugged = sessions_.follow({.kind = presentSession(fields),
                                              .calibrating = fields.calibrationActive,
                                              .now = moment.time,
-                                             .secondsSince = before_ ? secondsBetween(*before_, moment) : 0,
+                                             .secondsSince = before ? secondsBetween(*before, moment) : 0,
                                              .percent = fields.batteryPercent,
                                              .wattHours = fields.realWatts * hoursOfACycle,
                                              .wattHoursAsleep = sleep ? sleep->wattHours.value_or(0) : 0});

@@ -32,7 +32,8 @@ public:
     void write();
 
 private:
-    void followBattery(const PublishedFields& fields, const BatteryMoment& moment);
+    void followBattery(const PublishedFields& fields, const std::optional<BatteryMoment>& before,
+                       const BatteryMoment& moment);
     void addEnergy(const PublishedFields& fields, std::optional<std::string_view> listing);
     void noticeDay(const PublishedFields& fields);
     [[nodiscard]] HourOfEnergy& hourOf(Date now, bool sinceUnplugged);

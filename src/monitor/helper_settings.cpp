@@ -29,8 +29,10 @@ void PowerMonitor::loadDaemonConfig() {
 // The file has other writers. One of them is this program itself: what it wrote is read again as well, so
 // that nothing is missed which came right behind.
 void PowerMonitor::noticeDaemonConfig() {
-    if (platform_.helperFolder->configChanged()) {
+    if (due_.helperSettings || platform_.helperFolder->configChanged()) {
+        due_.helperSettings = true;
         loadDaemonConfig();
+        due_.helperSettings = false;
     }
 }
 
@@ -52,8 +54,10 @@ void PowerMonitor::checkDaemonInstalled() {
 
 // A helper that was just brought is taken for this program's own, until it says otherwise.
 void PowerMonitor::setDaemonInstalled(bool installed) {
-    if (platform_.helperFolder->detailsChanged()) {
+    if (due_.helperVersion || platform_.helperFolder->detailsChanged()) {
+        due_.helperVersion = true;
         helperIsCurrent_ = isHelperOf(platform_.helperFolder->details(), version());
+        due_.helperVersion = false;
     }
     helperOutdated = installed && !helperIsCurrent_;
     daemonInstalled = installed;

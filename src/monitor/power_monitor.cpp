@@ -1,5 +1,6 @@
 #include "monitor/power_monitor.h"
 
+#include <new>
 #include <utility>
 
 #include "monitor/battery_reading.h"
@@ -35,9 +36,7 @@ void PowerMonitor::stopMonitoring() {
     if (const auto timer = std::exchange(dataTimer_, nullptr)) {
         timer->invalidate();
     }
-    if (energyRecorder_) {
-        energyRecorder_->write(); // the program may be about to end
-    }
+    unlessOutOfMemory(&PowerMonitor::keepEnergy); // the program may be about to end
 }
 
 void PowerMonitor::restorePreferences() {
@@ -65,7 +64,11 @@ void PowerMonitor::takeOverHistory() {
     const bool reads = options_.history == HistoryAccess::readOnly;
     if (reads && options_.mayRecordNow && options_.mayRecordNow()) {
         options_.history = HistoryAccess::recording;
+        due_.history = true;
+    }
+    if (due_.history) {
         openHistory();
+        due_.history = false;
     }
 }
 
@@ -96,20 +99,19 @@ void PowerMonitor::scheduleCycles() {
 
 // The order of the steps is fixed: each uses what the ones before it have published.
 void PowerMonitor::collectAllData() {
-    readBatteryIOKit();
-    readCPUUsage();
-    calculatePower();
-    readTopProcesses();
-    sampleBattery();
-    predictBattery();
-    noticeDaemonConfig();
-    readDaemonStatus();
-    recordReading();
-    if (options_.renewsShownHistory) {
-        loadHistory();
+    for (const auto step :
+         {&PowerMonitor::readBatteryIOKit, &PowerMonitor::readCPUUsage, &PowerMonitor::calculatePower,
+          &PowerMonitor::readTopProcesses, &PowerMonitor::sampleBattery, &PowerMonitor::predictBattery,
+          &PowerMonitor::noticeDaemonConfig, &PowerMonitor::readDaemonStatus, &PowerMonitor::recordReading,
+          &PowerMonitor::recordEnergy, &PowerMonitor::renewShownHistory, &PowerMonitor::tellOfCycle}) {
+        unlessOutOfMemory(step);
     }
-    if (onUpdate) {
-        onUpdate();
+}
+
+void PowerMonitor::unlessOutOfMemory(void (PowerMonitor::*step)()) {
+    try {
+        (this->*step)();
+    } catch (const std::bad_alloc&) { // the next cycle may have more
     }
 }
 
@@ -154,7 +156,6 @@ void PowerMonitor::recordReading() {
     if (historyStore_) {
         historyStore_->addReading(totalPower, batteryPercent, isCharging, cpuUsage);
     }
-    recordEnergy();
 }
 
 void PowerMonitor::recordEnergy() {
@@ -165,13 +166,29 @@ void PowerMonitor::recordEnergy() {
     }
 }
 
+void PowerMonitor::keepEnergy() {
+    if (energyRecorder_) {
+        energyRecorder_->write();
+    }
+}
+
+void PowerMonitor::renewShownHistory() {
+    if (options_.renewsShownHistory) {
+        loadHistory();
+    }
+}
+
+void PowerMonitor::tellOfCycle() {
+    if (onUpdate) {
+        onUpdate();
+    }
+}
+
 EnergyReport PowerMonitor::energyReport(EnergyRange range) {
     if (!options_.history) {
         return {.range = range};
     }
-    if (energyRecorder_) {
-        energyRecorder_->write();
-    }
+    keepEnergy();
     return EnergyReader(platform_.folders->applicationSupport(), *platform_.clock).report(range);
 }
 

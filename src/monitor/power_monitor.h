@@ -1,9 +1,9 @@
 // The one object at the centre: it holds the published fields and, while it is monitoring, renews them in a
 // cycle every 3 seconds.
 //
-// No step of a cycle reports an error: a reader that cannot get its data leaves its fields as they were. What
-// a person asks for says whether it was done; the monitor itself shows and logs nothing.
-// Everything runs on the main thread, in the run loop of the platform, and observers are called there.
+// No step of a cycle reports an error: a reader that cannot get its data leaves its fields as they were, and
+// so does a step without memory. What a person asks for says whether it was done; the monitor shows and logs
+// nothing. All runs on the main thread, in the run loop of the platform, and observers are called there.
 #pragma once
 
 #include <chrono>
@@ -108,6 +108,7 @@ private:
     void loadHistory();
     void scheduleCycles();
     void collectAllData();
+    void unlessOutOfMemory(void (PowerMonitor::*step)());
     void readBatteryIOKit();
     void readCPUUsage();
     void calculatePower();
@@ -116,6 +117,9 @@ private:
     void predictBattery();
     void recordReading();
     void recordEnergy();
+    void keepEnergy();
+    void renewShownHistory();
+    void tellOfCycle();
 
     Platform platform_;
     MonitorOptions options_;
@@ -124,6 +128,14 @@ private:
     std::optional<EnergyRecorder> energyRecorder_; // while the history is recorded
     std::optional<std::string> topListing_;        // of the cycle under way
     BatteryRecord batteryRecord_;
+
+    // What a step had no memory for, and the next one makes up for.
+    struct Due {
+        bool helperSettings = false;
+        bool helperVersion = false;
+        bool history = false;
+    } due_;
+
     bool helperIsCurrent_ = true; // of this program's version, by what it said last
     Subscription storeDisplay_;   // keeps every choice of what the title shows
 };

@@ -98,7 +98,7 @@ private:
         }
 
         void call(const T& coming) {
-            ++calls_;
+            const CallUnderWay call(*this);
             const auto count = entries_.size();
             for (std::size_t i = 0; i < count; ++i) {
                 // Kept alive here, because it may end its own subscription.
@@ -106,15 +106,30 @@ private:
                     (*observer)(coming);
                 }
             }
-            if (--calls_ == 0) {
-                forgetRemoved();
-            }
         }
 
     private:
         struct Entry {
             std::uint64_t id;
             std::shared_ptr<Observer> observer; // none once removed
+        };
+
+        // Ends also where an observer throws.
+        class CallUnderWay {
+        public:
+            explicit CallUnderWay(Observers& observers) : observers_(observers) { ++observers_.calls_; }
+
+            CallUnderWay(const CallUnderWay&) = delete;
+            CallUnderWay& operator=(const CallUnderWay&) = delete;
+
+            ~CallUnderWay() {
+                if (--observers_.calls_ == 0) {
+                    observers_.forgetRemoved();
+                }
+            }
+
+        private:
+            Observers& observers_;
         };
 
         void forgetRemoved() {

@@ -1,4 +1,4 @@
-// The main thread's run loop. Everything of the program happens in it.
+// The main thread's run loop. Everything happens in it; an action that runs out of memory ends there.
 #pragma once
 
 #include <chrono>

@@ -35,6 +35,7 @@ protected:
         words.insert(words.end(), more.begin(), more.end());
         auto environment = plainEnvironment();
         environment["TMPDIR"] = temporaryFiles;
+        environment["LC_ALL"] = language;
         environment["XDG_DATA_HOME"] = folder.path() / "data";
         return runProgram(words, environment);
     }
@@ -65,6 +66,7 @@ protected:
         EXPECT_FALSE(fs::exists(file));
     }
 
+    std::string language = "C.UTF-8";
     TemporaryFolder folder;
     std::string file = folder.path() / "picture.png";
     std::string temporaryFiles = folder.write("temporary/keep", "").parent_path();
@@ -83,6 +85,14 @@ TEST_F(QuelbyScreenshot, IsTheSameEachTime) {
     const auto first = drawn({"--scale", "2"});
     EXPECT_FALSE(first.empty());
     EXPECT_EQ(first, drawn({"--scale", "2"}));
+}
+
+TEST_F(QuelbyScreenshot, IsTheSameInEveryLanguage) {
+    const auto expected = drawn();
+    for (const auto* const other : {"de_DE.UTF-8", "tr_TR.UTF-8", "ar_EG.UTF-8", "C"}) {
+        language = other;
+        EXPECT_TRUE(drawn() == expected) << other;
+    }
 }
 
 TEST_F(QuelbyScreenshot, IsSharpAtEachScale) {

@@ -1,4 +1,4 @@
-// Where a page says which test holds an attack off, there is such a test.
+// Where a page says which test holds an attack off, or shows what becomes of a fault, there is such a test.
 
 #include <algorithm>
 #include <filesystem>
@@ -45,7 +45,7 @@ std::set<std::string> namedTests(const fs::path& page) {
     std::ifstream lines(page);
     for (std::string line; std::getline(lines, line);) {
         if (!line.starts_with("| ") || std::count(line.begin(), line.end(), '|') != 4) {
-            continue; // no row of an attack, what becomes of it, and the test
+            continue; // no row of what may happen, what becomes of it, and the test
         }
         const auto column = line.substr(line.rfind('|', line.size() - 2));
         for (auto found = std::sregex_iterator(column.begin(), column.end(), mark);
@@ -58,7 +58,7 @@ std::set<std::string> namedTests(const fs::path& page) {
 
 TEST(DocumentedTests, AreThere) {
     const auto tests = allTests();
-    for (const auto* const page : {"docs/security.md", "limiter/README.md"}) {
+    for (const auto* const page : {"docs/faults.md", "docs/security.md", "limiter/README.md"}) {
         const auto named = namedTests(root / page);
         EXPECT_GE(named.size(), 10U) << page;
         for (const auto& name : named) {

@@ -50,6 +50,13 @@ TEST(TimeOfDay, FollowsTheTimeZone) {
     }
 }
 
+TEST(TimeOfDay, FollowsAZoneThatIsChangedWhileTheProgramRuns) {
+    const TimeZone zone("EST5");
+    EXPECT_EQ(timeOfDay(1'700'000'000), "17:13:20");
+    ::setenv("TZ", "<+0545>-5:45", 1); // of which nobody tells the program
+    EXPECT_EQ(timeOfDay(1'700'000'000), "03:58:20");
+}
+
 TEST(TimeOfDay, FollowsTheChangeToSummerTime) {
     const TimeZone zone("CET-1CEST,M3.5.0,M10.5.0/3");
     constexpr double change = 1'679'792'400; // 2023-03-26 01:00 UTC

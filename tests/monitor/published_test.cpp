@@ -86,6 +86,20 @@ TEST(Subscription, MovesWithItsOwner) {
     EXPECT_EQ(second, 1);
 }
 
+TEST(Published, KeepsItsValueWhereAnObserverThrows) {
+    Published<int> field(0);
+    auto subscription = field.observe([](int) { throw std::bad_alloc(); });
+    EXPECT_THROW(field = 1, std::bad_alloc);
+    EXPECT_EQ(field, 0);
+    const auto kept = std::make_shared<int>();
+    auto other = field.observe([kept](int) {});
+    subscription.end();
+    other.end();
+    EXPECT_EQ(kept.use_count(), 1);
+    field = 2;
+    EXPECT_EQ(field, 2);
+}
+
 TEST(Subscription, MayEndWhileItsObserverIsCalled) {
     Published<int> field(0);
     int calls = 0;

@@ -70,9 +70,10 @@ public:
             delegate->applicationWillTerminate();
             delegate.reset();
         });
+        // Before anything is to be seen: what comes until the event loop runs is heard there.
+        const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
         delegate->applicationDidFinishLaunching();
         desktop.start();
-        const SignalListener signals({SIGINT, SIGTERM, SIGHUP, SIGQUIT}, [&](int) { desktop.terminate(); });
         QCoreApplication::exec();
         delegate->applicationWillTerminate();
         delegate.reset();

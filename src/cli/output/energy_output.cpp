@@ -12,6 +12,7 @@
 #include "base/utf8.h"
 #include "cli/arguments/values.h"
 #include "cli/output/csv_field.h"
+#include "cli/output/harmless_json.h"
 #include "cli/terminal/layout/block_cells.h"
 #include "cli/terminal/layout/display_width.h"
 #include "ui/presentation/energy/energy_words.h"
@@ -68,11 +69,11 @@ std::string energyAsJson(const EnergyOutput& output) {
                       {"rows", rows},
                       {"totalWh", total(output)},
                       {"fullChargeWh", orNull(output.fullCharge)}};
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
+    return harmless(object.dump(-1, ' ', false, Json::error_handler_t::replace)) + '\n';
 }
 
 std::string field(const NamedEnergy& row) {
-    return csvField(row.name);
+    return csvField(printable(row.name)); // CSV has no escapes
 }
 
 std::string field(const TimedEnergy& row) {

@@ -4,6 +4,7 @@
 
 #include "base/arithmetic.h"
 #include "base/json_value.h"
+#include "cli/output/harmless_json.h"
 
 namespace quelby::cli {
 
@@ -55,7 +56,7 @@ Json fieldsObject(const PublishedFields& fields) {
 }
 
 std::string written(const Json& object) {
-    return object.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return harmless(object.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
 } // namespace

@@ -9,6 +9,7 @@
 #include "history/energy/session_kind.h"
 #include "history/history_file.h"
 #include "history/sqlite/statement.h"
+#include "history/sqlite/transaction.h"
 
 namespace quelby {
 
@@ -157,12 +158,8 @@ bool EnergyWriter::write(const EnergyBatch& batch, Date now) {
     if (!db_) {
         return false;
     }
-    const bool written = execute(db_.get(), "BEGIN IMMEDIATE") && keep(db_.get(), batch) &&
-                         prune(db_.get(), now) && execute(db_.get(), "COMMIT");
-    if (sqlite3_get_autocommit(db_.get()) == 0) {
-        execute(db_.get(), "ROLLBACK"); // so that what comes later does not wait for this to be committed
-    }
-    return written;
+    Transaction all(db_.get(), "BEGIN IMMEDIATE");
+    return all.hasBegun() && keep(db_.get(), batch) && prune(db_.get(), now) && all.commit();
 }
 
 std::optional<Session> EnergyWriter::lastSession() const {

@@ -2,8 +2,8 @@
 
 namespace quelby {
 
-bool execute(sqlite3* connection, const std::string& script) {
-    return sqlite3_exec(connection, script.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+bool execute(sqlite3* connection, const char* script) {
+    return sqlite3_exec(connection, script, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
 Statement::Statement(sqlite3* connection, const std::string& text) {

@@ -11,7 +11,7 @@
 namespace quelby {
 
 // Statements that give no rows and take no values. False: the first of them that went wrong was the last.
-bool execute(sqlite3* connection, const std::string& script);
+bool execute(sqlite3* connection, const char* script);
 
 // One prepared statement. Where preparing failed, binding and stepping do nothing.
 class Statement {

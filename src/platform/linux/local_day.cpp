@@ -33,6 +33,7 @@ std::time_t firstShowing(std::time_t shown, std::time_t before, std::time_t afte
 } // namespace
 
 double startOfLocalDay(double moment) {
+    ::tzset(); // the zone may have been changed, which localtime_r() does not look for
     const auto seconds = static_cast<std::time_t>(std::floor(moment));
     const auto offset = offsetAt(seconds);
     if (!offset) {

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include "base/utf8.h"
+
 namespace quelby::cli {
 namespace {
 
@@ -55,6 +57,16 @@ TEST(FieldsAsJson, AreOneLineOfAsciiOrUtf8WhateverAProcessIsCalled) {
     const auto line = fieldsAsJson(fields);
     EXPECT_EQ(line.find('\n'), std::string::npos);
     EXPECT_EQ(ordered_json::parse(line)["topProcesses"][0]["name"], "a\nb\"\uFFFD\x1B");
+}
+
+TEST(FieldsAsJson, HoldNothingThatATerminalWouldObeyAndMeanTheSame) {
+    const std::string name = "\u009B2J\x7F \u202E\u2066電池\u2028\U0001F50B";
+    PublishedFields fields;
+    fields.topProcesses = std::vector<ProcessInfo_Energy>{{name, 1.0, 0.0}};
+    const auto line = fieldsAsJson(fields);
+    EXPECT_EQ(printable(line), line);
+    EXPECT_NE(line.find("電池"), std::string::npos);
+    EXPECT_EQ(ordered_json::parse(line)["topProcesses"][0]["name"], name);
 }
 
 TEST(FieldsAsJson, HaveNoNumberThatJsonLacks) {

@@ -1,5 +1,6 @@
 #include "platform/local_day.h"
 
+#include <cstdlib>
 #include <ctime>
 
 #include <gtest/gtest.h>
@@ -31,6 +32,13 @@ TEST(StartOfLocalDay, FollowsZonesEastAndWestOfUtc) {
     }
     const TimeZone losAngeles("PST8PDT,M3.2.0,M11.1.0");
     EXPECT_EQ(startOfLocalDay(newYear2024), newYear2024 - day + 8 * hour);
+}
+
+TEST(StartOfLocalDay, FollowsAZoneThatIsChangedWhileTheProgramRuns) {
+    const TimeZone utc("UTC0");
+    EXPECT_EQ(startOfLocalDay(newYear2024 + 12 * hour), newYear2024);
+    ::setenv("TZ", "JST-9", 1); // of which nobody tells the program
+    EXPECT_EQ(startOfLocalDay(newYear2024 + 12 * hour), newYear2024 - 9 * hour);
 }
 
 TEST(StartOfLocalDay, HoldsOnTheDaysWhenTheClocksChange) {

@@ -1,5 +1,7 @@
 #include "platform/qt/qt_run_loop.h"
 
+#include <new>
+
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
@@ -51,6 +53,20 @@ TEST_F(QtRunLoopTest, CallsWhatIsPostedAfterwardsAndInOrder) {
     order += 'a';
     QCoreApplication::exec();
     EXPECT_EQ(order, "ab");
+}
+
+TEST_F(QtRunLoopTest, GoesOnAfterAnActionThatRanOutOfMemory) {
+    QtRunLoop loop;
+    int calls = 0;
+    loop.post([] { throw std::bad_alloc(); });
+    loop.repeat(milliseconds(0), [&] {
+        if (++calls == 3) {
+            QCoreApplication::quit();
+        }
+        throw std::bad_alloc();
+    });
+    QCoreApplication::exec();
+    EXPECT_EQ(calls, 3);
 }
 
 TEST_F(QtRunLoopTest, EndsItsTimersAndWhatIsPostedWithItself) {

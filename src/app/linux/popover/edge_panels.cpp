@@ -10,6 +10,7 @@
 #include <nlohmann/json.hpp>
 
 #include "app/linux/popover/sway_socket.h"
+#include "app/linux/session/bus_silence.h"
 
 namespace quelby::app {
 
@@ -28,6 +29,9 @@ constexpr std::array edgesByName{
     std::pair(QLatin1String("left"), Qt::LeftEdge), std::pair(QLatin1String("right"), Qt::RightEdge)};
 
 std::vector<EdgePanel> panelsOfPlasma() {
+    if (sessionBusIsSilent()) {
+        return {};
+    }
     auto question = QDBusMessage::createMethodCall(
         QStringLiteral("org.kde.plasmashell"), QStringLiteral("/PlasmaShell"),
         QStringLiteral("org.kde.PlasmaShell"), QStringLiteral("evaluateScript"));

@@ -26,8 +26,15 @@ std::optional<QDBusConnection> SessionBus::connection() {
     if (connection_) {
         return connection_;
     }
+    hidden_.reset();
+    if (sessionBusIsSilent()) {
+        hidden_.emplace();
+        wasHidden_ = true;
+        return std::nullopt;
+    }
     const auto name = connectionName(++connections_);
-    auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    auto bus = wasHidden_ ? QDBusConnection::connectToBus(HiddenSessionBus::address(), name)
+                          : QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
     if (!bus.isConnected()) {
         QDBusConnection::disconnectFromBus(name);
         return std::nullopt;

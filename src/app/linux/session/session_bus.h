@@ -9,6 +9,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include "app/linux/session/bus_silence.h"
+
 namespace quelby::app {
 
 // The connection to the session's bus, made again some seconds after it broke, for as long as it takes.
@@ -23,7 +25,7 @@ public:
     SessionBus& operator=(const SessionBus&) = delete;
     ~SessionBus() override;
 
-    // Connects. Nothing where there is no bus at present.
+    // Connects. Nothing where there is no bus at present, or one that answers nobody.
     [[nodiscard]] std::optional<QDBusConnection> connection();
 
     // Told at each change from now on, after those who asked before.
@@ -37,7 +39,9 @@ private:
     void tell(const std::optional<QDBusConnection>& bus) const;
 
     std::optional<QDBusConnection> connection_;
-    int connections_ = 0; // how many there were so far; Qt needs another name for each
+    std::optional<HiddenSessionBus> hidden_; // while it is silent
+    bool wasHidden_ = false;                 // the bus's library keeps the address that it has seen first
+    int connections_ = 0;                    // how many there were so far; Qt needs another name for each
     std::vector<Listener> listeners_;
     QTimer retry_;
 };

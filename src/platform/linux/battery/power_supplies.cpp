@@ -1,6 +1,9 @@
 #include "platform/linux/battery/power_supplies.h"
 
 #include <algorithm>
+#include <memory>
+
+#include <dirent.h>
 
 #include "platform/linux/battery/attribute_folder.h"
 #include "platform/linux/battery/natural_order.h"
@@ -9,12 +12,18 @@ namespace quelby {
 
 namespace {
 
+struct CloseDirectory {
+    void operator()(DIR* directory) const { ::closedir(directory); }
+};
+
+// Not by the iterator of the standard library, which ends the program where there is no memory for it.
 std::vector<std::string> namesIn(const std::filesystem::path& folder) {
     std::vector<std::string> names;
-    std::error_code error;
-    for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-         entry.increment(error)) {
-        names.push_back(entry->path().filename().string());
+    const std::unique_ptr<DIR, CloseDirectory> directory(::opendir(folder.c_str()));
+    while (const auto* const entry = directory ? ::readdir(directory.get()) : nullptr) {
+        if (entry->d_name[0] != '.') { // the folder itself, and the one above
+            names.emplace_back(entry->d_name);
+        }
     }
     std::sort(names.begin(), names.end(), comesBefore);
     return names;

@@ -37,26 +37,30 @@ void ApplicationNames::look(Process& process, ProcDirectory& directory) {
     if (process.looksForApplication >= looksAtEach) {
         return;
     }
-    ++process.looksForApplication;
     std::array<char, 4096> buffer;
     const auto cgroups = readBeginning(directory.openOf(process.pid, "cgroup"), buffer);
     const auto id = cgroups ? applicationId(*cgroups) : std::string();
     process.application = id.empty() ? std::string() : nameOf(id);
+    ++process.looksForApplication;
 }
 
 const std::string& ApplicationNames::nameOf(const std::string& id) {
-    const auto [known, isNew] = known_.try_emplace(id);
-    if (!isNew || id.find('/') != std::string::npos) {
-        return known->second;
+    const auto known = known_.find(id);
+    return known != known_.end() ? known->second : known_.try_emplace(id, nameInFolders(id)).first->second;
+}
+
+std::string ApplicationNames::nameInFolders(const std::string& id) const {
+    if (id.find('/') != std::string::npos) {
+        return {};
     }
     for (const auto& folder : entryFolders_) {
         for (const auto& file : filesOf(id)) {
             if (const auto name = nameIn(folder / file); !name.empty()) {
-                return known->second = listedName(name);
+                return listedName(name);
             }
         }
     }
-    return known->second;
+    return {};
 }
 
 } // namespace quelby

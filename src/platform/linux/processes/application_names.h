@@ -23,6 +23,7 @@ public:
 
 private:
     [[nodiscard]] const std::string& nameOf(const std::string& id);
+    [[nodiscard]] std::string nameInFolders(const std::string& id) const;
 
     std::vector<std::filesystem::path> entryFolders_;
     std::map<std::string, std::string> known_; // by application; empty where no entry tells

@@ -22,6 +22,7 @@ ProcProcessLister::ProcProcessLister(std::filesystem::path procRoot, std::functi
     , scanner_(std::move(procRoot), scale_, std::move(scanTime), std::move(entryFolders)) {}
 
 std::optional<std::string> ProcProcessLister::cpuListing() {
+    hasScan_ = false; // of which half is no scan
     hasScan_ = scanner_.scan();
     return hasScan_ ? std::optional(cpuListingText(scanner_.processes())) : std::nullopt;
 }

@@ -58,8 +58,9 @@ bool ProcessScanner::refresh(Process& process, bool clocksTell) {
     // scan.
     const auto clock = process.clock ? process.clock->nanoseconds() : std::nullopt;
     const bool hasSlept = clock && clock == process.clockNanoseconds;
-    process.clockNanoseconds = clock;
-    return hasSlept || readAgain(process);
+    const bool alive = hasSlept || readAgain(process);
+    process.clockNanoseconds = clock; // not before: what could not be read must be read the next time
+    return alive;
 }
 
 bool ProcessScanner::readAgain(Process& process) {
@@ -70,12 +71,13 @@ bool ProcessScanner::readAgain(Process& process) {
     }
     const bool sameName =
         stat->escapedComm == process.escapedComm && stat->counters.startTicks == process.counters.startTicks;
-    process.counters = stat->counters;
     if (!sameName || process.name.empty()) {
-        process.escapedComm = stat->escapedComm;
-        process.name = processName(process.pid, process.escapedComm, directory_);
-        process.looksForApplication = 0; // it has become another program
+        std::string comm(stat->escapedComm);
+        process.name = processName(process.pid, comm, directory_);
+        process.escapedComm = std::move(comm); // once there is a name for it
+        process.looksForApplication = 0;       // it has become another program
     }
+    process.counters = stat->counters;
     return true;
 }
 

@@ -3,6 +3,7 @@
 namespace quelby {
 
 void ProcessTable::follow(std::span<const pid_t> pids) {
+    next_.reserve(pids.size()); // all the memory that this takes, before anything is moved
     auto known = processes_.begin();
     for (const pid_t pid : pids) {
         while (known != processes_.end() && known->pid < pid) {

@@ -36,16 +36,16 @@ public:
     // Forgets whoever is not in the list, which is in ascending order, and adds whoever is new.
     void follow(std::span<const pid_t> pids);
 
-    // Calls `isAlive(Process&)` once for each process, in order, and forgets those it answers false for.
+    // Calls `isAlive(Process&)` once for each process, in order, and forgets those it answers false for. Where
+    // it throws, that one and those behind it stay.
     template <typename IsAlive>
     void keepWhere(IsAlive isAlive) {
-        auto kept = processes_.begin();
-        for (auto& process : processes_) {
-            if (isAlive(process)) {
-                keepAt(*kept++, process);
+        Gap gap(processes_);
+        for (; gap.end != processes_.end(); ++gap.end) {
+            if (isAlive(*gap.end)) {
+                keepAt(*gap.begin++, *gap.end);
             }
         }
-        processes_.erase(kept, processes_.end());
     }
 
     void clear() { processes_.clear(); }
@@ -55,6 +55,21 @@ public:
     [[nodiscard]] std::span<Process> processes() { return processes_; }
 
 private:
+    // Those that are forgotten, as long as the others are still being asked.
+    struct Gap {
+        explicit Gap(std::vector<Process>& all)
+            : processes(all), begin(processes.begin()), end(processes.begin()) {}
+
+        Gap(const Gap&) = delete;
+        Gap& operator=(const Gap&) = delete;
+
+        ~Gap() { processes.erase(begin, end); }
+
+        std::vector<Process>& processes;
+        std::vector<Process>::iterator begin;
+        std::vector<Process>::iterator end;
+    };
+
     static void keepAt(Process& place, Process& process) {
         if (&place != &process) {
             place = std::move(process);

@@ -1,9 +1,12 @@
 #include "platform/linux/battery/sysfs_battery_source.h"
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include "platform/linux/battery/fake_sysfs.h"
 #include "platform/linux/battery/published_battery.h"
+#include "platform/posix/file_descriptor.h"
+#include "support/descriptor_limit.h"
 
 namespace quelby {
 namespace {
@@ -76,6 +79,58 @@ TEST_F(SysfsBatterySourceTest, AnAttributeThatFailsCostsOnlyItself) {
     EXPECT_EQ(published().voltage, 10);
     sysfs.write("BAT0", "power_now", "10000000\n");
     EXPECT_EQ(published().amperage, -1000);
+}
+
+TEST_F(SysfsBatterySourceTest, AnyAttributeMayFailWithoutChangingTheChargeAndComesBack) {
+    const fake::Attributes laptop = {{"type", "Battery"},
+                                     {"status", "Discharging"},
+                                     {"present", "1"},
+                                     {"capacity", "50"},
+                                     {"energy_now", "25000000"},
+                                     {"energy_full", "50000000"},
+                                     {"energy_full_design", "57000000"},
+                                     {"power_now", "10000000"},
+                                     {"voltage_now", "11400000"},
+                                     {"voltage_min_design", "11400000"},
+                                     {"cycle_count", "212"},
+                                     {"temp", "305"},
+                                     {"time_to_empty_now", "9000"}};
+    for (const auto unreadable : {fake::Unreadable::FailsToRead, fake::Unreadable::IsMissing,
+                                  fake::Unreadable::IsEmpty, fake::Unreadable::IsFolder}) {
+        const fake::Sysfs computer(unreadable);
+        computer.plug("BAT0", laptop);
+        computer.plug("AC", {{"type", "Mains"}, {"online", "0"}});
+        SysfsBatterySource pack(computer.root());
+        const auto whole = pack.readBattery();
+        for (const auto& [attribute, text] : laptop) {
+            if (attribute == "type") {
+                continue; // which the kernel knows by heart
+            }
+            computer.makeUnreadable("BAT0", attribute);
+            const PublishedBattery told(pack.readBattery());
+            EXPECT_TRUE(told.hasBattery) << attribute;
+            EXPECT_EQ(told.batteryPercent, 50) << attribute;
+            EXPECT_FALSE(told.isPluggedIn) << attribute;
+            computer.write("BAT0", attribute, *text + '\n');
+            EXPECT_EQ(pack.readBattery(), whole) << attribute;
+        }
+    }
+}
+
+TEST_F(SysfsBatterySourceTest, ABatteryIsNotGoneWhereDescriptorsRunOut) {
+    sysfs.plug("BAT0", battery(25));
+    ASSERT_EQ(published().batteryPercent, 50);
+    const DescriptorLimit limit(64);
+    for (std::size_t left = 0; left < 5; ++left) {
+        std::vector<FileDescriptor> others;
+        do {
+            others.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+        } while (others.back().isOpen());
+        others.resize(others.size() - 1 - left);
+        const auto reading = read();
+        others.clear();
+        EXPECT_TRUE(reading == BatteryReading(UnreadableBattery{}) || reading == read()) << left;
+    }
 }
 
 TEST_F(SysfsBatterySourceTest, ASilentPackBesideOneThatAnswersIsLeftOut) {

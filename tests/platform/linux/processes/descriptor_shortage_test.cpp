@@ -1,34 +1,14 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 #include "fake_proc.h"
 #include "listing_lines.h"
 #include "platform/linux/processes/proc_process_lister.h"
+#include "support/descriptor_limit.h"
 
 namespace quelby {
 namespace {
-
-// A lowered soft limit of descriptors, as long as this lives.
-class DescriptorLimit {
-public:
-    explicit DescriptorLimit(rlim_t limit) {
-        ::getrlimit(RLIMIT_NOFILE, &before_);
-        const struct rlimit lowered = {limit, before_.rlim_max};
-        ::setrlimit(RLIMIT_NOFILE, &lowered);
-    }
-
-    DescriptorLimit(const DescriptorLimit&) = delete;
-    DescriptorLimit& operator=(const DescriptorLimit&) = delete;
-    DescriptorLimit(DescriptorLimit&&) = delete;
-    DescriptorLimit& operator=(DescriptorLimit&&) = delete;
-
-    ~DescriptorLimit() { ::setrlimit(RLIMIT_NOFILE, &before_); }
-
-private:
-    struct rlimit before_ = {};
-};
 
 // Every descriptor that is left.
 std::vector<FileDescriptor> allDescriptors() {
@@ -72,10 +52,10 @@ protected:
 
 TEST_F(DescriptorShortage, DoesNotHinderManyProcesses) {
     const DescriptorLimit limit(1024);
-    setProcesses(5000, 0);
-    expectAllIn(lookAfter(0), 5000, 0);
-    setProcesses(5000, second_);
-    expectAllIn(lookAfter(2), 5000, 50);
+    setProcesses(10'000, 0);
+    expectAllIn(lookAfter(0), 10'000, 0);
+    setProcesses(10'000, second_);
+    expectAllIn(lookAfter(2), 10'000, 50);
 }
 
 TEST_F(DescriptorShortage, LeavesAReserveToTheRestOfTheProgram) {

@@ -60,7 +60,7 @@ public:
     [[nodiscard]] std::filesystem::path folderOf(pid_t pid) const { return root() / fmt::to_string(pid); }
 
 private:
-    TemporaryFolder parent_;
+    TemporaryFolder parent_{inMemory()};
 };
 
 } // namespace quelby

@@ -1,5 +1,7 @@
 #include "platform/linux/processes/process_table.h"
 
+#include <new>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -34,6 +36,17 @@ TEST(ProcessTable, AddsTheNewWithoutAnythingKnown) {
     auto table = tableOf({5});
     table.follow(std::vector<pid_t>{1, 5, 9});
     EXPECT_THAT(table.processes(), ElementsAre(isNamed(1, ""), isNamed(5, "5"), isNamed(9, "")));
+}
+
+TEST(ProcessTable, KeepsThoseThatCouldNotBeAsked) {
+    auto table = tableOf({1, 5, 7, 9});
+    const auto askUntilItFails = [&] {
+        table.keepWhere([](const Process& process) {
+            return process.pid == 7 ? throw std::bad_alloc() : process.pid != 1;
+        });
+    };
+    EXPECT_THROW(askUntilItFails(), std::bad_alloc);
+    EXPECT_THAT(table.processes(), ElementsAre(isNamed(5, "5"), isNamed(7, "7"), isNamed(9, "9")));
 }
 
 TEST(ProcessTable, ForgetsTheDead) {
