@@ -9,6 +9,10 @@ namespace quelby {
 
 namespace {
 
+bool isBlank(char character) {
+    return character == ' ' || character == '\t';
+}
+
 // Both parsers know a minus sign only.
 std::string_view withoutPlusSign(std::string_view text) {
     const bool plus = text.size() > 1 && text[0] == '+' && text[1] != '-';
@@ -18,11 +22,13 @@ std::string_view withoutPlusSign(std::string_view text) {
 } // namespace
 
 std::string_view withoutBlanks(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) {
-        return {};
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
     }
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
 }
 
 std::optional<double> decimalNumber(std::string_view text) {
