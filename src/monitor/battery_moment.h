@@ -16,6 +16,9 @@ struct BatteryMoment {
     std::optional<double> wattHours; // in the battery; none: it does not tell
 };
 
+// What a full charge holds, in mAh; nothing where the battery gives its charge in percent only.
+[[nodiscard]] std::optional<Int> fullCapacity(const PublishedFields& fields);
+
 // What a full charge holds, in Wh at the present voltage; nothing where the battery does not tell its capacity.
 [[nodiscard]] std::optional<double> fullChargeWattHours(const PublishedFields& fields);
 
