@@ -20,6 +20,10 @@ void Statement::bind(int parameter, std::int32_t value) {
     }
 }
 
+void Statement::bind(int parameter, bool value) {
+    bind(parameter, static_cast<std::int32_t>(value));
+}
+
 void Statement::bind(int parameter, double value) {
     if (statement_) {
         sqlite3_bind_double(statement_.get(), parameter, value);
@@ -30,6 +34,12 @@ void Statement::bind(int parameter, std::string_view text) {
     if (statement_) {
         sqlite3_bind_text(statement_.get(), parameter, text.data(), static_cast<int>(text.size()),
                           SQLITE_TRANSIENT); // NOLINT: the constant is SQLite's own cast
+    }
+}
+
+void Statement::bindNull(int parameter) {
+    if (statement_) {
+        sqlite3_bind_null(statement_.get(), parameter);
     }
 }
 
