@@ -19,7 +19,7 @@ namespace quelby {
 // "45 s", "12 min", "7 h 50 min", "3 d 4 h".
 [[nodiscard]] std::string durationText(double seconds);
 
-// "~1h 25m to 80%", from now on.
+// "~1h 25m to the limit of 80%", from now on.
 [[nodiscard]] std::string timeToLimitText(double minutes, double limitPercent);
 
 // In % an hour; negative where it was charged.
