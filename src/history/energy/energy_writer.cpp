@@ -41,7 +41,8 @@ bool endUnplugged(PreparedStatements& statements, std::string_view table) {
 bool addComponents(PreparedStatements& statements, const HourOfEnergy& hour) {
     const auto text = addition(energy_tables::components);
     return std::all_of(hour.components.begin(), hour.components.end(), [&](const auto& component) {
-        return statements.run(text, hour.hour, component.first, hour.sinceUnplugged, component.second);
+        return statements.run(text, hour.hour, component.first, hour.sinceUnplugged ? 1 : 0,
+                              component.second);
     });
 }
 
@@ -64,7 +65,7 @@ bool addApps(PreparedStatements& statements, const HourOfEnergy& hour) {
     const auto small = beyondLargest(namesInAnHour, known, hour.apps);
     const auto text = addition(energy_tables::apps);
     const auto add = [&](std::string_view name, double wattHours) {
-        return statements.run(text, hour.hour, name, hour.sinceUnplugged, wattHours);
+        return statements.run(text, hour.hour, name, hour.sinceUnplugged ? 1 : 0, wattHours);
     };
     double others = 0;
     for (const auto& [name, wattHours] : hour.apps) {

@@ -20,10 +20,6 @@ void Statement::bind(int parameter, std::int32_t value) {
     }
 }
 
-void Statement::bind(int parameter, bool value) {
-    bind(parameter, static_cast<std::int32_t>(value));
-}
-
 void Statement::bind(int parameter, double value) {
     if (statement_) {
         sqlite3_bind_double(statement_.get(), parameter, value);

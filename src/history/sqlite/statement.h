@@ -21,11 +21,9 @@ public:
     // Parameters count from 1.
     void bind(int parameter, std::int64_t value);
     void bind(int parameter, std::int32_t value);
-    void bind(int parameter, bool value);
     void bind(int parameter, double value);
     void bind(int parameter, std::string_view text);
 
-    void bind(int parameter, const std::string& text) { bind(parameter, std::string_view(text)); }
 
     void bindNull(int parameter);
 
