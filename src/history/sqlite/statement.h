@@ -24,7 +24,6 @@ public:
     void bind(int parameter, double value);
     void bind(int parameter, std::string_view text);
 
-
     void bindNull(int parameter);
 
     // NULL, where there is no value.
