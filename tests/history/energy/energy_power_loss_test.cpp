@@ -15,7 +15,7 @@ constexpr int minutesWritten = 500; // so that the log is copied several times
 constexpr std::size_t energyLosses = 60;
 
 // A minute's batch: 3 Wh, a sleep, a session that goes on, and the battery of a day of twenty minutes.
-EnergyBatch batchOf(int number) {
+EnergyBatch batchOf(std::int64_t number) {
     const auto now = noonSecond + number * 60;
     return {.hours = {{.hour = now / 3600 * 3600,
                        .apps = {{number % 2 == 0 ? "editor" : "browser", 1}, {"system", 2}},
@@ -25,7 +25,7 @@ EnergyBatch batchOf(int number) {
                           .start = noonSecond,
                           .end = now,
                           .seconds = number * 60,
-                          .wattHours = 3.0 * (number + 1)}},
+                          .wattHours = 3.0 * static_cast<double>(number + 1)}},
             .days = {{.day = number / 20 * 86'400, .fullCapacity = 4600, .cycleCount = number}}};
 }
 
