@@ -7,7 +7,6 @@
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <memory>
 #include <string>
 #include <vector>
@@ -22,6 +21,7 @@
 #include <unistd.h>
 
 #include "briefly.h"
+#include "cpu_time.h"
 #include "monitor/power_monitor.h"
 #include "platform/host/system_clock.h"
 #include "platform/posix/file_descriptor.h"
@@ -127,20 +127,16 @@ private:
     bool started_ = false;
 };
 
-double cpuMilliseconds() {
-    struct timespec time = {};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-template <typename Action>
-double costOf(const Action& action) {
-    const double before = cpuMilliseconds();
-    if (action() == 0) {
+// Of what says how many processes it has seen.
+template <typename Look>
+double costOfLook(const Look& look) {
+    std::size_t seen = 0;
+    const double cost = quelby::costOf([&] { seen = look(); });
+    if (seen == 0) {
         std::fputs("/proc cannot be read\n", stderr);
         std::exit(EXIT_FAILURE);
     }
-    return cpuMilliseconds() - before;
+    return cost;
 }
 
 double median(std::vector<double> values) {
@@ -183,11 +179,11 @@ void compare(std::size_t count, std::size_t wokenOneIn, int pairs) {
     Cycles cycles;
     std::vector<double> scans;
     std::vector<double> wholeCycles;
-    const double first = costOf([&] { return cycles.run(); });
+    const double first = costOfLook([&] { return cycles.run(); });
     for (int i = 0; i < pairs; ++i) {
-        scans.push_back(costOf(bareScan));
+        scans.push_back(costOfLook(bareScan));
         sleepers.wakeOneIn(wokenOneIn);
-        wholeCycles.push_back(costOf([&] { return cycles.run(); }));
+        wholeCycles.push_back(costOfLook([&] { return cycles.run(); }));
     }
     const double scan = median(scans);
     const double cycle = median(wholeCycles);

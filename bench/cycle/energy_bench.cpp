@@ -3,13 +3,13 @@
 // the listings that a cycle has anyway, of the same made-up /proc. CPU time, means; the processes have been
 // looked at before.
 #include <cstdio>
-#include <ctime>
 #include <optional>
 #include <string>
 
 #include <fmt/format.h>
 
 #include "briefly.h"
+#include "cpu_time.h"
 #include "history/history_store.h"
 #include "monitor/energy_recorder.h"
 #include "platform/host/system_clock.h"
@@ -70,19 +70,6 @@ struct Costs {
     double split = 0;
 };
 
-double cpuMilliseconds() {
-    struct timespec time = {};
-    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
-}
-
-template <typename Action>
-double costOf(const Action& action) {
-    const double before = cpuMilliseconds();
-    action();
-    return cpuMilliseconds() - before;
-}
-
 Costs costsOf(int count, int workingOneIn, int cycles) {
     Crowd crowd(count, workingOneIn);
     const quelby::TemporaryFolder folder;
@@ -100,12 +87,12 @@ Costs costsOf(int count, int workingOneIn, int cycles) {
     for (int i = -5; i < cycles; ++i) { // the first ones look at processes that nobody knows yet
         crowd.work();
         std::optional<std::string> listing;
-        const Costs costs{.listings = costOf([&] {
+        const Costs costs{.listings = quelby::costOf([&] {
                               static_cast<void>(lister.cpuListing());
                               static_cast<void>(lister.topListing());
                           }),
-                          .applications = costOf([&] { listing = lister.applicationListing(); }),
-                          .split = costOf([&] { recorder.addCycle(fields, listing); })};
+                          .applications = quelby::costOf([&] { listing = lister.applicationListing(); }),
+                          .split = quelby::costOf([&] { recorder.addCycle(fields, listing); })};
         clock.ahead += 3;
         if (i >= 0) {
             sum = {sum.listings + costs.listings, sum.applications + costs.applications,

@@ -1,5 +1,7 @@
 #include "base/utf8.h"
 
+#include <cstring>
+
 namespace quelby {
 
 namespace {
@@ -10,6 +12,22 @@ bool isControl(std::uint32_t codePoint) {
     const bool direction =
         (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
     return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0) || lineBreak || direction;
+}
+
+// How many bytes from the first on are ASCII; looked at in words, since most texts are nothing else.
+std::size_t asciiLength(std::string_view text) {
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((word & highBits) != 0) {
+            break;
+        }
+    }
+    while (length < text.size() && static_cast<std::uint8_t>(text[length]) < 0x80) {
+        ++length;
+    }
+    return length;
 }
 
 } // namespace
@@ -37,12 +55,13 @@ Utf8Sequence utf8SequenceAt(std::string_view text, std::size_t position) {
 }
 
 bool isUtf8(std::string_view text) {
-    for (std::size_t position = 0; position < text.size();) {
+    for (std::size_t position = asciiLength(text); position < text.size();) {
         const auto sequence = utf8SequenceAt(text, position);
         if (sequence.length == 0) {
             return false;
         }
         position += sequence.length;
+        position += asciiLength(text.substr(position));
     }
     return true;
 }

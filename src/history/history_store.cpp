@@ -151,9 +151,9 @@ void HistoryStore::aggregateIfNeeded() {
     const auto hourBound = truncated(now - hourRetention);
     const auto rawBound = truncated(now - rawRetention);
     Transaction run(db_->get(), "BEGIN");
-    execute(db_->get(), minuteAggregation(minuteBound));
-    execute(db_->get(), hourAggregation(hourBound));
-    execute(db_->get(), pruning(rawBound, minuteBound, hourBound));
+    execute(db_->get(), minuteAggregation(minuteBound).c_str());
+    execute(db_->get(), hourAggregation(hourBound).c_str());
+    execute(db_->get(), pruning(rawBound, minuteBound, hourBound).c_str());
     static_cast<void>(run.commit()); // or else it is taken back
 }
 

@@ -23,14 +23,16 @@ std::optional<TimeSinceBoot> passed(const BatteryMoment& before, const BatteryMo
 
 } // namespace
 
-bool tellsCapacity(const PublishedFields& fields) {
-    return fields.hasBattery && fields.rawMaxCapacity > largestPercentage;
+std::optional<Int> fullCapacity(const PublishedFields& fields) {
+    const bool told = fields.hasBattery && fields.rawMaxCapacity > largestPercentage;
+    return told ? std::optional(fields.rawMaxCapacity.get()) : std::nullopt;
 }
 
 std::optional<double> fullChargeWattHours(const PublishedFields& fields) {
-    const bool told = tellsCapacity(fields) && fields.voltage > 0;
-    return told ? std::optional(static_cast<double>(fields.rawMaxCapacity.get()) * fields.voltage / 1000)
-                : std::nullopt;
+    const auto capacity = fullCapacity(fields);
+    return capacity && fields.voltage > 0
+               ? std::optional(static_cast<double>(*capacity) * fields.voltage / 1000)
+               : std::nullopt;
 }
 
 BatteryMoment batteryMoment(const PublishedFields& fields, Clock& clock) {
@@ -39,9 +41,9 @@ BatteryMoment batteryMoment(const PublishedFields& fields, Clock& clock) {
         return moment;
     }
     moment.percent = static_cast<double>(fields.batteryPercent.get());
-    if (tellsCapacity(fields) && fields.rawCurrentCapacity > 0) {
+    if (const auto capacity = fullCapacity(fields); capacity && fields.rawCurrentCapacity > 0) {
         const auto remaining = static_cast<double>(fields.rawCurrentCapacity.get());
-        moment.percent = std::min(remaining * 100 / static_cast<double>(fields.rawMaxCapacity.get()), 100.0);
+        moment.percent = std::min(remaining * 100 / static_cast<double>(*capacity), 100.0);
         moment.wattHours = remaining * fields.voltage / 1000;
     }
     return moment;

@@ -16,8 +16,8 @@ struct BatteryMoment {
     std::optional<double> wattHours; // in the battery; none: it does not tell
 };
 
-// The full charge is one in mAh: no more than 100 is a percentage.
-[[nodiscard]] bool tellsCapacity(const PublishedFields& fields);
+// What a full charge holds, in mAh; nothing where the battery gives its charge in percent only.
+[[nodiscard]] std::optional<Int> fullCapacity(const PublishedFields& fields);
 
 // What a full charge holds, in Wh at the present voltage; nothing where the battery does not tell its capacity.
 [[nodiscard]] std::optional<double> fullChargeWattHours(const PublishedFields& fields);

@@ -101,24 +101,30 @@ HourOfEnergy& EnergyRecorder::hourOf(Date now, bool sinceUnplugged) {
 }
 
 void EnergyRecorder::noticeDay(const PublishedFields& fields) {
-    if (!tellsCapacity(fields)) {
+    const auto capacity = fullCapacity(fields);
+    if (!capacity) {
         return;
     }
     const auto start = truncated(std::floor(clock_.now() / day) * day);
     const double temperature = fields.batteryTemp;
-    BatteryDay today{.day = start, .fullCapacity = fields.rawMaxCapacity, .cycleCount = fields.cycleCount};
+    BatteryDay today{.day = start, .fullCapacity = *capacity, .cycleCount = fields.cycleCount};
     if (fields.designCapacity > 0) {
         today.designCapacity = fields.designCapacity;
     }
-    const auto& known = batch_.day ? batch_.day : keptDay_;
-    if (known && known->day == start) {
-        today.maxTemperature = known->maxTemperature;
+    if (day_ && day_->day == start) {
+        today.maxTemperature = day_->maxTemperature;
     }
     if (temperature != 0) { // which stands for a battery that tells none
         today.maxTemperature = std::max(today.maxTemperature.value_or(temperature), temperature);
     }
-    if (today != known) {
-        batch_.day = today;
+    if (today == day_) {
+        return;
+    }
+    day_ = today;
+    if (batch_.days.empty() || batch_.days.back().day != start) {
+        batch_.days.push_back(today);
+    } else {
+        batch_.days.back() = today;
     }
 }
 
@@ -128,7 +134,6 @@ void EnergyRecorder::write() {
     auto changed = sessions_.takeChanged();
     batch_.sessions.insert(batch_.sessions.end(), changed.begin(), changed.end());
     if (!writer_.isOpen() || writer_.write(batch_, now)) {
-        keptDay_ = batch_.day ? batch_.day : keptDay_;
         batch_ = {};
     } else {
         forgetOldest();
@@ -139,6 +144,7 @@ void EnergyRecorder::forgetOldest() {
     keepLast(batch_.hours, mostHours);
     keepLast(batch_.sleeps, mostRecords);
     keepLast(batch_.sessions, mostRecords);
+    keepLast(batch_.days, mostRecords);
 }
 
 } // namespace quelby

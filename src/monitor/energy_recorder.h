@@ -44,7 +44,7 @@ private:
     SessionWatch sessions_;
     std::optional<BatteryMoment> before_;
     EnergyBatch batch_;
-    std::optional<BatteryDay> keptDay_;
+    std::optional<BatteryDay> day_; // as it was told last
     Date lastWrite_ = 0;
 };
 

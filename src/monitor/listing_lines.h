@@ -9,12 +9,12 @@ namespace quelby {
 // tabs at both ends. Text after the last newline is a line too, be it empty.
 class ListingLines {
 public:
-    explicit ListingLines(std::string_view listing) : rest_(listing) { dropFirstLine(); }
+    explicit ListingLines(std::string_view listing) : rest_(listing) { takeFirstLine(); }
 
     [[nodiscard]] std::optional<std::string_view> next();
 
 private:
-    void dropFirstLine();
+    std::string_view takeFirstLine();
 
     std::optional<std::string_view> rest_;
 };

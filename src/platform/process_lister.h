@@ -22,9 +22,9 @@ public:
     // the processes cannot be read.
     [[nodiscard]] virtual std::optional<std::string> topListing() = 0;
 
-    // In the form of the top listing, a line for each application that has used CPU time: the share of all its
-    // processes, a blank, and its name as people know it; a process that belongs to no application stands under
-    // its short name. To be asked for behind the other two, and from the same scan. Nothing where this system
+    // In the form of the top listing, in any order, a line for each process that has used CPU time: its share,
+    // a blank, and the name of its application as people know it, which may stand in several lines; a process
+    // that belongs to no application stands under its short name. To be asked for behind the other two, and from the same scan. Nothing where this system
     // does not tell which process belongs to which application.
     [[nodiscard]] virtual std::optional<std::string> applicationListing() { return std::nullopt; }
 

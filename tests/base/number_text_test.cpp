@@ -1,6 +1,7 @@
 #include "base/number_text.h"
 
 #include <clocale>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -17,9 +18,20 @@ TEST(DecimalNumber, AcceptsWhatAListerPrints) {
     EXPECT_EQ(decimalNumber("5."), 5.0);
 }
 
+TEST(DecimalNumber, IsTheSameTheShortWayAndTheLong) {
+    for (const std::size_t places : {0U, 1U, 2U, 6U}) {
+        for (std::uint32_t number = 0; number < 10'000'000; number += 997) {
+            auto text = std::to_string(number);
+            text.insert(0, text.size() > places ? 0 : places + 1 - text.size(), '0');
+            text.insert(text.size() - places, places > 0 ? "." : "");
+            ASSERT_EQ(decimalNumber(text), decimalNumber(text + "e0")) << text;
+        }
+    }
+}
+
 TEST(DecimalNumber, RefusesWhatIsNotWhollyANumber) {
-    for (const auto* text :
-         {"", " ", "abc", "12.5x", "1 2", " 1", "1\n", "0x10", "12,5", "+-1", "++1", "-", "."}) {
+    for (const auto* text : {"", " ", "1.2.3", "1..2", "..", "abc", "12.5x", "1 2", " 1", "1\n", "0x10",
+                             "12,5", "+-1", "++1", "-", "."}) {
         EXPECT_EQ(decimalNumber(text), std::nullopt) << '"' << text << '"';
     }
 }

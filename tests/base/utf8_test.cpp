@@ -32,6 +32,18 @@ TEST(IsUtf8, RefusesEveryKindOfMalformedText) {
     }
 }
 
+TEST(IsUtf8, LooksAtEveryPlaceOfALongText) {
+    for (std::size_t place = 0; place < 40; ++place) {
+        std::string text(40, 'x');
+        EXPECT_TRUE(isUtf8(text));
+        text[place] = '\xFF';
+        EXPECT_FALSE(isUtf8(text)) << place;
+        text.replace(place, 1, "\u00FC");
+        EXPECT_TRUE(isUtf8(text)) << place;
+        EXPECT_FALSE(isUtf8(text.substr(0, place + 1))) << place;
+    }
+}
+
 TEST(Printable, KeepsTextAndReplacesControlCharacters) {
     EXPECT_EQ(printable("Web Content 電池"), "Web Content 電池");
     EXPECT_EQ(printable("a\nb\tc\x1B[2Jd\x7F"), "a?b?c?[2Jd?");

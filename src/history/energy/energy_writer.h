@@ -21,6 +21,7 @@
 #include "base/date.h"
 #include "history/energy/energy_records.h"
 #include "history/sqlite/connection.h"
+#include "history/sqlite/prepared_statements.h"
 
 namespace quelby {
 
@@ -31,7 +32,7 @@ struct EnergyBatch {
     std::vector<HourOfEnergy> hours;
     std::vector<Sleep> sleeps;
     std::vector<Session> sessions; // each takes the place of the one of its kind with the same start
-    std::optional<BatteryDay> day; // takes the day's place; the higher temperature stays
+    std::vector<BatteryDay> days;  // each takes the day's place; the higher temperature stays
 };
 
 class EnergyWriter {
@@ -49,6 +50,7 @@ public:
 
 private:
     Connection db_; // empty where there is none
+    PreparedStatements statements_;
 };
 
 } // namespace quelby

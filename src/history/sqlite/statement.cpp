@@ -37,6 +37,12 @@ void Statement::bind(int parameter, std::string_view text) {
     }
 }
 
+void Statement::bindNull(int parameter) {
+    if (statement_) {
+        sqlite3_bind_null(statement_.get(), parameter);
+    }
+}
+
 void Statement::reset() {
     if (statement_) {
         sqlite3_reset(statement_.get());

@@ -19,17 +19,23 @@ public:
     // The connection outlives the statement.
     Statement(sqlite3* connection, const std::string& text);
 
+    [[nodiscard]] bool isPrepared() const { return statement_ != nullptr; }
+
     // Parameters count from 1.
     void bind(int parameter, std::int64_t value);
     void bind(int parameter, std::int32_t value);
     void bind(int parameter, double value);
     void bind(int parameter, std::string_view text);
 
+    void bindNull(int parameter);
+
     // NULL, where there is no value.
     template <typename T>
     void bind(int parameter, const std::optional<T>& value) {
         if (value) {
             bind(parameter, *value);
+        } else {
+            bindNull(parameter);
         }
     }
 

@@ -130,15 +130,15 @@ TEST_F(EnergyWriterTest, KeepsARowForEachDayWithItsHighestTemperature) {
                       .designCapacity = 5000,
                       .cycleCount = 211,
                       .maxTemperature = 31};
-    write({.day = monday});
+    write({.days = {monday}});
     monday.fullCapacity = 4590;
     monday.cycleCount = 212;
     monday.maxTemperature = 29;
-    write({.day = monday});
+    write({.days = {monday}});
     monday.maxTemperature = std::nullopt;
-    write({.day = monday});
+    write({.days = {monday}});
     BatteryDay tuesday{.day = noonSecond + 12 * anHour, .fullCapacity = 4580};
-    write({.day = tuesday});
+    write({.days = {tuesday}});
     monday.maxTemperature = 31;
     EXPECT_THAT(reader.batteryDays(), ElementsAre(monday, tuesday));
     clock.time += 4000 * day;
@@ -165,23 +165,6 @@ TEST_F(EnergyWriterTest, WaitsForNobodyForLongAndSucceedsLater) {
     another.execute("ROLLBACK");
     write(batch);
     EXPECT_EQ(sumOf(EnergyRange::today), 5);
-}
-
-TEST_F(EnergyWriterTest, LeavesTheTablesOfTheHistoryAsTheyAre) {
-    const TemporaryFolder plain;
-    const auto tablesOf = [&](const std::filesystem::path& database) {
-        return Database(database).number("SELECT SUM(LENGTH(sql)) FROM sqlite_schema WHERE name IN\n"
-                                         "('readings', 'minute_avg', 'hour_avg')");
-    };
-    const HistoryStore older(plain.path(), clock, HistoryAccess::recording);
-    EXPECT_EQ(tablesOf(file), tablesOf(historyFile(plain.path())));
-    history.addReading(10, 50, false, 20);
-    const auto before = Database(file).tables();
-    add(noonSecond, {{"editor", 1}});
-    const auto after = Database(file).tables();
-    EXPECT_EQ(after.readings, before.readings);
-    EXPECT_EQ(after.minutes, before.minutes);
-    EXPECT_EQ(after.hours, before.hours);
 }
 
 TEST(EnergyWriterWithoutAFile, KeepsNothingAndSaysNothing) {

@@ -120,40 +120,35 @@ TEST_F(MonitoredEnergy, TellsTheBatteryOfEachDay) {
                                                   BatteryDay{eve + 86400, 4990, std::nullopt, 31, 41.25}));
 }
 
-TEST(AMonthOfEnergy, IsKeptWholeAndSmall) {
-    const TimeZone utc("UTC0");
-    const TemporaryFolder folder;
-    LivingClock clock;
-    const HistoryStore history(folder.path(), clock, HistoryAccess::recording);
-    PublishedFields fields;
-    fields.cpuPower = 4;
-    double used = 0;
-    {
-        EnergyRecorder recorder(folder.path(), clock);
-        for (int i = 0; i < 40 * 288; ++i) { // a cycle every five minutes of forty days
-            fields.totalPower = 10 + i % 7;
-            fields.isPluggedIn = i % 288 > 140;
-            const auto listing =
-                fmt::format("%CPU APPLICATION\n20.0 Browser\n{}.0 program {}\n", i % 13, i % 60);
-            recorder.addCycle(fields, listing);
-            used += i >= 10 * 288 ? fields.totalPower * 3 / 3600 : 0;
-            clock.time += 300;
-            clock.boot.awake += 300;
-        }
-    }
-    const EnergyReader reader(folder.path(), clock);
-    double kept = 0;
-    for (const auto& app : reader.byApp(EnergyRange::thirtyDays)) {
-        kept += app.wattHours;
-    }
-    EXPECT_NEAR(kept, used, used / 100);
-    EXPECT_THAT(reader.byHour(EnergyRange::thirtyDays),
-                SizeIs(testing::AllOf(testing::Ge(720), testing::Le(721))));
-    EXPECT_THAT(byDay(reader.byHour(EnergyRange::thirtyDays), startOfLocalDay),
-                SizeIs(31)); // two of them halves
-    EXPECT_THAT(reader.sessions(), SizeIs(30));
-    EXPECT_LT(std::filesystem::file_size(historyFile(folder.path())), 8'000'000U);
-    EXPECT_TRUE(Database(historyFile(folder.path())).isSound());
+TEST_F(MonitoredEnergy, TellsASleepInWhichTheComputerTravelledToAnotherZone) {
+    start();
+    cycle(1200);
+    const auto asleepAt = static_cast<std::int64_t>(clock.time);
+    setBattery(2400, false);
+    const TimeZone farther("EET-2");
+    pass(3, 7197);
+    fire();
+    cycle(1200);
+    const auto reader = kept();
+    expectTodayOf(reader, used);
+    expectTheHistorysToday(reader);
+    ASSERT_THAT(reader.sleeps(), SizeIs(1));
+    EXPECT_EQ(reader.sleeps()[0].start, asleepAt);
+    EXPECT_EQ(reader.sleeps()[0].seconds, 7197);
+}
+
+TEST_F(MonitoredEnergy, KeepsTheLastMinuteOfADayWhoseTemperatureIsItsHighest) {
+    clock.time = midnight - 24;
+    start();
+    cycle(6);
+    computer.battery.reading = PropertyTable{{"AppleRawMaxCapacity", 4990}, {"Temperature", 4125}};
+    cycle();
+    computer.battery.reading = PropertyTable{{"AppleRawMaxCapacity", 4980}, {"Temperature", 2900}};
+    cycle(5);
+    const auto days = kept().batteryDays();
+    ASSERT_THAT(days, SizeIs(2));
+    EXPECT_EQ(days[0].maxTemperature, 41.25);
+    EXPECT_EQ(days[1].maxTemperature, 29);
 }
 
 } // namespace

@@ -44,6 +44,32 @@ Tables Database::tables() {
     return {std::move(readings), means("minute_avg"), means("hour_avg")};
 }
 
+std::string Database::dump(const std::string& table) {
+    const auto row = lines("SELECT group_concat('quote(\"' || name || '\")', ' || '','' || ')\n"
+                           "FROM pragma_table_info('" +
+                           table + "')");
+    return lines("SELECT " + row + " FROM " + table + " ORDER BY 1");
+}
+
+std::string Database::declaration(const std::string& table) {
+    return lines("SELECT type || ' ' || name || ': ' || ifnull(sql, '') FROM sqlite_schema\n"
+                 "WHERE tbl_name = '" +
+                 table + "' ORDER BY name") +
+           lines("SELECT cid || ' ' || name || ' ' || type || ' ' || \"notnull\" || ' ' || pk || ' ' ||\n"
+                 "quote(dflt_value) FROM pragma_table_info('" +
+                 table + "')");
+}
+
+std::string Database::lines(const std::string& query) {
+    std::string lines;
+    Statement rows(connection_.get(), query);
+    while (rows.step()) {
+        lines += rows.text(0) + '\n';
+    }
+    EXPECT_EQ(rows.outcome(), SQLITE_DONE) << query;
+    return lines;
+}
+
 bool Database::isSound() {
     return number("SELECT COUNT(*) FROM pragma_integrity_check WHERE integrity_check <> 'ok'") == 0;
 }

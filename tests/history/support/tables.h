@@ -50,10 +50,18 @@ public:
     [[nodiscard]] std::int64_t number(const std::string& query);
 
     [[nodiscard]] Tables tables();
+
+    // All of a table, a line for each row, values as SQL writes them, so that their types show as well.
+    [[nodiscard]] std::string dump(const std::string& table);
+
+    // How a table is declared, with what belongs to it: the words that made it, and what SQLite makes of its
+    // columns.
+    [[nodiscard]] std::string declaration(const std::string& table);
     [[nodiscard]] bool isSound();
 
 private:
     [[nodiscard]] Means means(const std::string& table);
+    [[nodiscard]] std::string lines(const std::string& query);
 
     Connection connection_;
 };

@@ -24,9 +24,18 @@ Line energyLine(const EnergyRow& row, int columns) {
     return joined(std::move(line), spread({}, {span(row.share)}, shareColumns));
 }
 
+// Beside each other, or the second below the first where a line has no room for both.
+Block besideOrBelow(const Line& left, const Line& right, int columns) {
+    const int needed = displayWidth(right);
+    if (needed == 0 || displayWidth(left) + 1 + needed <= columns) {
+        return {spread(left, right, columns)};
+    }
+    return {fitted(left, columns), spread({}, right, columns)};
+}
+
 CardText text(const EnergyUse& use, int columns) {
-    CardText written{.title = titleLine(use), .atTheRight = {span(use.total)}};
-    written.content.push_back(choicesLine(use.ranges));
+    CardText written{.title = titleLine(use)};
+    append(written.content, besideOrBelow(choicesLine(use.ranges), {span(use.total)}, columns));
     if (use.placeholder) {
         written.content.push_back({span(*use.placeholder)});
     }
@@ -43,8 +52,8 @@ CardText text(const PastSection& section, int columns) {
         written.content.push_back({span(*section.placeholder)});
     }
     for (const auto& row : section.rows) {
-        written.content.push_back(
-            spread({span(row.when), blanks(2), span(row.what)}, {span(row.cost)}, columns));
+        append(written.content,
+               besideOrBelow({span(row.when), blanks(2), span(row.what)}, {span(row.cost)}, columns));
         if (row.warning) {
             append(written.content, sentence(*row.warning, columns, {blanks(2)}));
         }
@@ -68,10 +77,11 @@ CardText text(const AgeingSection& section, int columns) {
 
 std::vector<Block> energyCards(const EnergyPanel& panel, int columns) {
     const int content = contentWidth(columns);
-    std::vector<Block> cards{framed(text(panel.use, content), columns)};
+    std::vector<Block> cards;
     if (panel.limit) {
         cards.push_back(framed({.title = withGlyph(panel.limit->symbol, bold(panel.limit->text))}, columns));
     }
+    cards.push_back(framed(text(panel.use, content), columns));
     for (const auto& section : {panel.sleeps, panel.sessions}) {
         if (section) {
             cards.push_back(framed(text(*section, content), columns));

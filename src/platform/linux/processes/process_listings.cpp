@@ -1,15 +1,13 @@
 #include "platform/linux/processes/process_listings.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
-#include <iterator>
+#include <limits>
 #include <string_view>
-#include <unordered_map>
-#include <utility>
 #include <vector>
-
-#include <fmt/compile.h>
 
 namespace quelby {
 
@@ -21,8 +19,17 @@ std::int64_t hundredths(const Process& process) {
     return std::llround(process.share.percent() * 100);
 }
 
+// With two decimals, and a blank before a share below ten.
 void appendShare(std::string& text, std::int64_t share) {
-    fmt::format_to(std::back_inserter(text), FMT_COMPILE("{:2}.{:02}"), share / 100, share % 100);
+    std::array<char, std::numeric_limits<std::int64_t>::digits10 + 1> digits;
+    const char* const end = std::to_chars(digits.begin(), digits.end(), share / 100).ptr;
+    if (share < 1000) {
+        text += ' ';
+    }
+    text.append(digits.cbegin(), end);
+    text += '.';
+    text += static_cast<char>('0' + share / 10 % 10);
+    text += static_cast<char>('0' + share % 10);
 }
 
 void appendLine(std::string& text, std::int64_t share, std::string_view name) {
@@ -77,21 +84,11 @@ std::string topListingText(std::span<const Process> processes) {
 }
 
 std::string applicationListingText(std::span<const Process> processes) {
-    using Total = std::pair<std::string_view, std::int64_t>;
-    std::unordered_map<std::string_view, std::int64_t> shares;
+    std::string text = " %CPU APPLICATION\n";
     for (const auto& process : processes) {
         if (const auto share = hundredths(process); share > 0) {
-            shares[process.application.empty() ? process.name : process.application] += share;
+            appendLine(text, share, process.application.empty() ? process.name : process.application);
         }
-    }
-    std::vector<Total> totals(shares.begin(), shares.end());
-    std::sort(totals.begin(), totals.end(), [](const Total& one, const Total& other) {
-        return one.second != other.second ? one.second > other.second : one.first < other.first;
-    });
-    std::string text = " %CPU APPLICATION\n";
-    text.reserve(usualLineLength * (totals.size() + 1));
-    for (const auto& [name, share] : totals) {
-        appendLine(text, share, name);
     }
     return text;
 }

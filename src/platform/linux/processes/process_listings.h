@@ -14,7 +14,7 @@ namespace quelby {
 // Equal shares, as they are printed, keep the order of the processes.
 [[nodiscard]] std::string topListingText(std::span<const Process> processes);
 
-// The processes of one application together, and only who has used anything.
+// Only who has used anything, under the name of the application where that is known.
 [[nodiscard]] std::string applicationListingText(std::span<const Process> processes);
 
 } // namespace quelby

@@ -52,11 +52,15 @@ std::string totalText(double wattHours, std::optional<double> fullCharge) {
                          : fmt::format("{}, {} of a charge", wattHoursText(wattHours), share);
 }
 
+std::string footnoteText(std::optional<double> fullCharge) {
+    return fullCharge ? fmt::format("{} {}", energyFootnote, chargeFootnote) : std::string(energyFootnote);
+}
+
 EnergyUse energyUse(const EnergyReport& report, std::optional<double> fullCharge) {
     EnergyUse use{.symbol = {"bolt.fill", ColorName::yellow},
                   .title = primary("By Application"),
                   .total = secondary(""),
-                  .footnote = secondary(std::string(energyFootnote))};
+                  .footnote = secondary(footnoteText(fullCharge))};
     for (const auto range : allEnergyRanges) {
         use.ranges.push_back({std::string(label(range)), range == report.range});
     }

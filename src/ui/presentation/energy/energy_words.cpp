@@ -46,7 +46,7 @@ std::string durationText(double seconds) {
 
 std::string timeToLimitText(double minutes, double limitPercent) {
     const auto whole = truncated(minutes);
-    return fmt::format("~{}h {}m to {}%", whole / 60, whole % 60, truncated(limitPercent));
+    return fmt::format("~{}h {}m to the limit of {}%", whole / 60, whole % 60, truncated(limitPercent));
 }
 
 double percentPerHour(const Sleep& sleep) {

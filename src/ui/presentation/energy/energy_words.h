@@ -19,7 +19,7 @@ namespace quelby {
 // "45 s", "12 min", "7 h 50 min", "3 d 4 h".
 [[nodiscard]] std::string durationText(double seconds);
 
-// "~1h 25m to 80%", from now on.
+// "~1h 25m to the limit of 80%", from now on.
 [[nodiscard]] std::string timeToLimitText(double minutes, double limitPercent);
 
 // In % an hour; negative where it was charged.
@@ -41,7 +41,7 @@ inline constexpr std::string_view drainedMuchText = "drained more than 1 % an ho
 // How far these figures can be trusted.
 inline constexpr std::string_view energyFootnote =
     "The split over applications is an estimate: the processor's part of the power, by the share of CPU "
-    "time. What belongs to "
-    "no process stands under system. Shares are of a full charge at the present voltage.";
+    "time. What belongs to no process stands under system.";
+inline constexpr std::string_view chargeFootnote = "Shares are of a full charge at the present voltage.";
 
 } // namespace quelby

@@ -96,7 +96,12 @@ TEST_F(WatchFrameTest, ShowsWhereTheEnergyWentInPlaceOfTheCards) {
     fields.rawMaxCapacity = 4000;
     fields.voltage = 12;
     const EnergyReport report{.apps = {{"firefox", 8.2}, {"system", 4}},
-                              .sleeps = {{.start = 1'700'000'000, .seconds = 3600, .percentBefore = 50}}};
+                              .sleeps = {{.start = 1'700'000'000, .seconds = 3600, .percentBefore = 50}},
+                              .sessions = {{.kind = SessionKind::charge,
+                                            .seconds = 7200,
+                                            .percentFrom = 40,
+                                            .percentTo = 80,
+                                            .wattHours = 19.6}}};
     const auto panel = energyPanel(report, fields, 85.0);
     for (const int columns : {40, 80, 120}) {
         const auto shown =
@@ -108,8 +113,10 @@ TEST_F(WatchFrameTest, ShowsWhereTheEnergyWentInPlaceOfTheCards) {
         }
         EXPECT_THAT(text, HasSubstr("firefox"));
         EXPECT_THAT(text, HasSubstr("8.2 Wh   17 %"));
-        EXPECT_THAT(text, HasSubstr("~1h 25m to 80%"));
+        EXPECT_THAT(text, HasSubstr("~1h 25m to the limit of 80%"));
+        EXPECT_THAT(text, HasSubstr("12.2 Wh, 25 % of a charge"));
         EXPECT_THAT(text, HasSubstr("drained more than 1 % an hour"));
+        EXPECT_THAT(text, HasSubstr("40 to 80 %, 19.6 Wh")) << columns;
         EXPECT_THAT(text, Not(HasSubstr("Top Processes")));
     }
 }

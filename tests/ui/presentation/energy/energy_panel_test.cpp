@@ -1,5 +1,6 @@
 #include "ui/presentation/energy/energy_panel.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "support/time_zone.h"
@@ -34,6 +35,8 @@ TEST_F(EnergyPanelTest, TellsWhichApplicationUsedHowMuchOfACharge) {
     EXPECT_NEAR(use.rows[1].bar.fraction, 8.2 / 12, 1e-12);
     EXPECT_EQ(use.rows[2].name.text, "a?");
     EXPECT_EQ(use.placeholder, std::nullopt);
+    EXPECT_THAT(use.footnote.text, testing::AllOf(testing::HasSubstr("an estimate"),
+                                                  testing::HasSubstr("full charge at the present voltage.")));
 }
 
 TEST_F(EnergyPanelTest, TellsWhatIsNoApplicationMoreQuietly) {
@@ -81,12 +84,13 @@ TEST_F(EnergyPanelTest, LeavesOutWhatAMachineWithoutABatteryHasNot) {
     EXPECT_EQ(panel().ageing, std::nullopt);
     EXPECT_EQ(panel().use.rows[1].share.text, "");
     EXPECT_EQ(panel().use.total.text, "20.3 Wh");
+    EXPECT_THAT(panel().use.footnote.text, testing::Not(testing::HasSubstr("charge")));
 }
 
 TEST_F(EnergyPanelTest, TellsHowLongUntilTheLimitWhereThereIsOne) {
     EXPECT_EQ(panel().limit, std::nullopt);
     fields.chargeLimitPercent = 75;
-    EXPECT_EQ(panel(85.5).limit->text.text, "~1h 25m to 75%");
+    EXPECT_EQ(panel(85.5).limit->text.text, "~1h 25m to the limit of 75%");
 }
 
 TEST_F(EnergyPanelTest, TellsWhatSleepsCostAndWarnsOfThoseThatDrained) {

@@ -35,8 +35,8 @@ TEST(EnergyWords, TellDurationsInTheirTwoLargestUnits) {
 }
 
 TEST(EnergyWords, TellTheTimeToTheLimit) {
-    EXPECT_EQ(timeToLimitText(85.9, 80), "~1h 25m to 80%");
-    EXPECT_EQ(timeToLimitText(0.5, 75.0), "~0h 0m to 75%");
+    EXPECT_EQ(timeToLimitText(85.9, 80), "~1h 25m to the limit of 80%");
+    EXPECT_EQ(timeToLimitText(0.5, 75.0), "~0h 0m to the limit of 75%");
 }
 
 Sleep eightHours(double percentAfter) {
