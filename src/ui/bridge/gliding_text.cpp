@@ -10,21 +10,14 @@ void GlidingText::setTarget(const QString& target) {
     }
     from_ = target_.isEmpty() ? target : text_;
     target_ = target;
+    setOut();
     show();
     Q_EMIT targetChanged();
 }
 
-void GlidingText::setProgress(qreal progress) {
-    if (progress != progress_) {
-        progress_ = progress;
-        show();
-        Q_EMIT progressChanged();
-    }
-}
-
 void GlidingText::show() {
     const auto text =
-        QString::fromStdString(textBetween(from_.toStdString(), target_.toStdString(), progress_));
+        QString::fromStdString(textBetween(from_.toStdString(), target_.toStdString(), shownProgress()));
     if (text != text_) {
         text_ = text;
         Q_EMIT textChanged();

@@ -80,8 +80,8 @@ TEST_F(Animation, TakesBarsAndFiguresToTheirNewValueAndEndsExactlyThere) {
     EXPECT_EQ(fraction(), 0.72);
     setLevel(20);
     double last = 0.72;
-    for (int step = 0; step < 5; ++step) {
-        time.pass(20);
+    for (int step = 0; step < 3; ++step) {
+        time.pass(31);
         EXPECT_LT(fraction(), last);
         EXPECT_GT(fraction(), 0.2);
         last = fraction();

@@ -1,0 +1,49 @@
+#include <vector>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ui/bridge/gliding_number.h"
+
+namespace quelby {
+namespace {
+
+using testing::ElementsAre;
+
+class GlidingNumberItem : public testing::Test {
+protected:
+    GlidingNumberItem() {
+        QObject::connect(&gliding, &GlidingNumber::valueChanged, [this] { shown.push_back(gliding.value()); });
+    }
+
+    GlidingNumber gliding;
+    std::vector<double> shown;
+};
+
+TEST_F(GlidingNumberItem, ShowsItsFirstValueAtOnce) {
+    gliding.setTarget(0.72);
+    gliding.setProgress(0);
+    gliding.setProgress(0.5);
+    EXPECT_THAT(shown, ElementsAre(0.72));
+}
+
+TEST_F(GlidingNumberItem, GlidesFromWhatIsShownAndEndsExactlyAtItsTarget) {
+    gliding.setTarget(0.5);
+    gliding.setTarget(0.1);
+    for (const double progress : {0.0, 0.25, 0.49, 1.0}) {
+        gliding.setProgress(progress);
+    }
+    ASSERT_EQ(shown.size(), 3);
+    EXPECT_NEAR(shown[1], 0.26875, 1e-9);
+    EXPECT_EQ(shown[2], 0.1);
+}
+
+TEST_F(GlidingNumberItem, ShowsItsTargetAtOnceWhereItIsNotAnimated) {
+    gliding.setTarget(0.5);
+    gliding.setAnimated(false);
+    gliding.setTarget(0.2);
+    EXPECT_THAT(shown, ElementsAre(0.5, 0.2));
+}
+
+} // namespace
+} // namespace quelby
