@@ -33,9 +33,10 @@ TEST_F(GlidingNumberItem, GlidesFromWhatIsShownAndEndsExactlyAtItsTarget) {
     for (const double progress : {0.0, 0.25, 0.49, 1.0}) {
         gliding.setProgress(progress);
     }
-    ASSERT_EQ(shown.size(), 3);
+    ASSERT_EQ(shown.size(), 4);
     EXPECT_NEAR(shown[1], 0.26875, 1e-9);
-    EXPECT_EQ(shown[2], 0.1);
+    EXPECT_NEAR(shown[2], 0.15, 1e-9);
+    EXPECT_EQ(shown[3], 0.1);
 }
 
 TEST_F(GlidingNumberItem, ShowsItsTargetAtOnceWhereItIsNotAnimated) {
