@@ -84,12 +84,10 @@ def waybar(stage):
         command = ["setpriv", f"--reuid={NOBODY}", f"--regid={NOBODY}", "--clear-groups", "--", *command]
         for path in (folder, *folder.iterdir()):
             os.chown(path, NOBODY, NOBODY)
-        os.chmod(stage.folder, 0o755)
+        os.chmod(stage.folder, 0o711)
     sway = stage.start(*command, env=environment, stderr=stage.log("waybar"))
-    bars = wait_for(lambda: sway.poll() is not None or
-                    [pid for pid in process.family(sway.pid) if process.read(f"/proc/{pid}/comm") == "waybar\n"],
-                    "waybar")
-    return sway.pid if bars is True else bars[0]
+    bars = wait_for(lambda: process.named("waybar") or sway.poll() is not None, "waybar")
+    return sway.pid if bars is True else bars[-1]
 
 
 PEERS = [

@@ -25,6 +25,12 @@ def tasks(pid):
     return [task for member in family(pid) for task in pathlib.Path(f"/proc/{member}/task").glob("*")]
 
 
+def named(name):
+    """All of that name, the latest last."""
+    pids = sorted(int(folder.name) for folder in pathlib.Path("/proc").glob("[0-9]*"))
+    return [pid for pid in pids if read(f"/proc/{pid}/comm") == name + "\n"]
+
+
 def has_ended(pid):
     """Also one that nobody has waited for yet."""
     return read(f"/proc/{pid}/stat").rpartition(")")[2].split()[:1] in ([], ["Z"])

@@ -42,6 +42,7 @@ def apart_from_the_machine():
         command += ["--user", "--map-root-user"]
     if subprocess.run([*command, "true"], capture_output=True, check=False).returncode == 0:
         with tempfile.TemporaryDirectory() as folder:
+            os.chmod(folder, 0o711)  # not everything in it runs as root
             sys.exit(subprocess.run([*command, sys.executable, *sys.argv], check=False,
                                     env=dict(os.environ, TMPDIR=folder, **{APART: "yes"})).returncode)
 

@@ -43,13 +43,15 @@ void StatusNotifierItem::show(const ItemContent& content) {
     const auto toolTipBefore = toolTip();
     const auto former = std::exchange(content_, content);
     menu_.setDisplay(content.display);
-    if (draws(former) || iconName() != nameBefore) {
+    const bool otherIcon = draws(former) || iconName() != nameBefore;
+    const bool otherToolTip = toolTip().title != toolTipBefore.title || toolTip().text != toolTipBefore.text;
+    if (otherIcon) {
         announceIcon();
     }
     if (content.title != former.title) {
         announceLabel();
     }
-    if (toolTip().title != toolTipBefore.title || toolTip().text != toolTipBefore.text) {
+    if (otherToolTip && !(otherIcon && host_.readsAllAtOnce)) {
         announceToolTip();
     }
 }
