@@ -29,10 +29,11 @@ NOBODY = 65534
 
 
 class Peer:
-    def __init__(self, program, start, history=False):
+    def __init__(self, program, start, history=False, blind=False):
         self.program = program
         self.start = start  # on a stage; gives the process
         self.history = history  # whether it records or draws one
+        self.blind = blind  # to any battery but the machine's own
 
 
 def plain(*words):
@@ -91,16 +92,16 @@ def waybar(stage):
 
 
 PEERS = [
-    Peer("xfce4-power-manager", plain("xfce4-power-manager", "--no-daemon"), history=True),
-    Peer("mate-power-manager", plain("mate-power-manager", "--no-daemon"), history=True),
-    Peer("cbatticon", plain("cbatticon", "-u", "3")),
+    Peer("xfce4-power-manager", plain("xfce4-power-manager", "--no-daemon"), blind=True),
+    Peer("mate-power-manager", plain("mate-power-manager", "--no-daemon"), history=True, blind=True),
+    Peer("cbatticon", plain("cbatticon", "-u", "3"), blind=True),
     Peer("waybar", waybar),
     Peer("i3status", i3status),
     Peer("conky", conky),
     Peer("btop", in_terminal("btop", "--utf-force"), history=True),
     Peer("htop", in_terminal("htop", "-d", "30")),
     Peer("top", plain("top", "-b", "-d", "3")),
-    Peer("upowerd", plain("/usr/libexec/upowerd"), history=True),
+    Peer("upowerd", plain("/usr/libexec/upowerd"), history=True, blind=True),
     Peer("powertop", plain("powertop", "--csv=/tmp/powertop.csv", "--time=3", "--iteration=1000")),
 ]
 

@@ -37,7 +37,8 @@ constexpr const char* schema = "CREATE TABLE IF NOT EXISTS readings (\n"
                                "    battery_pct REAL\n"
                                ");";
 
-// Each reading, of some thirty bytes, puts a whole page into the log. A history that is there already keeps its pages.
+// Each reading, of some thirty bytes, puts a whole page into the log. A history that is there already keeps its
+// pages.
 constexpr const char* smallPages = "PRAGMA page_size=512;";
 
 std::string_view tableOf(TimeRange range) {

@@ -7,8 +7,8 @@
 
 namespace quelby {
 
-// What glides to each new value, in a few steps. Whoever animates it runs `progress` evenly from 0 to 1 when the target has
-// changed; where it is not animated, each new value is shown at once.
+// What glides to each new value, in a few steps. Whoever animates it runs `progress` evenly from 0 to 1 when the
+// target has changed; where it is not animated, each new value is shown at once.
 class Gliding : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void progressChanged();
 
 protected:
-    // To a target that is already told; from what is shown, unless nothing was.
+    // To a new target.
     void setOut() { progress_ = animated_ ? 0 : 1; }
 
     [[nodiscard]] double shownProgress() const { return glided(progress_); }

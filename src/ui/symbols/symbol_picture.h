@@ -10,8 +10,8 @@ class QSvgRenderer;
 
 namespace quelby {
 
-// One of the program's own symbols of this folder, read once and drawn as often as it is wanted. A name that no symbol
-// has draws nothing.
+// One of the program's own symbols of this folder, read once and drawn as often as it is wanted. A name that no
+// symbol has draws nothing.
 class SymbolPicture {
 public:
     explicit SymbolPicture(const QString& name);

@@ -13,7 +13,8 @@ using testing::ElementsAre;
 class GlidingNumberItem : public testing::Test {
 protected:
     GlidingNumberItem() {
-        QObject::connect(&gliding, &GlidingNumber::valueChanged, [this] { shown.push_back(gliding.value()); });
+        QObject::connect(&gliding, &GlidingNumber::valueChanged,
+                         [this] { shown.push_back(gliding.value()); });
     }
 
     GlidingNumber gliding;

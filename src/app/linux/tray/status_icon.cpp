@@ -84,8 +84,8 @@ QPainterPath outline(const QFont& font, const QString& title) {
     return path;
 }
 
-// What the compact pictures of one symbol and title have in common. The figure matters more than the symbol: it takes the
-// width, and its height follows from that.
+// What the compact pictures of one symbol and title have in common. The figure matters more than the symbol: it
+// takes the width, and its height follows from that.
 class CompactParts {
 public:
     CompactParts(std::string_view symbolName, const QString& text)
@@ -109,10 +109,11 @@ public:
         const qreal vertical = height / capHeight_;
         const qreal horizontal = std::min(vertical, room / titleBounds_.width());
         const qreal baseline = side - free;
-        painter.fillPath(QTransform::fromTranslate(side / 2.0 - titleBounds_.center().x() * horizontal, baseline)
-                             .scale(horizontal, vertical)
-                             .map(title_),
-                         QColor::fromRgba(ink.ink));
+        painter.fillPath(
+            QTransform::fromTranslate(side / 2.0 - titleBounds_.center().x() * horizontal, baseline)
+                .scale(horizontal, vertical)
+                .map(title_),
+            QColor::fromRgba(ink.ink));
         const qreal below = baseline - height - 1;
         fitSymbol(painter, QRectF(free, free, room, below - free), ink.ink);
         return image;

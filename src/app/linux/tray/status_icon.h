@@ -25,7 +25,8 @@ namespace quelby::app {
 [[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink,
                                  int side);
 
-// The same at each of the sides, for less than one after the other: the symbol is read and the title laid out once.
+// The same at each of the sides, for less than one after the other: the symbol is read and the title laid out
+// once.
 [[nodiscard]] std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view title,
                                                const StatusInk& ink, const std::vector<int>& sides);
 
