@@ -1,7 +1,6 @@
 // Takes what glides to its new target.
 import QtQuick
 import Quelby
-import Quelby.Bridge
 
 NumberAnimation {
     function follow() {
