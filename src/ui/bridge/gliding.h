@@ -7,8 +7,8 @@
 
 namespace quelby {
 
-// What glides to each new value, in a few steps. Whoever animates it runs `progress` evenly from 0 to 1 when the
-// target has changed; where it is not animated, each new value is shown at once.
+// What glides to each new value, in a few steps. Whoever animates it runs `progress` evenly from 0 to 1 when it has
+// departed. Where it is not animated, and where nobody would see it glide, the new value is shown at once.
 class Gliding : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
@@ -40,10 +40,18 @@ public:
 Q_SIGNALS:
     void animatedChanged();
     void progressChanged();
+    void departed();
 
 protected:
-    // To a new target.
-    void setOut() { progress_ = animated_ ? 0 : 1; }
+    // To a new target. What does not glide has its target for its beginning as well, because the glide before it
+    // may still go on.
+    void setOut(bool glides) {
+        progress_ = glides ? 0 : 1;
+        show();
+        if (glides) {
+            Q_EMIT departed();
+        }
+    }
 
     [[nodiscard]] double shownProgress() const { return glided(progress_); }
 

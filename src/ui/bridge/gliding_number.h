@@ -1,12 +1,13 @@
 #pragma once
 
+#include <cmath>
 #include <optional>
 
 #include "ui/bridge/gliding.h"
 
 namespace quelby {
 
-// A part of a whole, say, that glides to each new value. The first one is shown at once.
+// A part of a whole (0 to 1) that glides to each new value. The first one is shown at once.
 // The base is named in full for the tools of QML, which do not look into namespaces.
 class GlidingNumber : public quelby::Gliding {
     Q_OBJECT
@@ -23,10 +24,10 @@ public:
         if (target == target_) {
             return;
         }
-        from_ = target_ ? value_ : target;
+        const bool glides = animated() && target_ && std::abs(target - value_) >= smallestGlide;
+        from_ = glides ? value_ : target;
         target_ = target;
-        setOut();
-        show();
+        setOut(glides);
         Q_EMIT targetChanged();
     }
 

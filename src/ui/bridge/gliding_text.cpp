@@ -8,10 +8,11 @@ void GlidingText::setTarget(const QString& target) {
     if (target == target_) {
         return;
     }
-    from_ = target_.isEmpty() ? target : text_;
+    const auto first = textBetween(text_.toStdString(), target.toStdString(), glided(0));
+    const bool glides = animated() && !target_.isEmpty() && first != target.toStdString();
+    from_ = glides ? text_ : target;
     target_ = target;
-    setOut();
-    show();
+    setOut(glides);
     Q_EMIT targetChanged();
 }
 

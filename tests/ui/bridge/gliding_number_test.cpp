@@ -40,6 +40,19 @@ TEST_F(GlidingNumberItem, GlidesFromWhatIsShownAndEndsExactlyAtItsTarget) {
     EXPECT_EQ(shown[3], 0.1);
 }
 
+TEST_F(GlidingNumberItem, ShowsAtOnceWhatNobodyWouldSeeGlide) {
+    int departures = 0;
+    QObject::connect(&gliding, &GlidingNumber::departed, [&] { ++departures; });
+    gliding.setTarget(0.5);
+    gliding.setTarget(0.509);
+    gliding.setProgress(0); // of a glide before
+    gliding.setProgress(0.5);
+    EXPECT_THAT(shown, ElementsAre(0.5, 0.509));
+    EXPECT_EQ(departures, 0);
+    gliding.setTarget(0.6);
+    EXPECT_EQ(departures, 1);
+}
+
 TEST_F(GlidingNumberItem, ShowsItsTargetAtOnceWhereItIsNotAnimated) {
     gliding.setTarget(0.5);
     gliding.setAnimated(false);

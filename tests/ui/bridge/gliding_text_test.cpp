@@ -59,6 +59,28 @@ TEST_F(GlidingTextItem, IsDrawnInFewStepsEachSmallerThanTheOneBefore) {
     EXPECT_THAT(shown, ElementsAre("0", "578", "875", "984", "1000"));
 }
 
+TEST_F(GlidingTextItem, DepartsOnlyWhereItsFirstStepIsNotItsLast) {
+    int departures = 0;
+    QObject::connect(&gliding, &GlidingText::departed, [&] { ++departures; });
+    gliding.setTarget("10W");
+    gliding.setTarget("11W");
+    gliding.setTarget("full");
+    EXPECT_EQ(departures, 0);
+    EXPECT_THAT(shown, ElementsAre("10W", "11W", "full"));
+    gliding.setTarget("10W");
+    gliding.setTarget("20W");
+    EXPECT_EQ(departures, 1);
+}
+
+TEST_F(GlidingTextItem, KeepsToItsTargetWhileTheGlideBeforeItGoesOn) {
+    gliding.setTarget("10W");
+    gliding.setTarget("20W");
+    gliding.setProgress(0.25);
+    gliding.setTarget("full");
+    gliding.setProgress(0.5);
+    EXPECT_THAT(shown, ElementsAre("10W", "16W", "19W", "full"));
+}
+
 TEST_F(GlidingTextItem, ShowsItsTargetAtOnceWhereItIsNotAnimated) {
     gliding.setTarget("10W");
     gliding.setTarget("20W");

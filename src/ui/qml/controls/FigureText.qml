@@ -15,7 +15,7 @@ InkText {
 
         animated: Theme.animated
         target: figure.content.text
-        onTargetChanged: glide.follow()
+        onDeparted: glide.restart()
     }
 
     Glide {

@@ -3,14 +3,6 @@ import QtQuick
 import Quelby
 
 NumberAnimation {
-    function follow() {
-        if (Theme.animated) {
-            restart()
-        } else {
-            stop()
-        }
-    }
-
     property: "progress"
     from: 0
     to: 1

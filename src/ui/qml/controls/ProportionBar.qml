@@ -27,7 +27,7 @@ Item {
 
         animated: Theme.animated
         target: bar.content.fraction
-        onTargetChanged: glide.follow()
+        onDeparted: glide.restart()
     }
 
     Glide {
