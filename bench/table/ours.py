@@ -22,11 +22,11 @@ class Pace:
 
     def __init__(self, briefly):
         self.rounds = 1 if briefly else 5
-        self.seconds = 1 if briefly else 15  # five cycles
-        self.settling = 1 if briefly else 6
+        self.seconds = 1 if briefly else 9  # three cycles
+        self.settling = 1 if briefly else 5
         self.closed = 0 if briefly else 63  # after which the closed dashboard has been given back
         self.processes = 60 if briefly else 500
-        self.lines = (2, 4) if briefly else (10, 110)
+        self.lines = (2, 4) if briefly else (10, 60)
 
 
 def medians(measured):
