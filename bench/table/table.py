@@ -109,9 +109,9 @@ def main():
     print_goals(goals(measured, disk_hour))
     print(f"\n{JOULES_PER_WAKE_UP * 1000:g} mJ for a wake-up and {JOULES_PER_CPU_SECOND:g} J for a CPU second, as stated here")
     print_programs(measured, others)
-    if not any(pathlib.Path("/sys/class/power_supply").glob("BAT*")):
+    if others and not any(pathlib.Path("/sys/class/power_supply").glob("BAT*")):
         idle = [peer.program for peer in peers.PEERS if peer.blind and peer.program in others]
-        print(f"Without a battery of the machine's own these have nothing to do: {', '.join(idle) or 'none that ran'}")
+        print(f"Without a battery of the machine's own these have nothing to do: {', '.join(idle)}")
     for program, reason in skipped.items():
         print(f"{program} cannot be measured here: {reason}")
 
