@@ -52,8 +52,8 @@ bool withinBounds(const Sizes& evening) {
 
 // After the first days only the hours become more, which are a few pages.
 bool staysSmall(const std::vector<Sizes>& evenings) {
-    constexpr std::uintmax_t page = 4120; // in the log; 4096 in the database
-    constexpr std::uintmax_t hoursBytes = 10 * page;
+    constexpr std::uintmax_t page = 536; // in the log; 512 in the database
+    constexpr std::uintmax_t hoursBytes = 80 * page;
     constexpr std::uintmax_t log = 1100 * page; // it is copied back at a thousand pages
     const auto settled = evenings.at(3).databaseBytes + hoursBytes;
     return std::all_of(evenings.begin(), evenings.end(), [&](const Sizes& evening) {

@@ -38,6 +38,10 @@ constexpr const char* schema = "CREATE TABLE IF NOT EXISTS readings (\n"
                                "    battery_pct REAL\n"
                                ");";
 
+// Each reading, of some thirty bytes, puts a whole page into the log. A history that is there already keeps its
+// pages.
+constexpr const char* smallPages = "PRAGMA page_size=512;";
+
 std::string_view tableOf(TimeRange range) {
     switch (range) {
     case TimeRange::thirtyMinutes:
@@ -95,6 +99,7 @@ HistoryStore::HistoryStore(const std::filesystem::path& applicationSupport, Cloc
     , file_(historyFile(applicationSupport))
     , db_(access == HistoryAccess::recording ? openForRecording(file_) : Connection{}) {
     if (access_ == HistoryAccess::recording && db_) {
+        execute(db_->get(), smallPages);
         execute(db_->get(), "PRAGMA journal_mode=WAL;");
         execute(db_->get(), "PRAGMA synchronous=NORMAL;");
         createTables();

@@ -8,23 +8,17 @@ void GlidingText::setTarget(const QString& target) {
     if (target == target_) {
         return;
     }
-    from_ = target_.isEmpty() ? target : text_;
+    const auto first = textBetween(text_.toStdString(), target.toStdString(), glided(0));
+    const bool glides = animated() && !target_.isEmpty() && first != target.toStdString();
+    from_ = glides ? text_ : target;
     target_ = target;
-    show();
+    setOut(glides);
     Q_EMIT targetChanged();
-}
-
-void GlidingText::setProgress(qreal progress) {
-    if (progress != progress_) {
-        progress_ = progress;
-        show();
-        Q_EMIT progressChanged();
-    }
 }
 
 void GlidingText::show() {
     const auto text =
-        QString::fromStdString(textBetween(from_.toStdString(), target_.toStdString(), progress_));
+        QString::fromStdString(textBetween(from_.toStdString(), target_.toStdString(), shownProgress()));
     if (text != text_) {
         text_ = text;
         Q_EMIT textChanged();

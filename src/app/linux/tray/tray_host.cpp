@@ -40,7 +40,10 @@ TrayHost trayHost(std::string_view processName) {
     if (processName == "waybar") {
         return {.icon = IconForm::wide, .knowsCoordinates = false, .wheel = downByNotch};
     }
-    if (isPluginOfXfce(processName) || processName == "xapp-sn-watcher") {
+    if (isPluginOfXfce(processName)) {
+        return {.readsAllAtOnce = true, .wheel = downByNotch};
+    }
+    if (processName == "xapp-sn-watcher") {
         return {.wheel = downByNotch};
     }
     if (processName == "lxqt-panel") {

@@ -44,6 +44,10 @@ struct TrayHost {
     bool knowsCoordinates = true;
 
     bool readsTipTitle = false; // and nothing else of a tool tip
+
+    // Any signal makes it ask for all properties, pictures and tool tip among them.
+    bool readsAllAtOnce = false;
+
     WheelHabit wheel;
     PanelStyle panel = PanelStyle::unknown;
 

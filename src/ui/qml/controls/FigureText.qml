@@ -13,18 +13,14 @@ InkText {
     GlidingText {
         id: gliding
 
+        animated: Theme.animated
         target: figure.content.text
-        onTargetChanged: Theme.animated ? animation.restart() : animation.complete()
+        onDeparted: glide.restart()
     }
 
-    NumberAnimation {
-        id: animation
+    Glide {
+        id: glide
 
         target: gliding
-        property: "progress"
-        from: 0
-        to: 1
-        duration: Theme.glide
-        easing.type: Easing.OutCubic
     }
 }

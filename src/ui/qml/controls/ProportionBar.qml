@@ -13,7 +13,7 @@ Item {
 
     readonly property color full: Theme.translucent(Theme.fill(content.color), muted ? Theme.mutedOpacity : 1)
     readonly property color pale: graded ? Theme.translucent(full, Theme.paleOpacity) : full
-    property real fraction: content.fraction // on its way to the content's
+    readonly property real fraction: gliding.value // on its way to the content's
 
     implicitHeight: Theme.barHeight
     Accessible.role: Accessible.ProgressBar
@@ -22,13 +22,18 @@ Item {
     Accessible.description: content.percent
     LayoutMirroring.childrenInherit: true
 
-    Behavior on fraction {
-        enabled: Theme.animated
+    GlidingNumber {
+        id: gliding
 
-        NumberAnimation {
-            duration: Theme.glide
-            easing.type: Easing.OutCubic
-        }
+        animated: Theme.animated
+        target: bar.content.fraction
+        onDeparted: glide.restart()
+    }
+
+    Glide {
+        id: glide
+
+        target: gliding
     }
 
     BarItem {

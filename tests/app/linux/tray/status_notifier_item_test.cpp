@@ -164,6 +164,21 @@ TEST_F(ShownItem, SignalsAnIconOnlyWhereWhatIsDrawnChanges) {
     EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon"));
 }
 
+TEST_F(ShownItem, SignalsATitleAndAToolTipThatChangeTogetherOnceToAHostThatReadsAllAnyway) {
+    auto changed = content;
+    changed.title = "-13W";
+    changed.toolTip = "79 % discharging";
+    showAt("panel-6-systray");
+    item.show(changed);
+    EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon"));
+    changed.toolTip = "78 % discharging";
+    item.show(changed);
+    EXPECT_THAT(signalsSoFar(), ElementsAre("NewToolTip"));
+    showAt("xapp-sn-watcher");
+    item.show(changed);
+    EXPECT_THAT(signalsSoFar(), ElementsAre("NewIcon", "NewToolTip"));
+}
+
 TEST_F(ShownItem, WritesItsFileAnewUnderAnotherNameOnlyForAnotherSymbol) {
     showAt("ayatana-indicat");
     const auto first = property("IconName").toString();
