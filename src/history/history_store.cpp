@@ -39,8 +39,9 @@ constexpr const char* schema = "CREATE TABLE IF NOT EXISTS readings (\n"
                                ");";
 
 // Each reading, of some thirty bytes, puts a whole page into the log. A history that is there already keeps its
-// pages.
+// pages. The log is copied after so many pages: some ten minutes.
 constexpr const char* smallPages = "PRAGMA page_size=512;";
+constexpr const char* shortLog = "PRAGMA wal_autocheckpoint=400;";
 
 std::string_view tableOf(TimeRange range) {
     switch (range) {
@@ -102,6 +103,7 @@ HistoryStore::HistoryStore(const std::filesystem::path& applicationSupport, Cloc
         execute(db_->get(), smallPages);
         execute(db_->get(), "PRAGMA journal_mode=WAL;");
         execute(db_->get(), "PRAGMA synchronous=NORMAL;");
+        execute(db_->get(), shortLog);
         createTables();
     }
 }

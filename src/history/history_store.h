@@ -13,9 +13,9 @@
 // such a run whole or not at all.
 //
 // How durable, how costly: the database is in write-ahead mode, and the log is flushed to the disk only when
-// it is copied into the database, about every thousand pages (once or twice an hour), not with each
+// it is copied into the database, every four hundred pages (about five times an hour), not with each
 // reading. A recorder that is killed loses at most the reading in flight. A machine that loses its power may
-// lose the readings since the last copy, half an hour or so, but never the database. Pages are as small as
+// lose the readings since the last copy, some ten minutes, but never the database. Pages are as small as
 // SQLite has them, because each reading writes one: an hour of recording writes a megabyte.
 //
 // Who only reads opens the history anew for each answer. So a history that a recorder begins later is found,

@@ -11,7 +11,7 @@ using testing::SizeIs;
 
 class DamagedHistory : public HistoryTest {
 protected:
-    static constexpr std::size_t page = 4096; // bytes
+    static constexpr std::size_t page = 512; // bytes
 
     // Two hours of readings and their means, in a file at rest.
     void recordAFewHours() {

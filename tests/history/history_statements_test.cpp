@@ -20,25 +20,25 @@ protected:
 };
 
 TEST_F(HistoryStatements, OfAnOpeningMakeTheTables) {
-    EXPECT_THAT(log.take(),
-                ElementsAre("PRAGMA page_size=512;", "PRAGMA journal_mode=WAL;", "PRAGMA synchronous=NORMAL;",
-                            "CREATE TABLE IF NOT EXISTS readings (\n"
-                            "    timestamp INTEGER PRIMARY KEY,\n"
-                            "    watts REAL NOT NULL,\n"
-                            "    battery_pct INTEGER,\n"
-                            "    is_charging INTEGER,\n"
-                            "    cpu_usage REAL\n"
-                            ");",
-                            "CREATE TABLE IF NOT EXISTS minute_avg (\n"
-                            "    timestamp INTEGER PRIMARY KEY,\n"
-                            "    watts REAL NOT NULL,\n"
-                            "    battery_pct REAL\n"
-                            ");",
-                            "CREATE TABLE IF NOT EXISTS hour_avg (\n"
-                            "    timestamp INTEGER PRIMARY KEY,\n"
-                            "    watts REAL NOT NULL,\n"
-                            "    battery_pct REAL\n"
-                            ");"));
+    EXPECT_THAT(log.take(), ElementsAre("PRAGMA page_size=512;", "PRAGMA journal_mode=WAL;",
+                                        "PRAGMA synchronous=NORMAL;", "PRAGMA wal_autocheckpoint=400;",
+                                        "CREATE TABLE IF NOT EXISTS readings (\n"
+                                        "    timestamp INTEGER PRIMARY KEY,\n"
+                                        "    watts REAL NOT NULL,\n"
+                                        "    battery_pct INTEGER,\n"
+                                        "    is_charging INTEGER,\n"
+                                        "    cpu_usage REAL\n"
+                                        ");",
+                                        "CREATE TABLE IF NOT EXISTS minute_avg (\n"
+                                        "    timestamp INTEGER PRIMARY KEY,\n"
+                                        "    watts REAL NOT NULL,\n"
+                                        "    battery_pct REAL\n"
+                                        ");",
+                                        "CREATE TABLE IF NOT EXISTS hour_avg (\n"
+                                        "    timestamp INTEGER PRIMARY KEY,\n"
+                                        "    watts REAL NOT NULL,\n"
+                                        "    battery_pct REAL\n"
+                                        ");"));
 }
 
 TEST_F(HistoryStatements, OfAReadingThatAggregatesHaveWholeSecondsAsBounds) {

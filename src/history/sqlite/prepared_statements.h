@@ -41,8 +41,10 @@ private:
         Statement& statement;
 
         explicit ResetAtEnd(Statement& which) : statement(which) {}
+
         ResetAtEnd(const ResetAtEnd&) = delete;
         ResetAtEnd& operator=(const ResetAtEnd&) = delete;
+
         ~ResetAtEnd() { statement.reset(); }
     };
 

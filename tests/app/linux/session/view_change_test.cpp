@@ -61,7 +61,8 @@ TEST_F(ViewChangeTest, IsNoneOfTheShellsOtherProperties) {
 
 TEST_F(ViewChangeTest, IsAnotherDesktopOfPlasmaAndNotThatThereIsOneMore) {
     const auto signal = [](const char* name) {
-        return QDBusMessage::createSignal("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager", name);
+        return QDBusMessage::createSignal("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager",
+                                          name);
     };
     EXPECT_EQ(changesAfter(signal("currentChanged"), {"00ed6bb5-7ffa-40fa-b9dd-ccf0c32bbac1"}), 1);
     EXPECT_EQ(changesAfter(signal("countChanged"), {3U}), 0);
