@@ -6,7 +6,7 @@ namespace {
 using HistoryDays = HistoryTest;
 
 TEST_F(HistoryDays, KeepTablesAndFilesWithinTheirBounds) {
-    constexpr int step = 60;
+    constexpr int step = 120;
     constexpr std::uintmax_t page = 512;
     std::uintmax_t settled = 0;
     for (double start = noon; start < noon + 3 * day; start += 6 * hour) {
