@@ -25,13 +25,14 @@ std::string recording(const char* name) {
     return std::string(QUELBY_SOURCE_DIR "/resources/recordings/") + name + ".jsonl";
 }
 
+const std::string program = QUELBY_BINARY_DIR "/quelby";
+
 class QuelbyScreenshot : public testing::Test {
 protected:
     // As in a session that has no display at all.
     [[nodiscard]] ProgramResult quelby(const std::vector<std::string>& more) const {
-        std::vector<std::string> words{
-            "/usr/bin/env",    "-u", "DISPLAY",         "-u",
-            "WAYLAND_DISPLAY", "-u", "XDG_RUNTIME_DIR", QUELBY_BINARY_DIR "/quelby"};
+        std::vector<std::string> words{"/usr/bin/env",    "-u", "DISPLAY",         "-u",
+                                       "WAYLAND_DISPLAY", "-u", "XDG_RUNTIME_DIR", program};
         words.insert(words.end(), more.begin(), more.end());
         auto environment = plainEnvironment();
         environment["TMPDIR"] = temporaryFiles;
@@ -157,9 +158,9 @@ TEST_F(QuelbyScreenshot, WritesNoHistoryButItsPicture) {
 }
 
 TEST_F(QuelbyScreenshot, LeavesTheHistoryAsItIs) {
-    const auto words =
-        std::vector<std::string>{QUELBY_BINARY_DIR "/quelby",       "--headless", "--fast",     "--replay",
-                                 recording("laptop-held-at-limit"), "--data-dir", folder.path()};
+    const auto words = std::vector<std::string>{
+        program,      "--headless", "--fast", "--replay", recording("laptop-held-at-limit"),
+        "--data-dir", folder.path()};
     ASSERT_EQ(runProgram(words, plainEnvironment()).exitStatus, 0);
     const auto before = folder.read("Quelby/history.db");
     static_cast<void>(drawn({"--data-dir", folder.path()}));

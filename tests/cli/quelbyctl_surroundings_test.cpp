@@ -15,6 +15,8 @@ namespace {
 using testing::HasSubstr;
 using testing::IsEmpty;
 
+const std::string recordingProgram = QUELBY_BINARY_DIR "/quelby";
+
 class QuelbyctlSurroundings : public testing::Test {
 protected:
     [[nodiscard]] std::vector<std::vector<std::string>> everyCommand() const {
@@ -42,8 +44,8 @@ protected:
     // A history of it, for the commands that read one.
     void record(const std::string& content) {
         recording = folder.write("it.jsonl", content);
-        const auto recorder = runProgram({QUELBY_BINARY_DIR "/quelby", "--headless", "--fast", "--replay",
-                                          recording, "--data-dir", folder.path() / "data"},
+        const auto recorder = runProgram({recordingProgram, "--headless", "--fast", "--replay", recording,
+                                          "--data-dir", folder.path() / "data"},
                                          plainEnvironment());
         EXPECT_EQ(recorder.exitStatus, 0);
     }

@@ -52,7 +52,7 @@ protected:
     }
 
     [[nodiscard]] static bool has(const Left& left, int reading) {
-        return left.kept.contains(noonSecond + reading * step);
+        return left.kept.contains(noonSecond + std::int64_t{reading} * step);
     }
 
     Left whole = record(nullptr);

@@ -67,9 +67,9 @@ TEST(KilledAtEachChange, ARecorderLosesOnlyTheReadingInFlight) {
         const auto [kept, minutes, hours] = database.tables();
         EXPECT_EQ(kept.rbegin()->second.watts, 99);
         for (int i = 0; i < readings && changes[static_cast<std::size_t>(i)] <= change; ++i) {
-            EXPECT_TRUE(kept.contains(noonSecond + i * step)) << i;
+            EXPECT_TRUE(kept.contains(noonSecond + std::int64_t{i} * step)) << i;
         }
-        EXPECT_EQ(minutes.at(noonSecond + readings * step / 60 * 60).watts, 99); // made up for
+        EXPECT_EQ(minutes.at(noonSecond + std::int64_t{readings} * step / 60 * 60).watts, 99); // made up for
         EXPECT_EQ(hours.size(), 1U);
     }
 }

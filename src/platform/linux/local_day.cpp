@@ -8,7 +8,7 @@ namespace quelby {
 
 namespace {
 
-constexpr std::time_t longestDay = 27 * 60 * 60; // clocks have gone back by three hours at most
+constexpr std::time_t longestDay = std::time_t{27} * 60 * 60; // clocks have gone back by three hours at most
 
 // How far the clocks are ahead of UTC, in seconds; nothing for a moment beyond the calendar.
 std::optional<std::time_t> offsetAt(std::time_t moment) {
@@ -39,7 +39,7 @@ double startOfLocalDay(double moment) {
     if (!offset) {
         return moment;
     }
-    constexpr std::time_t day = 24 * 60 * 60;
+    constexpr std::time_t day = std::time_t{24} * 60 * 60;
     const auto shown = seconds + *offset;
     const auto midnight = shown - ((shown % day) + day) % day;
     // Of two midnights the clocks went back after the first, so that is at the earlier offset.

@@ -81,6 +81,8 @@ DesktopAppearance::DesktopAppearance(const QString& configurationFolder, std::fu
     , settings_{.portal = {},
                 .x = {},
                 .stored = storedSettings(configurationFolder),
+                .isGnome =
+                    qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':').contains(QLatin1String("GNOME")),
                 .file = settingsOfFiles(configurationFolder)} {
     portal_.addWatchedService(portalService);
     portal_.setWatchMode(QDBusServiceWatcher::WatchForRegistration);

@@ -14,9 +14,10 @@ std::optional<Value> said(const DesktopSettings& settings, std::optional<Value> 
     return portal ? portal : settings.stored.*what;
 }
 
-// A desktop that shares its settings by X11 has a theme of its own, and what is stored is another desktop's.
+// A desktop that shares its settings by X11 has a theme of its own, and what is stored is another desktop's; but GNOME
+// shares those that it stores.
 std::uint32_t colorScheme(const DesktopSettings& settings) {
-    const bool mayBeStored = !settings.x.text("Net/ThemeName");
+    const bool mayBeStored = settings.isGnome || !settings.x.text("Net/ThemeName");
     const auto stored = mayBeStored ? settings.stored.colorScheme : std::nullopt;
     return settings.portal.colorScheme.value_or(stored.value_or(0));
 }

@@ -29,6 +29,7 @@ struct DesktopSettings {
     PortalSettings portal;
     XSettings x;
     PortalSettings stored = {}; // GNOME's, of which also other desktops make use where there is no portal
+    bool isGnome = false;       // the desktop at work
     ToolkitSettings file;
 
     bool operator==(const DesktopSettings&) const = default;
