@@ -18,6 +18,8 @@ for_window [app_id="foot"] floating enable, resize set 400 300, move position 40
 focus_follows_mouse no
 """
 
+BACKGROUND = bytes.fromhex("336655")
+
 BAR = '{{"position": "{edge}", "height": 30, "modules-right": ["tray"], "tray": {{"icon-size": 21}}}}'
 
 STYLE = "* {{ font-family: sans-serif; font-size: 13px; }} window {{ background: #222222; color: #ffffff; }}"
@@ -65,6 +67,7 @@ class Sway:
                 if name in ("WAYLAND_DISPLAY", "DISPLAY"):
                     environment[name] = value
         self.pointer = VirtualPointer(socket_path(environment))
+        assert eventually(lambda: self.picture().pixels.startswith(BACKGROUND)), "the background does not come"
         empty = self.picture()
         self.session.start(["waybar"])
         assert eventually(lambda: empty.difference(self.picture())), "the bar does not start"
