@@ -24,8 +24,8 @@ public:
 
     // In the form of the top listing, in any order, a line for each process that has used CPU time: its share,
     // a blank, and the name of its application as people know it, which may stand in several lines; a process
-    // that belongs to no application stands under its short name. To be asked for behind the other two, and from the same scan. Nothing where this system
-    // does not tell which process belongs to which application.
+    // that belongs to no application stands under its short name. To be asked for behind the other two, and
+    // from the same scan. Nothing where this system does not tell which process belongs to which application.
     [[nodiscard]] virtual std::optional<std::string> applicationListing() { return std::nullopt; }
 
     // Configured logical processors, sleeping ones included; at least 1.
