@@ -53,11 +53,16 @@ class Session:
             for folder, _, files in os.walk(self.folder):
                 for path in [folder] + [os.path.join(folder, name) for name in files]:
                     os.chown(path, NOBODY, NOBODY)
+        self.start_bus()
+        return self
+
+    def start_bus(self):
         bus = self.path("run/bus")
+        if os.path.exists(bus):
+            os.remove(bus)  # of a session that has ended
         self.start(["dbus-daemon", "--session", "--nofork", f"--address=unix:path={bus}"])
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={bus}"
         assert eventually(lambda: os.path.exists(bus)), "the bus does not start"
-        return self
 
     def __exit__(self, *_):
         for process in reversed(self.processes):
