@@ -4,6 +4,9 @@
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QQuickWindow>
+
+#include "ui/presentation/elements/filled_width.h"
 
 namespace quelby {
 
@@ -23,10 +26,17 @@ BarItem::BarItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
 
 void BarItem::setFraction(qreal fraction) {
     if (fraction != fraction_) {
+        const bool looksDifferent = filled(fraction) != filled(fraction_);
         fraction_ = fraction;
-        update();
+        if (looksDifferent) {
+            update();
+        }
         Q_EMIT fractionChanged();
     }
+}
+
+qreal BarItem::filled(qreal fraction) const {
+    return filledWidth(fraction, width(), window() ? window()->effectiveDevicePixelRatio() : 1);
 }
 
 void BarItem::setFromRight(bool fromRight) {
@@ -47,18 +57,18 @@ void BarItem::setColor(QColor& which, const QColor& color) {
 
 void BarItem::paint(QPainter* painter) {
     const QRectF whole = boundingRect();
-    QRectF filled = whole;
-    filled.setWidth(whole.width() * fraction_);
+    QRectF fill = whole;
+    fill.setWidth(filled(fraction_));
     if (fromRight_) {
-        filled.moveRight(whole.right());
+        fill.moveRight(whole.right());
     }
     painter->setPen(Qt::NoPen);
     drawPill(*painter, whole, track_);
-    if (filled.width() > 0) {
-        QLinearGradient gradient(filled.topLeft(), filled.topRight());
+    if (fill.width() > 0) {
+        QLinearGradient gradient(fill.topLeft(), fill.topRight());
         gradient.setColorAt(fromRight_ ? 1 : 0, first_);
         gradient.setColorAt(fromRight_ ? 0 : 1, last_);
-        drawPill(*painter, filled, gradient);
+        drawPill(*painter, fill, gradient);
     }
 }
 

@@ -48,6 +48,7 @@ Q_SIGNALS:
     void fromRightChanged();
 
 private:
+    [[nodiscard]] qreal filled(qreal fraction) const; // points, in whole pixels
     void setColor(QColor& which, const QColor& color);
 
     qreal fraction_ = 0;

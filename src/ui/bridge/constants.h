@@ -7,6 +7,7 @@
 
 #include "platform/interface_font.h"
 #include "ui/presentation/elements/metrics.h"
+#include "ui/presentation/elements/sight.h"
 #include "ui/presentation/energy/energy_words.h"
 #include "ui/presentation/text/words.h"
 
@@ -28,6 +29,11 @@ public:
     // The system's, or else the dashboard's own.
     [[nodiscard]] static QString family() {
         return QString::fromStdString(interfaceFontFamily().value_or(std::string(fontFamily)));
+    }
+
+    [[nodiscard]] Q_INVOKABLE static bool isInSight(double top, double height, double padding, double seenTop,
+                                                    double seenHeight) {
+        return quelby::isInSight(top, height, padding, seenTop, seenHeight);
     }
 };
 

@@ -60,8 +60,8 @@ void DashboardModel::refreshLater() {
 }
 
 template <typename Value, typename Record>
-void DashboardModel::renew(Value& held, Record coming, Changed changed) {
-    if (held.present() && *held == coming) {
+void DashboardModel::renew(Value& held, Record coming, Changed changed, bool followed) {
+    if (held.present() && (!followed || *held == coming)) {
         return;
     }
     held = Value(std::move(coming));
@@ -69,9 +69,9 @@ void DashboardModel::renew(Value& held, Record coming, Changed changed) {
 }
 
 template <typename Value, typename Record>
-void DashboardModel::renew(Value& held, std::optional<Record> coming, Changed changed) {
+void DashboardModel::renew(Value& held, std::optional<Record> coming, Changed changed, bool followed) {
     if (coming) {
-        renew(held, std::move(*coming), changed);
+        renew(held, std::move(*coming), changed, followed);
     } else if (held.present()) {
         held = Value();
         Q_EMIT(this->*changed)();
@@ -96,7 +96,7 @@ void DashboardModel::refreshDashboard() {
     auto content = dashboard(*monitor_, clock_.now(), systemWords());
     renew(header_, std::move(content.header), &DashboardModel::headerChanged);
 #define QUELBY_RENEW_CARD(kind, type, name)                                                                  \
-    renew(name##_, std::move(content.name), &DashboardModel::name##Changed);
+    renew(name##_, std::move(content.name), &DashboardModel::name##Changed, readOut_ || inSight_.name);
     QUELBY_CARDS(QUELBY_RENEW_CARD)
 #undef QUELBY_RENEW_CARD
 }
@@ -111,6 +111,21 @@ void DashboardModel::refreshEnergy() {
     auto content = energyPanel(energyReport_, *monitor_, monitor_->minutesToLimit());
     renew(header_, content.header, &DashboardModel::headerChanged);
     renew(energy_, std::move(content), &DashboardModel::energyChanged);
+}
+
+// Before the next frame, which is drawn in another turn.
+void DashboardModel::setInSight(bool& card, bool seen) {
+    if (seen && !card) {
+        refreshLater();
+    }
+    card = seen;
+}
+
+void DashboardModel::setReadOut(bool readOut) {
+    if (readOut && !readOut_) {
+        refreshLater();
+    }
+    readOut_ = readOut;
 }
 
 void DashboardModel::loadEnergy(EnergyRange range) {

@@ -2,7 +2,9 @@
 // ask for.
 //
 // However many fields change in one turn of the event loop, each card is made anew once, after it, and only
-// the cards that came out different notify. While nobody watches, nothing is observed, made or notified.
+// the cards that came out different notify. While nobody watches, nothing is observed, made or notified. A card that
+// nobody sees comes and goes, but keeps what it says until it comes into sight, unless somebody has the dashboard
+// read out.
 #pragma once
 
 #include <functional>
@@ -18,6 +20,16 @@
 // What the model has for each card: a property, which is absent while the card is not shown.
 #define QUELBY_CARD_PROPERTY(kind, type, name)                                                               \
     Q_PROPERTY(quelby::type##Value name READ name NOTIFY name##Changed)
+// Whether it is seen, which the view says: all are taken to be at first.
+#define QUELBY_CARD_SIGHT(kind, type, name)                                                                  \
+    Q_PROPERTY(bool name##InSight READ name##InSight WRITE name##InSight)
+#define QUELBY_CARD_SIGHT_ACCESS(kind, type, name)                                                           \
+    [[nodiscard]] bool name##InSight() const {                                                               \
+        return inSight_.name;                                                                                \
+    }                                                                                                        \
+    void name##InSight(bool seen) {                                                                          \
+        setInSight(inSight_.name, seen);                                                                     \
+    }
 #define QUELBY_CARD_READER(kind, type, name)                                                                 \
     [[nodiscard]] type##Value name() const {                                                                 \
         return name##_;                                                                                      \
@@ -25,7 +37,13 @@
 #define QUELBY_CARD_SIGNAL(kind, type, name) void name##Changed();
 #define QUELBY_CARD_HELD(kind, type, name) type##Value name##_;
 
+#define QUELBY_CARD_IN_SIGHT(kind, type, name) bool name = true;
+
 namespace quelby {
+
+struct CardsInSight {
+    QUELBY_CARDS(QUELBY_CARD_IN_SIGHT)
+};
 
 // What the dashboard asks of the program around it.
 struct ProgramActions {
@@ -45,6 +63,7 @@ class DashboardModel : public QObject {
 
     Q_PROPERTY(quelby::HeaderValue header READ header NOTIFY headerChanged)
     QUELBY_CARDS(QUELBY_CARD_PROPERTY)
+    QUELBY_CARDS(QUELBY_CARD_SIGHT)
     Q_PROPERTY(quelby::SettingsPanelValue settings READ settings NOTIFY settingsChanged)
     Q_PROPERTY(quelby::EnergyPanelValue energy READ energy NOTIFY energyChanged)
     Q_PROPERTY(quelby::LabelValue quitButton READ quitButton CONSTANT)
@@ -63,6 +82,9 @@ public:
 
     void setWatched(bool watched);
 
+    // Somebody has it read out, and comes to cards out of sight as well.
+    void setReadOut(bool readOut);
+
     [[nodiscard]] bool areSettingsShown() const { return settingsShown_; }
 
     void setSettingsShown(bool shown);
@@ -75,6 +97,7 @@ public:
     [[nodiscard]] HeaderValue header() const { return header_; }
 
     QUELBY_CARDS(QUELBY_CARD_READER)
+    QUELBY_CARDS(QUELBY_CARD_SIGHT_ACCESS)
 
     [[nodiscard]] SettingsPanelValue settings() const { return settings_; }
 
@@ -124,12 +147,13 @@ private:
     void refreshSettings();
     void refreshEnergy();
     void loadEnergy(EnergyRange range);
+    void setInSight(bool& card, bool seen);
 
-    // Holds what is coming, if it says something else, and tells so.
+    // Holds what is coming, if it says something else and is followed, and tells so.
     template <typename Value, typename Record>
-    void renew(Value& held, Record coming, Changed changed);
+    void renew(Value& held, Record coming, Changed changed, bool followed = true);
     template <typename Value, typename Record>
-    void renew(Value& held, std::optional<Record> coming, Changed changed);
+    void renew(Value& held, std::optional<Record> coming, Changed changed, bool followed = true);
 
     std::shared_ptr<PowerMonitor> monitor_;
     Clock& clock_;
@@ -140,6 +164,8 @@ private:
     bool shouldShowChargingTip_ = false;
     HeaderValue header_;
     QUELBY_CARDS(QUELBY_CARD_HELD)
+    CardsInSight inSight_;
+    bool readOut_ = false;
     SettingsPanelValue settings_;
     bool energyShown_ = false;
     EnergyReport energyReport_;

@@ -1,65 +1,79 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <qqmlintegration.h>
 
+#include "ui/bridge/glide_clock.h"
 #include "ui/presentation/elements/glide.h"
 
 namespace quelby {
 
-// What glides to each new value, in a few steps. Whoever animates it runs `progress` evenly from 0 to 1 when it has
-// departed. Where it is not animated, and where nobody would see it glide, the new value is shown at once.
+// What glides to each new value, a step further with each beat of its clock. Where it has no clock, and where nobody
+// would see it glide, the new value is shown at once.
 class Gliding : public QObject {
     Q_OBJECT
     QML_ANONYMOUS
-    Q_PROPERTY(bool animated READ animated WRITE setAnimated NOTIFY animatedChanged)
-    Q_PROPERTY(qreal progress READ progress WRITE setProgress NOTIFY progressChanged)
+    Q_PROPERTY(quelby::GlideClock* clock READ clock WRITE setClock NOTIFY clockChanged) // may be null
 
 public:
     using QObject::QObject;
 
-    [[nodiscard]] bool animated() const { return animated_; }
+    [[nodiscard]] GlideClock* clock() const { return clock_; }
 
-    void setAnimated(bool animated) {
-        if (animated != animated_) {
-            animated_ = animated;
-            Q_EMIT animatedChanged();
+    // Without one, what is under way is there at once.
+    void setClock(GlideClock* clock) {
+        if (clock == clock_) {
+            return;
         }
-    }
-
-    [[nodiscard]] qreal progress() const { return progress_; }
-
-    void setProgress(qreal progress) {
-        if (progress != progress_) {
-            progress_ = progress;
-            show();
-            Q_EMIT progressChanged();
+        if (clock_) {
+            clock_->disconnect(this);
         }
+        clock_ = clock;
+        if (clock_) {
+            QObject::connect(clock_, &GlideClock::beat, this, &Gliding::advance);
+        } else {
+            arrive();
+        }
+        Q_EMIT clockChanged();
     }
 
 Q_SIGNALS:
-    void animatedChanged();
-    void progressChanged();
-    void departed();
+    void clockChanged();
 
 protected:
-    // To a new target. What does not glide has its target for its beginning as well, because the glide before it
-    // may still go on.
+    [[nodiscard]] bool canGlide() const { return clock_ != nullptr; }
+
+    // To a new target.
     void setOut(bool glides) {
-        progress_ = glides ? 0 : 1;
+        steps_ = glides ? 1 : glideSteps;
         show();
         if (glides) {
-            Q_EMIT departed();
+            clock_->start();
         }
     }
 
-    [[nodiscard]] double shownProgress() const { return glided(progress_); }
+    [[nodiscard]] double shownProgress() const { return glided(steps_); }
 
     virtual void show() = 0;
 
 private:
-    bool animated_ = true;
-    qreal progress_ = 1;
+    void advance() {
+        if (steps_ < glideSteps) {
+            ++steps_;
+            show();
+        }
+    }
+
+    void arrive() {
+        if (steps_ < glideSteps) {
+            steps_ = glideSteps;
+            show();
+        }
+    }
+
+    QPointer<GlideClock> clock_;
+    int steps_ = glideSteps; // of the last glide that are shown
 };
 
 } // namespace quelby

@@ -24,7 +24,7 @@ public:
         if (target == target_) {
             return;
         }
-        const bool glides = animated() && target_ && std::abs(target - value_) >= smallestGlide;
+        const bool glides = canGlide() && target_ && std::abs(target - value_) >= smallestGlide;
         from_ = glides ? value_ : target;
         target_ = target;
         setOut(glides);

@@ -8,8 +8,8 @@ void GlidingText::setTarget(const QString& target) {
     if (target == target_) {
         return;
     }
-    const auto first = textBetween(text_.toStdString(), target.toStdString(), glided(0));
-    const bool glides = animated() && !target_.isEmpty() && first != target.toStdString();
+    const auto first = textBetween(text_.toStdString(), target.toStdString(), glided(1));
+    const bool glides = canGlide() && !target_.isEmpty() && first != target.toStdString();
     from_ = glides ? text_ : target;
     target_ = target;
     setOut(glides);

@@ -191,6 +191,8 @@ FocusScope {
 
             DashboardCards {
                 dashboard: view.dashboard
+                seenTop: scroll.contentY - column.y - y
+                seenHeight: scroll.height
                 visible: !view.showSettings && !view.showEnergy
                 Layout.fillWidth: true
                 onEnergyWanted: view.showEnergy = true

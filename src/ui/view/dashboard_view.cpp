@@ -63,10 +63,17 @@ DashboardView::DashboardView(DashboardModel& model, Appearance appearance) : mod
     QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt/qml/Quelby/ContentView.qml")));
     failIfBroken(component);
     item_ = makeItem(component, model, appearance);
+    QAccessible::installActivationObserver(this);
+    accessibilityActiveChanged(QAccessible::isActive());
 }
 
 DashboardView::~DashboardView() {
+    QAccessible::removeActivationObserver(this);
     model_.setWatched(false);
+}
+
+void DashboardView::accessibilityActiveChanged(bool active) {
+    model_.setReadOut(active);
 }
 
 void DashboardView::setWatched(bool watched) {

@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include <QAccessible>
 #include <QQmlEngine>
 #include <QQuickItem>
 
@@ -22,13 +23,13 @@ enum class ViewFrame {
     rounded,  // a line with round corners, behind which everything is clear
 };
 
-class DashboardView {
+class DashboardView : private QAccessible::ActivationObserver {
 public:
     // The model outlives the view. Nothing is observed until the view is watched.
     DashboardView(DashboardModel& model, Appearance appearance);
     DashboardView(const DashboardView&) = delete;
     DashboardView& operator=(const DashboardView&) = delete;
-    ~DashboardView();
+    ~DashboardView() override;
 
     // Owned by this object; whoever shows it gives it a parent.
     [[nodiscard]] QQuickItem& item() const { return *item_; }
@@ -47,6 +48,8 @@ public:
     void scrollTo(double top);
 
 private:
+    void accessibilityActiveChanged(bool active) override;
+
     DashboardModel& model_;
     QQmlEngine engine_;
     std::unique_ptr<QQuickItem> item_;

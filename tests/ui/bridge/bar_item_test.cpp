@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QQuickWindow>
 #include <gtest/gtest.h>
 
 #include "ui/support/printing.h"
@@ -47,6 +48,35 @@ TEST(BarItem, BeginsAtTheSideWherePeopleBeginToRead) {
     EXPECT_EQ(paintedBar(0.25, 1).pixelColor(25, 5), QColor(Qt::green));
     EXPECT_EQ(paintedBar(0.25, 1, true).pixelColor(25, 5), QColor(Qt::lightGray));
     EXPECT_EQ(paintedBar(0.25, 1, true).pixelColor(175, 5), QColor(Qt::green));
+}
+
+class CountingBar : public BarItem {
+public:
+    void paint(QPainter* painter) override {
+        ++paints;
+        BarItem::paint(painter);
+    }
+
+    int paints = 0;
+};
+
+TEST(BarItem, IsDrawnAnewOnlyWhereItLooksDifferent) {
+    QQuickWindow window;
+    window.resize(barSize);
+    CountingBar bar;
+    bar.setParentItem(window.contentItem());
+    bar.setSize(barSize);
+    window.show();
+    const auto paintsFor = [&](double fraction) {
+        bar.setFraction(fraction);
+        static_cast<void>(window.grabWindow());
+        return std::exchange(bar.paints, 0);
+    };
+    EXPECT_GT(paintsFor(0.5), 0);
+    EXPECT_EQ(paintsFor(0.502), 0);
+    EXPECT_EQ(bar.fraction(), 0.502);
+    EXPECT_EQ(paintsFor(0.505), 1);
+    bar.setParentItem(nullptr);
 }
 
 TEST(BarItem, HasNoSlitAtAnyScale) {

@@ -192,6 +192,46 @@ TEST_F(DashboardModelTest, KeepsTheRecordOfACardThatSaysTheSame) {
     EXPECT_NE(&*model.battery(), battery);
 }
 
+TEST_F(DashboardModelTest, LeavesCardsOutOfSightAsTheyAreWhileTheyAreThere) {
+    fillEveryCard(monitor);
+    watch();
+    model.batteryInSight(false);
+    monitor.batteryPercent = 12;
+    monitor.cpuUsage = 50;
+    EXPECT_THAT(atTheEndOfTheTurn(), UnorderedElementsAre(Pair("components", 1), Pair("details", 1)));
+    EXPECT_EQ(model.battery()->level.text, "72%");
+    monitor.hasBattery = false;
+    finishTurn();
+    EXPECT_FALSE(model.battery().present());
+    monitor.hasBattery = true;
+    finishTurn();
+    EXPECT_EQ(model.battery()->level.text, "12%");
+}
+
+TEST_F(DashboardModelTest, RenewsACardBeforeItIsSeen) {
+    fillEveryCard(monitor);
+    watch();
+    model.batteryInSight(false);
+    monitor.batteryPercent = 12;
+    static_cast<void>(atTheEndOfTheTurn());
+    model.batteryInSight(true);
+    EXPECT_THAT(atTheEndOfTheTurn(), ElementsAre(Pair("battery", 1)));
+    EXPECT_EQ(model.battery()->level.text, "12%");
+    model.batteryInSight(true);
+    EXPECT_THAT(atTheEndOfTheTurn(), IsEmpty());
+}
+
+TEST_F(DashboardModelTest, HasEveryCardFollowWhereItIsReadOut) {
+    watch();
+    model.batteryInSight(false);
+    model.setReadOut(true);
+    monitor.batteryPercent = 12;
+    EXPECT_EQ(atTheEndOfTheTurn()["battery"], 1);
+    model.setReadOut(false);
+    monitor.batteryPercent = 13;
+    EXPECT_EQ(atTheEndOfTheTurn()["battery"], 0);
+}
+
 TEST_F(DashboardModelTest, MakesOnlyTheSideThatIsShown) {
     watch();
     model.setSettingsShown(true);

@@ -15,24 +15,26 @@ using testing::IsEmpty;
 class GlidingTextItem : public testing::Test {
 protected:
     GlidingTextItem() {
+        clock.setTimed(false);
+        gliding.setClock(&clock);
         QObject::connect(&gliding, &GlidingText::textChanged,
                          [this] { shown.push_back(gliding.text().toStdString()); });
     }
 
-    // As an animation does it.
     void glide() {
-        for (const double progress : {0.0, 0.5, 1.0}) {
-            gliding.setProgress(progress);
+        while (clock.isRunning()) {
+            clock.tick();
         }
     }
 
+    GlideClock clock;
     GlidingText gliding;
     std::vector<std::string> shown;
 };
 
 TEST_F(GlidingTextItem, ShowsItsFirstTextAtOnce) {
     gliding.setTarget("10W");
-    glide();
+    EXPECT_FALSE(clock.isRunning());
     EXPECT_THAT(shown, ElementsAre("10W"));
 }
 
@@ -40,53 +42,49 @@ TEST_F(GlidingTextItem, GlidesFromWhatIsShownAndEndsExactlyAtItsTarget) {
     gliding.setTarget("10W");
     gliding.setTarget("20W");
     glide();
-    EXPECT_THAT(shown, ElementsAre("10W", "16W", "20W"));
-    gliding.setTarget("36W");
-    gliding.setProgress(0.25);
-    EXPECT_EQ(gliding.text(), "34W");
+    EXPECT_THAT(shown, ElementsAre("10W", "16W", "19W", "20W"));
+    gliding.setTarget("38W");
+    clock.tick();
+    EXPECT_EQ(gliding.text(), "36W");
     gliding.setTarget("0W"); // on its way
-    EXPECT_EQ(gliding.text(), "14W");
-    gliding.setProgress(1);
+    EXPECT_EQ(gliding.text(), "16W");
+    glide();
     EXPECT_EQ(gliding.text(), "0W");
 }
 
 TEST_F(GlidingTextItem, IsDrawnInFewStepsEachSmallerThanTheOneBefore) {
     gliding.setTarget("0");
-    gliding.setTarget("1000");
-    for (int time = 0; time <= 100; ++time) {
-        gliding.setProgress(time / 100.0);
-    }
-    EXPECT_THAT(shown, ElementsAre("0", "578", "875", "984", "1000"));
+    gliding.setTarget("900");
+    glide();
+    EXPECT_THAT(shown, ElementsAre("0", "500", "800", "900"));
 }
 
 TEST_F(GlidingTextItem, DepartsOnlyWhereItsFirstStepIsNotItsLast) {
-    int departures = 0;
-    QObject::connect(&gliding, &GlidingText::departed, [&] { ++departures; });
     gliding.setTarget("10W");
     gliding.setTarget("11W");
     gliding.setTarget("full");
-    EXPECT_EQ(departures, 0);
+    EXPECT_FALSE(clock.isRunning());
     EXPECT_THAT(shown, ElementsAre("10W", "11W", "full"));
     gliding.setTarget("10W");
     gliding.setTarget("20W");
-    EXPECT_EQ(departures, 1);
+    EXPECT_TRUE(clock.isRunning());
 }
 
 TEST_F(GlidingTextItem, KeepsToItsTargetWhileTheGlideBeforeItGoesOn) {
     gliding.setTarget("10W");
     gliding.setTarget("20W");
-    gliding.setProgress(0.25);
+    clock.tick();
     gliding.setTarget("full");
-    gliding.setProgress(0.5);
+    clock.tick();
     EXPECT_THAT(shown, ElementsAre("10W", "16W", "19W", "full"));
 }
 
-TEST_F(GlidingTextItem, ShowsItsTargetAtOnceWhereItIsNotAnimated) {
+TEST_F(GlidingTextItem, ShowsItsTargetAtOnceWhereItHasNoClock) {
     gliding.setTarget("10W");
     gliding.setTarget("20W");
-    gliding.setAnimated(false);
-    gliding.setTarget("30W"); // on its way
-    EXPECT_THAT(shown, ElementsAre("10W", "16W", "30W"));
+    gliding.setClock(nullptr); // on its way
+    gliding.setTarget("30W");
+    EXPECT_THAT(shown, ElementsAre("10W", "16W", "20W", "30W"));
 }
 
 TEST_F(GlidingTextItem, TellsNothingWhenNothingChanges) {
@@ -95,6 +93,7 @@ TEST_F(GlidingTextItem, TellsNothingWhenNothingChanges) {
     int targets = 0;
     QObject::connect(&gliding, &GlidingText::targetChanged, [&] { ++targets; });
     gliding.setTarget("10W");
+    clock.start();
     glide();
     EXPECT_THAT(shown, IsEmpty());
     EXPECT_EQ(targets, 0);

@@ -58,10 +58,10 @@ void appendTree(QAccessibleInterface& thing, int depth, std::string& text) {
 class Accessibility : public testing::Test {
 protected:
     Accessibility() {
-        QAccessible::setActive(true);
         fillEveryCard(*dashboard.monitor);
         dashboard.computer.folders.helperResources = "/somewhere";
         view.emplace(dashboard);
+        QAccessible::setActive(true);
     }
 
     ~Accessibility() override { QAccessible::setActive(false); }

@@ -1,16 +1,22 @@
 // Figures and bars glide to what is new; nothing moves, and nothing is drawn, without a reason.
 #include <QAccessible>
 #include <QAnimationDriver>
+#include <QPointer>
 #include <QQuickRenderControl>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "ui/presentation/elements/glide.h"
+#include "ui/bridge/gliding_text.h"
 #include "ui/support/printing.h"
 #include "ui/support/shown_view.h"
 
 namespace quelby {
 namespace {
+
+// All figures have the same; none where nothing glides.
+GlideClock* glideClock(const QQuickItem& view) {
+    return view.findChild<GlidingText*>()->clock();
+}
 
 // Time that passes only when a test says so.
 class Time final : public QAnimationDriver {
@@ -19,11 +25,27 @@ public:
 
     ~Time() override { uninstall(); }
 
+    // Of what glides in the view as well.
+    void rule(DashboardView& view) {
+        clock_ = glideClock(view.item());
+        if (clock_) {
+            clock_->setTimed(false);
+        }
+    }
+
     void pass(qint64 milliseconds) {
         tick(); // animations begin, and end, in the turn after they were told to
         elapsed_ += milliseconds;
+        for (sinceBeat_ += milliseconds; sinceBeat_ >= glideStepDuration; sinceBeat_ -= glideStepDuration) {
+            if (clock_) {
+                clock_->tick();
+            }
+        }
         tick();
     }
+
+    // Whether anything moves.
+    [[nodiscard]] bool isBusy() const { return isRunning() || clock_->isRunning(); }
 
     // Since it was started.
     [[nodiscard]] qint64 elapsed() const override { return elapsed_; }
@@ -44,6 +66,8 @@ private:
     }
 
     qint64 elapsed_ = 0;
+    qint64 sinceBeat_ = 0;
+    QPointer<GlideClock> clock_;
 };
 
 class Animation : public testing::Test {
@@ -62,6 +86,7 @@ protected:
 
     void show(bool animated) {
         view.emplace(dashboard, Appearance{.animated = animated});
+        time.rule(view->view());
         time.pass(1000);
     }
 
@@ -81,14 +106,12 @@ TEST_F(Animation, TakesBarsAndFiguresToTheirNewValueAndEndsExactlyThere) {
     EXPECT_EQ(fraction(), 0.72);
     setLevel(20);
     double last = 0.72;
-    for (int step = 0; step < 3; ++step) {
+    for (int step = 1; step < glideSteps; ++step) {
         EXPECT_LT(fraction(), last);
         EXPECT_GT(fraction(), 0.2);
         last = fraction();
-        time.pass(31);
+        time.pass(glideStepDuration);
     }
-    EXPECT_NE(levelText(), "72%");
-    time.pass(1000);
     EXPECT_EQ(fraction(), 0.2);
     EXPECT_EQ(levelText(), "20%");
     EXPECT_EQ(batteryBar().childItems().front()->property("fraction").toDouble(), 0.2);
@@ -106,12 +129,12 @@ TEST_F(Animation, ShowsFiguresOnTheirWay) {
 TEST_F(Animation, SetsOutAnewFromWhereItIs) {
     show(true);
     setLevel(20);
-    time.pass(60);
+    time.pass(glideStepDuration);
     const double onTheWay = fraction();
     const int shown = std::stoi(levelText());
     setLevel(90);
-    EXPECT_EQ(fraction(), onTheWay + (0.9 - onTheWay) * glided(0));
-    EXPECT_EQ(std::stoi(levelText()), std::lround(shown + (90 - shown) * glided(0)));
+    EXPECT_EQ(fraction(), onTheWay + (0.9 - onTheWay) * glided(1));
+    EXPECT_EQ(std::stoi(levelText()), std::lround(shown + (90 - shown) * glided(1)));
     time.pass(1000);
     EXPECT_EQ(fraction(), 0.9);
     EXPECT_EQ(levelText(), "90%");
@@ -159,6 +182,7 @@ class Drawing : public testing::Test {
 protected:
     Drawing() {
         fillEveryCard(monitor);
+        time.rule(view);
         view.setWatched(true);
         view.item().setParentItem(window.contentItem());
         QObject::connect(&control, &QQuickRenderControl::renderRequested, [this] { ++wishes; });
@@ -189,7 +213,7 @@ TEST_F(Drawing, IsAskedForByWhatChanges) {
     time.pass(20);
     EXPECT_GT(wishes, 0);
     settle();
-    monitor.todayWh = 99;
+    monitor.batteryRateStr = "-3.0%/hr";
     time.pass(20);
     EXPECT_GT(wishes, 0);
 }
@@ -200,7 +224,27 @@ TEST_F(Drawing, IsNotAskedForWhereNothingChanges) {
         time.pass(1000);
     }
     EXPECT_EQ(wishes, 0);
-    EXPECT_FALSE(time.isRunning());
+    EXPECT_FALSE(time.isBusy());
+}
+
+TEST_F(Drawing, IsNotAskedForByACardOutOfSightWhichIsRenewedBeforeItIsSeen) {
+    const auto before = dashboard.model.history()->today.text;
+    monitor.todayWh = 99;
+    time.pass(1000);
+    EXPECT_EQ(wishes, 0);
+    EXPECT_EQ(dashboard.model.history()->today.text, before);
+    view.scrollTo(10'000);
+    finishTurn();
+    EXPECT_NE(dashboard.model.history()->today.text, before);
+}
+
+TEST_F(Drawing, IsAskedForByCardsOutOfSightWhereTheyAreReadOut) {
+    const auto before = dashboard.model.history()->today.text;
+    QAccessible::setActive(true);
+    monitor.todayWh = 99;
+    time.pass(20);
+    QAccessible::setActive(false);
+    EXPECT_NE(dashboard.model.history()->today.text, before);
 }
 
 TEST_F(Drawing, IsNotAskedForWhileNobodyWatches) {
@@ -209,15 +253,15 @@ TEST_F(Drawing, IsNotAskedForWhileNobodyWatches) {
     monitor.powerHistory = std::vector{1.0, 2.0, 3.0};
     time.pass(1000);
     EXPECT_EQ(wishes, 0);
-    EXPECT_FALSE(time.isRunning());
+    EXPECT_FALSE(time.isBusy());
 }
 
 TEST_F(Drawing, EndsWithTheAnimations) {
     monitor.batteryPercent = 3;
     time.pass(20);
-    EXPECT_TRUE(time.isRunning());
+    EXPECT_TRUE(time.isBusy());
     settle();
-    EXPECT_FALSE(time.isRunning());
+    EXPECT_FALSE(time.isBusy());
     time.pass(20);
     EXPECT_EQ(wishes, 0);
 }

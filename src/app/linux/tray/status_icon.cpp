@@ -12,7 +12,6 @@
 
 #include "app/linux/tray/short_title.h"
 #include "ui/presentation/elements/metrics.h"
-#include "ui/symbols/symbol_picture.h"
 
 namespace quelby::app {
 
@@ -45,7 +44,6 @@ void drawPlate(QPainter& painter, const StatusInk& ink, const QSize& size) {
     }
 }
 
-// The part of its square that a symbol fills, from 0 to 1: a battery is as wide as it, but half as high.
 QRectF filledPart(const SymbolPicture& symbol) {
     constexpr int side = 64;
     auto image = transparent(side, side);
@@ -84,13 +82,12 @@ QPainterPath outline(const QFont& font, const QString& title) {
     return path;
 }
 
-// What the compact pictures of one symbol and title have in common. The figure matters more than the symbol: it
+// What the compact pictures of a symbol and a title have in common. The figure matters more than the symbol: it
 // takes the width, and its height follows from that.
 class CompactParts {
 public:
-    CompactParts(std::string_view symbolName, const QString& text)
-        : symbol_(QString::fromUtf8(symbolName))
-        , filled_(filledPart(symbol_))
+    CompactParts(const MeasuredSymbol& symbol, const QString& text)
+        : symbol_(symbol)
         , title_(outline(titleFont(outlineSize), text))
         , titleBounds_(title_.boundingRect())
         , capHeight_(QFontMetricsF(titleFont(outlineSize)).capHeight()) {}
@@ -122,16 +119,16 @@ public:
 private:
     // As large as it can be in the middle of the area.
     void fitSymbol(QPainter& painter, const QRectF& area, QRgb ink) const {
-        if (filled_.isEmpty()) {
+        const auto& filled = symbol_.filled();
+        if (filled.isEmpty()) {
             return;
         }
-        const qreal side = std::min(area.width() / filled_.width(), area.height() / filled_.height());
-        const QPointF corner = area.center() - filled_.center() * side;
-        symbol_.paint(painter, QRectF(corner, QSizeF(side, side)), QColor::fromRgba(ink));
+        const qreal side = std::min(area.width() / filled.width(), area.height() / filled.height());
+        const QPointF corner = area.center() - filled.center() * side;
+        symbol_.picture().paint(painter, QRectF(corner, QSizeF(side, side)), QColor::fromRgba(ink));
     }
 
-    SymbolPicture symbol_;
-    QRectF filled_;
+    const MeasuredSymbol& symbol_;
     QPainterPath title_;
     QRectF titleBounds_;
     qreal capHeight_;
@@ -143,6 +140,9 @@ std::int64_t tenthBelowFull(std::int64_t percent) {
 }
 
 } // namespace
+
+MeasuredSymbol::MeasuredSymbol(std::string name)
+    : name_(std::move(name)), picture_(QString::fromStdString(name_)), filled_(filledPart(picture_)) {}
 
 QImage symbolIcon(std::string_view symbolName, const StatusInk& ink, int side) {
     auto image = transparent(side, side);
@@ -172,17 +172,17 @@ QImage wideIcon(std::string_view symbolName, std::string_view title, const Statu
     return image;
 }
 
-std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view title, const StatusInk& ink,
+std::vector<QImage> compactIcons(const MeasuredSymbol& symbol, std::string_view title, const StatusInk& ink,
                                  const std::vector<int>& sides) {
     const auto text = QString::fromStdString(shortTitle(title)).trimmed();
     std::vector<QImage> icons;
     if (text.isEmpty()) {
         for (const int side : sides) {
-            icons.push_back(symbolIcon(symbolName, ink, side));
+            icons.push_back(symbolIcon(symbol.name(), ink, side));
         }
         return icons;
     }
-    const CompactParts parts(symbolName, text);
+    const CompactParts parts(symbol, text);
     for (const int side : sides) {
         icons.push_back(parts.drawn(ink, side));
     }
@@ -190,7 +190,7 @@ std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view t
 }
 
 QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink, int side) {
-    return compactIcons(symbolName, title, ink, {side}).front();
+    return compactIcons(MeasuredSymbol(std::string(symbolName)), title, ink, {side}).front();
 }
 
 std::string themeIconName(std::string_view symbolName, std::int64_t level) {

@@ -7,8 +7,10 @@
 #include <vector>
 
 #include <QImage>
+#include <QRectF>
 
 #include "app/linux/tray/panel_ink.h"
+#include "ui/symbols/symbol_picture.h"
 
 namespace quelby::app {
 
@@ -25,9 +27,26 @@ namespace quelby::app {
 [[nodiscard]] QImage compactIcon(std::string_view symbolName, std::string_view title, const StatusInk& ink,
                                  int side);
 
-// The same at each of the sides, for less than one after the other: the symbol is read and the title laid out
-// once.
-[[nodiscard]] std::vector<QImage> compactIcons(std::string_view symbolName, std::string_view title,
+// A symbol that has been read and measured, for those who draw it with one title after the other.
+class MeasuredSymbol {
+public:
+    explicit MeasuredSymbol(std::string name);
+
+    [[nodiscard]] const std::string& name() const { return name_; }
+
+    [[nodiscard]] const SymbolPicture& picture() const { return picture_; }
+
+    // The part of its square that it fills, from 0 to 1: a battery is as wide as it, but half as high.
+    [[nodiscard]] const QRectF& filled() const { return filled_; }
+
+private:
+    std::string name_;
+    SymbolPicture picture_;
+    QRectF filled_;
+};
+
+// The same at each of the sides, for less than one after the other: the title is laid out once.
+[[nodiscard]] std::vector<QImage> compactIcons(const MeasuredSymbol& symbol, std::string_view title,
                                                const StatusInk& ink, const std::vector<int>& sides);
 
 // The name of the desktop's icon theme that means the same as the symbol, in tenths as the themes have them.

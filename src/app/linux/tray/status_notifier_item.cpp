@@ -6,7 +6,6 @@
 #include <QFile>
 
 #include "app/linux/tray/short_title.h"
-#include "app/linux/tray/status_icon.h"
 #include "ui/presentation/text/words.h"
 
 namespace quelby::app {
@@ -117,7 +116,10 @@ const DBusPictures& StatusNotifierItem::pictures() const {
 DBusPictures StatusNotifierItem::drawn() const {
     DBusPictures pictures;
     if (host_.icon == IconForm::compact) {
-        for (const auto& icon : compactIcons(content_.symbol, content_.title, content_.ink, iconSides)) {
+        if (!symbol_ || symbol_->name() != content_.symbol) {
+            symbol_.emplace(content_.symbol);
+        }
+        for (const auto& icon : compactIcons(*symbol_, content_.title, content_.ink, iconSides)) {
             pictures.append(dbusPicture(icon));
         }
         return pictures;

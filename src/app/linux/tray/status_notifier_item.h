@@ -7,6 +7,7 @@
 
 #include "app/linux/session/dbus_object.h"
 #include "app/linux/tray/item_content.h"
+#include "app/linux/tray/status_icon.h"
 #include "app/linux/tray/tray_host.h"
 #include "app/linux/tray/tray_menu.h"
 #include "app/linux/tray/wheel_steps.h"
@@ -59,6 +60,7 @@ private:
     TrayHost host_;
     ItemContent content_;
     mutable std::optional<DBusPictures> pictures_; // of what is shown, once a host has asked for them
+    mutable std::optional<MeasuredSymbol> symbol_; // that was drawn last, beside a title
     std::optional<QTemporaryDir> iconFolder_;      // for hosts that read icons from files
     int iconNumber_ = 0; // of the file that holds it: such hosts never read one name twice
 };

@@ -13,14 +13,7 @@ InkText {
     GlidingText {
         id: gliding
 
-        animated: Theme.animated
+        clock: Theme.glideClock
         target: figure.content.text
-        onDeparted: glide.restart()
-    }
-
-    Glide {
-        id: glide
-
-        target: gliding
     }
 }

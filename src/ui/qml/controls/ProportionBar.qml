@@ -25,15 +25,8 @@ Item {
     GlidingNumber {
         id: gliding
 
-        animated: Theme.animated
+        clock: Theme.glideClock
         target: bar.content.fraction
-        onDeparted: glide.restart()
-    }
-
-    Glide {
-        id: glide
-
-        target: gliding
     }
 
     BarItem {

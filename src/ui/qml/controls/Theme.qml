@@ -46,7 +46,6 @@ QtObject {
     readonly property real caption2Size: 10 * textScale
     readonly property real smallSize: 9 * textScale
 
-    readonly property int glide: animated ? 120 : 0 // ms
     readonly property int fade: animated ? 120 : 0 // ms
 
     // Of what is behind it shows no more than every text can bear, be that black or white.
@@ -86,6 +85,9 @@ QtObject {
            accent, "#ffffff"]
         : ["#1c1c1f", "#8a8a93", "#34b25f", "#e3b01a", "#ee8a2d", "#e5544c", "#3f8cf0", "#a868dd", "#21a9c0",
            accent, "#ffffff"]
+
+    readonly property GlideClock beat: GlideClock {}
+    readonly property GlideClock glideClock: animated ? beat : null
 
     readonly property ChartStyle chart: ChartStyle {
         fontFamily: theme.family

@@ -121,6 +121,18 @@ TEST_F(ShownItem, IsASquareWithTheTitleInItElsewhere) {
     expectPicturesOf([](int side) { return compactIcon("battery.75percent", "-12W", content.ink, side); });
 }
 
+TEST_F(ShownItem, DrawsAnotherTitleAndThenAnotherSymbolInItsSquare) {
+    showAt("panel-6-systray");
+    static_cast<void>(property("IconPixmap"));
+    auto next = content;
+    next.title = "8W";
+    item.show(next);
+    expectPicturesOf([](int side) { return compactIcon("battery.75percent", "8W", content.ink, side); });
+    next.symbol = "bolt.fill";
+    item.show(next);
+    expectPicturesOf([](int side) { return compactIcon("bolt.fill", "8W", content.ink, side); });
+}
+
 TEST_F(ShownItem, FollowsAChangeOfHosts) {
     showAt("waybar");
     item.setHost(trayHost("gnome-shell"));
