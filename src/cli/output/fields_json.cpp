@@ -1,5 +1,7 @@
 #include "cli/output/fields_json.h"
 
+#include <string_view>
+
 #include <nlohmann/json.hpp>
 
 #include "base/arithmetic.h"
@@ -46,31 +48,39 @@ Json asJson(const std::vector<T>& list) {
     return array;
 }
 
-Json fieldsObject(const PublishedFields& fields) {
-    Json object = Json::object();
-    forEachField(fields, [&](FieldName field, const auto& published) {
-        // Nothing is looked up: the names are distinct.
-        object.push_back({std::string(field.name), asJson(published.get())});
-    });
-    return object;
+std::string written(const Json& value) {
+    return harmless(value.dump(-1, ' ', false, Json::error_handler_t::replace));
 }
 
-std::string written(const Json& object) {
-    return harmless(object.dump(-1, ' ', false, Json::error_handler_t::replace));
+void append(std::string& text, std::string_view name, const Json& value) {
+    text += text.empty() ? '{' : ',';
+    text += '"';
+    text += name; // plain ASCII, as all of them are
+    text += "\":";
+    text += written(value);
+}
+
+// Written one after the other, for half of what it costs to make one object of all.
+std::string membersOf(const PublishedFields& fields) {
+    std::string text;
+    forEachField(fields, [&](FieldName field, const auto& published) {
+        append(text, field.name, asJson(published.get()));
+    });
+    return text;
 }
 
 } // namespace
 
 std::string fieldsAsJson(const PublishedFields& fields) {
-    return written(fieldsObject(fields));
+    return membersOf(fields) + '}';
 }
 
 std::string statusAsJson(const PublishedFields& fields, std::optional<double> minutesToLimit) {
-    auto object = fieldsObject(fields);
+    auto text = membersOf(fields);
     if (minutesToLimit) {
-        object.push_back({"minutesToLimit", truncated(*minutesToLimit)});
+        append(text, "minutesToLimit", truncated(*minutesToLimit));
     }
-    return written(object);
+    return text + '}';
 }
 
 } // namespace quelby::cli

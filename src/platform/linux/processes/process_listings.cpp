@@ -19,17 +19,19 @@ std::int64_t hundredths(const Process& process) {
     return std::llround(process.share.percent() * 100);
 }
 
-// With two decimals, and a blank before a share below ten.
+// With two decimals, and a blank before a share below ten. In one piece, because there are many.
 void appendShare(std::string& text, std::int64_t share) {
-    std::array<char, std::numeric_limits<std::int64_t>::digits10 + 1> digits;
-    const char* const end = std::to_chars(digits.begin(), digits.end(), share / 100).ptr;
+    constexpr std::size_t blankPointAndSign = 3;
+    std::array<char, std::numeric_limits<std::int64_t>::digits10 + 1 + blankPointAndSign> written;
+    char* end = written.data();
     if (share < 1000) {
-        text += ' ';
+        *end++ = ' ';
     }
-    text.append(digits.cbegin(), end);
-    text += '.';
-    text += static_cast<char>('0' + share / 10 % 10);
-    text += static_cast<char>('0' + share % 10);
+    end = std::to_chars(end, written.data() + written.size(), share / 100).ptr;
+    *end++ = '.';
+    *end++ = static_cast<char>('0' + share / 10 % 10);
+    *end++ = static_cast<char>('0' + share % 10);
+    text.append(written.data(), static_cast<std::size_t>(end - written.data()));
 }
 
 void appendLine(std::string& text, std::int64_t share, std::string_view name) {
@@ -61,10 +63,11 @@ std::vector<const Process*> busyOnesFirstToLast(std::span<const Process> process
 
 std::string cpuListingText(std::span<const Process> processes) {
     std::string text = "%CPU\n";
-    text.reserve(usualLineLength * (processes.size() + 1));
     for (const auto& process : processes) {
-        appendShare(text, hundredths(process));
-        text += '\n';
+        if (const auto share = hundredths(process); share > 0) {
+            appendShare(text, share);
+            text += '\n';
+        }
     }
     return text;
 }

@@ -9,6 +9,7 @@
 
 namespace quelby {
 
+// Only of who has used anything: whoever adds the shares up, cycle after cycle, need not read the zeros.
 [[nodiscard]] std::string cpuListingText(std::span<const Process> processes);
 
 // Equal shares, as they are printed, keep the order of the processes.

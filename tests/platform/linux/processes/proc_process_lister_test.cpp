@@ -40,7 +40,7 @@ TEST_F(ProcProcessListerTest, ListsEveryProcessInPssManner) {
     proc_.set({2, "editor", ticks(25), ticks(0)});
     proc_.set({10, "Web Content", ticks(25), ticks(50)});
     proc_.set({300, "idle one", 0, ticks(50)});
-    EXPECT_EQ(lister_.cpuListing(), "%CPU\n25.00\n50.00\n 0.00\n");
+    EXPECT_EQ(lister_.cpuListing(), "%CPU\n25.00\n50.00\n");
     EXPECT_EQ(lister_.topListing(), " %CPU COMM\n50.00 Web Content\n25.00 editor\n 0.00 idle one\n");
 }
 
