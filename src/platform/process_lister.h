@@ -13,8 +13,8 @@ public:
     virtual ~ProcessLister() = default;
 
     // A heading line, then the share of every process of every user, a line each; those that have used
-    // nothing may be missing. Nothing while the processes cannot be read. The cycle asks for this listing first: an implementation may scan the
-    // processes here and answer topListing() from the same scan.
+    // nothing may be missing. Nothing while the processes cannot be read. The cycle asks for this listing first:
+    // an implementation may scan the processes here and answer topListing() from the same scan.
     [[nodiscard]] virtual std::optional<std::string> cpuListing() = 0;
 
     // A heading line, then a line for each process, the highest share first: the share, a blank, the
