@@ -82,7 +82,7 @@ def closing(code, opening):
 
 
 def beginning(code, end):
-    """Where the condition begins that ends before a question mark."""
+    """Where the condition begins that ends before a question mark: behind whatever binds less."""
     depth = 0
     for position in range(end - 1, 0, -1):
         character = code[position]
@@ -129,7 +129,8 @@ def results(code):
     mutants = []
     for match in RETURN.finditer(code):
         text = {"true": "false", "false": "true", "std::nullopt": None, "{}": None}.get(match[1], "{}")
-        if text is not None and "}" not in match[1].replace("{}", "").partition("{")[0]:
+        whole = match[1].count("{") == match[1].count("}")  # and no lambda, cut off at its first statement
+        if text is not None and whole:
             mutants.append(Mutant(*match.span(1), text))
     return mutants
 
