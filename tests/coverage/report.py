@@ -41,6 +41,12 @@ class Source:
         for function in counted["functions"]:
             self.functions[function["demangled_name"]] = range(function["start_line"], function["end_line"] + 1)
 
+    def leave_out_braces(self, text):
+        """A brace that ends something has code only for when an exception passes by."""
+        for number, line in enumerate(text.splitlines(), start=1):
+            if not self.ran.get(number, True) and not line.strip(" ()};,"):
+                del self.ran[number]
+
     def lines_of(self, function):
         """Those of a function, its overloads and what is written inside of it; of the whole file if it is empty."""
         if not function:
@@ -75,6 +81,8 @@ def sources_of(build):
         for ours in pool.map(counts_of, sorted(build.rglob("*.gcno"))):
             for name, counted in ours:
                 sources.setdefault(name, Source()).add(counted)
+    for name, source in sources.items():
+        source.leave_out_braces((ROOT / name).read_text())
     return sources
 
 
