@@ -272,6 +272,14 @@ TEST_F(FolderTest, KnowsWhenItIsGone) {
     EXPECT_TRUE(folder.isGone()); // that is another one
 }
 
+TEST_F(FolderTest, IsNotLockedThroughALink) {
+    fs::create_symlink("elsewhere", path / "lock");
+    const auto lock = InstanceLock::take(folder);
+    ASSERT_FALSE(lock);
+    EXPECT_EQ(lock.error().sentence.rfind("cannot lock its own folder: ", 0), 0U);
+    EXPECT_FALSE(fs::exists(path / "elsewhere"));
+}
+
 TEST_F(FolderTest, IsLockedForOneHelper) {
     auto first = InstanceLock::take(folder);
     ASSERT_TRUE(first);

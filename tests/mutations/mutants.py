@@ -128,7 +128,7 @@ def negations(code):
 def results(code):
     mutants = []
     for match in RETURN.finditer(code):
-        text = {"true": "false", "false": "true", "std::nullopt": None, "{}": None}.get(match[1], "{}")
+        text = {"true": "false", "false": "true", **dict.fromkeys(("std::nullopt", "{}", '""', "0", "0.0"))}.get(match[1], "{}")
         whole = match[1].count("{") == match[1].count("}")  # and no lambda, cut off at its first statement
         if text is not None and whole:
             mutants.append(Mutant(*match.span(1), text))

@@ -90,6 +90,8 @@ TEST(EnergyRanges, AreFoundByTheirNames) {
         EXPECT_FALSE(label(range).empty());
     }
     EXPECT_EQ(energyRange("yesterday"), std::nullopt);
+    EXPECT_EQ(rawValue(EnergyRange{9}), "");
+    EXPECT_EQ(label(EnergyRange{9}), "");
 }
 
 } // namespace
