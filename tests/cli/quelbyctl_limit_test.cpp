@@ -42,7 +42,8 @@ TEST_F(QuelbyctlLimit, TellsTheDayOfTheLastCalibration) {
     folder.write("helper/config.json", R"({"chargeLimitEnabled":false,"chargeLimitPercent":80,)"
                                        R"("calibrationEnabled":true,"calibrationIntervalDays":14,)"
                                        R"("lastCalibrationTimestamp":1699963200})");
-    EXPECT_EQ(ctl({"calibration"}).output, "calibration on, every 14 days, last done 2023-11-14\n");
+    EXPECT_EQ(ctl({"calibration"}).output,
+              "calibration on, every 14 days, last done 2023-11-14, but the helper is not installed\n");
 }
 
 TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {

@@ -65,6 +65,7 @@ TEST_F(MakersWithSwitches, HuaweiThatHasForgottenItsLevelsHasNone) {
     hardware["devices/platform/huawei-wmi/charge_control_thresholds"].text = "0 0";
     limitTo(80);
     EXPECT_EQ(battery().foundPercent, 100);
+    EXPECT_THAT(writes(), ElementsAre("huawei-wmi/charge_control_thresholds=75 80"));
     limitTo(100);
     EXPECT_THAT(writes(), ElementsAre("huawei-wmi/charge_control_thresholds=0 0",
                                       "huawei-wmi/charge_control_thresholds=0 100"));

@@ -21,6 +21,7 @@ TEST(Health, IsFullChargeRelativeToDesign) {
     EXPECT_EQ(healthPercent({.fullCapacity = 4500, .designCapacity = 5000}), 90.0);
     EXPECT_EQ(healthPercent({.fullCapacity = 4500}), std::nullopt);
     EXPECT_EQ(healthPercent({.fullCapacity = 4500, .designCapacity = 0}), std::nullopt);
+    EXPECT_EQ(healthPercent({.fullCapacity = 1, .designCapacity = 1}), 100.0);
 }
 
 TEST(Ageing, TakesSixtyDays) {
@@ -53,6 +54,8 @@ TEST(Ageing, IsOfTheDaysThatAreThere) {
 TEST(Ageing, IsNotSeenWhereTheCapacityStaysOrGrows) {
     EXPECT_EQ(ageingText(days(100, 0)), "no ageing to be seen");
     EXPECT_EQ(ageingText(days(100, -1)), "no ageing to be seen");
+    EXPECT_EQ(ageingText(days(100, 0.074)), "no ageing to be seen");
+    EXPECT_EQ(ageingText(days(100, 0.09)), "about 0.1 % a month");
 }
 
 } // namespace
