@@ -65,8 +65,8 @@ class ChangedFile:
         self.headers = self.precompiled("\n".join(INCLUDES.findall(source)) + "\n")
         self.patience = 60.0
         started = time.monotonic()
-        if self.outcome(source) != "survived":
-            raise SystemExit(f"mutations: {' '.join(tests)} fail without any mistake in {file}")
+        if (came := self.outcome(source)) != "survived":
+            raise SystemExit(f"mutations: without any mistake {file} is {came} with {' '.join(tests)}")
         self.patience = 5 + 5 * (time.monotonic() - started)
 
     def new_folder(self):
