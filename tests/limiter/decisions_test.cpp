@@ -26,7 +26,7 @@ TEST(WishTest, IsKeptWithinItsBounds) {
 TEST(WishTest, BelievesARememberedTimeOnlyWhereItCanBeTrue) {
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1000}, 1000), 1000);
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1001}, 1000), 0);
-    EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = -1}, 1000), 0);
+    EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = -0.5}, 1000), 0);
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1e308}, 1000), 0);
 }
 

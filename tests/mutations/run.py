@@ -111,6 +111,7 @@ def main():
     tally = Tally()
     with tempfile.TemporaryDirectory(prefix="mutations-") as folder, \
             concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        os.chmod(folder, 0o755)  # some tests become an ordinary user
         building = Building(arguments.build.resolve(), pathlib.Path(folder))
         wanted = [str((pathlib.Path.cwd() / file).resolve().relative_to(ROOT)) for file in arguments.files]
         for name, tests in calculations().items():
