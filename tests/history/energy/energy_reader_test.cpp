@@ -85,9 +85,17 @@ TEST(EnergyByDay, PutsTheHoursOfADayTogether) {
 }
 
 TEST(EnergyRanges, AreFoundByTheirNames) {
-    for (const auto range : allEnergyRanges) {
-        EXPECT_EQ(energyRange(rawValue(range)), range);
-        EXPECT_FALSE(label(range).empty());
+    const std::tuple<EnergyRange, const char*, const char*> names[] = {
+        {EnergyRange::today, "today", "Today"},
+        {EnergyRange::twentyFourHours, "24h", "24 Hours"},
+        {EnergyRange::sevenDays, "7d", "7 Days"},
+        {EnergyRange::thirtyDays, "30d", "30 Days"},
+        {EnergyRange::sinceUnplugged, "since-unplugged", "On Battery"}};
+    EXPECT_EQ(std::size(names), allEnergyRanges.size());
+    for (const auto& [range, raw, shown] : names) {
+        EXPECT_EQ(rawValue(range), raw);
+        EXPECT_EQ(energyRange(raw), range);
+        EXPECT_EQ(label(range), shown);
     }
     EXPECT_EQ(energyRange("yesterday"), std::nullopt);
     EXPECT_EQ(rawValue(EnergyRange{9}), "");
