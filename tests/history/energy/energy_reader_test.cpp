@@ -43,6 +43,13 @@ TEST_F(EnergyReaderTest, TellsTheLargestFirstAndEqualOnesByName) {
     EXPECT_THAT(reader.byComponent(EnergyRange::today), ElementsAre(NamedEnergy{"cpu", 4}));
 }
 
+TEST_F(EnergyReaderTest, TellsThoseFirstThatAreLargestInSum) {
+    add(noonSecond - anHour, {{"steady", 2}, {"sudden", 3}});
+    add(noonSecond, {{"steady", 2}});
+    EXPECT_THAT(reader.byApp(EnergyRange::today),
+                ElementsAre(NamedEnergy{"steady", 4}, NamedEnergy{"sudden", 3}));
+}
+
 TEST_F(EnergyReaderTest, PassesOverWhatANewerProgramWrote) {
     Database(file).execute("INSERT INTO sessions VALUES ('thunder', 1, 2, 3, 4, 5, 6)");
     EXPECT_THAT(reader.sessions(), IsEmpty());
