@@ -30,7 +30,7 @@ TEST_F(EnergyReaderTest, BeginsOtherRangesWithTheFirstHourThatReachesIntoThem) {
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 24 * anHour);
     clock.time += 0.5 * anHour;
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 24 * anHour);
-    EXPECT_EQ(reader.byHour(EnergyRange::sevenDays).front().start, noonSecond - 7 * 24 * anHour);
+    EXPECT_EQ(reader.byHour(EnergyRange::sevenDays).front().start, noonSecond - 7 * 24LL * anHour);
     clock.time += 0.5 * anHour;
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 23 * anHour);
     EXPECT_EQ(reader.byHour(EnergyRange::thirtyDays).size(), 30 * 24U);
