@@ -24,7 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Optional;
 using testing::UnorderedElementsAre;
 

@@ -37,6 +37,7 @@ void become(const std::vector<std::string>& words, const Environment& environmen
         ::setenv(name.c_str(), value.c_str(), 1);
     }
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const auto& word : words) {
         arguments.push_back(const_cast<char*>(word.c_str()));
     }

@@ -10,7 +10,7 @@ std::vector<BatteryDay> days(int count, double lossOfADay, double wobble = 0) {
     std::vector<BatteryDay> days;
     for (int i = 0; i < count; ++i) {
         const double full = 4800 - lossOfADay * i + (i % 2 == 0 ? wobble : -wobble);
-        days.push_back({.day = 19'000 * 86'400 + i * 86'400LL,
+        days.push_back({.day = 19'000LL * 86'400 + i * 86'400LL,
                         .fullCapacity = static_cast<std::int64_t>(full),
                         .designCapacity = 5000});
     }
