@@ -16,6 +16,7 @@ if(APPLE)
 endif()
 
 set(QUELBY_SANITIZERS "" CACHE STRING "What -fsanitize= gets, for example address,undefined")
+option(QUELBY_COVERAGE "Count the lines that run, for ./check coverage" OFF)
 
 add_library(quelby_rules INTERFACE)
 # -Wno-missing-field-initializers: what an initializer leaves out gets the default that its record names.
@@ -46,6 +47,13 @@ if(QUELBY_SANITIZERS)
         # Undefined behaviour is looked for in what people run; in each assertion it would double the time to compile.
         $<$<BOOL:$<TARGET_PROPERTY:QUELBY_TESTS>>:-fno-sanitize=undefined>)
     target_link_options(quelby_rules INTERFACE -fsanitize=${QUELBY_SANITIZERS})
+endif()
+if(QUELBY_COVERAGE)
+    # Atomic, because threads count as well.
+    target_compile_options(quelby_rules INTERFACE --coverage -fprofile-update=atomic)
+    add_library(quelby_counted_exit STATIC ${CMAKE_CURRENT_LIST_DIR}/counted_exit.cpp)
+    target_link_libraries(quelby_rules INTERFACE quelby_counted_exit)
+    target_link_options(quelby_rules INTERFACE --coverage -Wl,--wrap=_exit,-u,__wrap__exit,--wrap=execv,-u,__wrap_execv)
 endif()
 if(QUELBY_FUZZERS)
     target_compile_options(quelby_rules INTERFACE -fsanitize=fuzzer-no-link)

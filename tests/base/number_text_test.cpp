@@ -31,7 +31,7 @@ TEST(DecimalNumber, IsTheSameTheShortWayAndTheLong) {
 
 TEST(DecimalNumber, RefusesWhatIsNotWhollyANumber) {
     for (const auto* text : {"", " ", "1.2.3", "1..2", "..", "abc", "12.5x", "1 2", " 1", "1\n", "0x10",
-                             "12,5", "+-1", "++1", "-", "."}) {
+                             "12,5", "+-1", "++1", "-", "+", "."}) {
         EXPECT_EQ(decimalNumber(text), std::nullopt) << '"' << text << '"';
     }
 }
@@ -59,7 +59,7 @@ TEST(WholeNumber, AcceptsEveryIntegerOf64Bits) {
 
 TEST(WholeNumber, RefusesEverythingElse) {
     for (const auto* text :
-         {"", "1.0", "1 ", "0x1", "9223372036854775808", "18446744073709551615", "+-1", "one"}) {
+         {"", "1.0", "1 ", "0x1", "9223372036854775808", "18446744073709551615", "+-1", "+", "one"}) {
         EXPECT_EQ(wholeNumber(text), std::nullopt) << '"' << text << '"';
     }
 }

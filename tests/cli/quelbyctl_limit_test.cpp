@@ -38,6 +38,14 @@ TEST_F(QuelbyctlLimit, ShowsAndChangesNothing) {
     EXPECT_FALSE(std::filesystem::exists(folder.path() / "helper"));
 }
 
+TEST_F(QuelbyctlLimit, TellsTheDayOfTheLastCalibration) {
+    folder.write("helper/config.json", R"({"chargeLimitEnabled":false,"chargeLimitPercent":80,)"
+                                       R"("calibrationEnabled":true,"calibrationIntervalDays":14,)"
+                                       R"("lastCalibrationTimestamp":1699963200})");
+    EXPECT_EQ(ctl({"calibration"}).output,
+              "calibration on, every 14 days, last done 2023-11-14, but the helper is not installed\n");
+}
+
 TEST_F(QuelbyctlLimit, SetsWhatTheDashboardWouldSet) {
     EXPECT_EQ(ctl({"limit", "on"}).output, "charge limit on, 80%, but the helper is not installed\n");
     EXPECT_EQ(config()["chargeLimitEnabled"], true);

@@ -16,6 +16,8 @@ TEST(TimeRange, IsFoundByItsRawValue) {
 }
 
 TEST(TimeRange, IsFoundByNothingElse) {
+    EXPECT_EQ(rawValue(TimeRange{9}), "");
+    EXPECT_EQ(label(TimeRange{9}), "");
     for (const auto* text : {"", "30M", " 1h", "1h ", "2h", "30 Min"}) {
         EXPECT_EQ(timeRange(text), std::nullopt) << text;
     }

@@ -142,16 +142,37 @@ TEST_F(CalibrationTest, CountsTheHalfHourAnewWhereTheBatteryTakesChargeInBetween
     EXPECT_EQ(calibration.phase(), "charging to 100%");
 }
 
+TEST_F(CalibrationTest, CountsTheHalfHourAnewWhereTheChargerWasAwayInBetween) {
+    moment.stalled = true;
+    advance();
+    advance(1799);
+    moment.charger = false;
+    advance(8);
+    moment.charger = true;
+    advance(1799);
+    EXPECT_EQ(calibration.phase(), "charging to 100%");
+    advance(1);
+    EXPECT_EQ(calibration.phase(), "holding at 100%, 60 min left");
+}
+
 TEST_F(CalibrationTest, TrustsNoClockThatHasLostItsTime) {
     moment.now = 0;
     advance();
     EXPECT_FALSE(calibration.isActive());
+    moment.now = 1'577'836'798; // two seconds before 2020
+    advance(1);
+    EXPECT_FALSE(calibration.isActive());
+    advance(1);
+    EXPECT_TRUE(calibration.isActive());
 }
 
 TEST_F(CalibrationTest, ForgetsATimeThatAClockAheadHasTakenDown) {
     calibration = Calibration(someTime + 1000 * day, std::nullopt);
     advance();
     EXPECT_TRUE(calibration.isActive());
+    calibration = Calibration(moment.now + 1 + day, std::nullopt);
+    advance(1);
+    EXPECT_FALSE(calibration.isActive());
     calibration = Calibration(someTime + 3600, std::nullopt); // within the clock's usual corrections
     advance();
     EXPECT_FALSE(calibration.isActive());

@@ -26,7 +26,7 @@ TEST(WishTest, IsKeptWithinItsBounds) {
 TEST(WishTest, BelievesARememberedTimeOnlyWhereItCanBeTrue) {
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1000}, 1000), 1000);
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1001}, 1000), 0);
-    EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = -1}, 1000), 0);
+    EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = -0.5}, 1000), 0);
     EXPECT_EQ(credibleCalibration({.lastCalibrationTimestamp = 1e308}, 1000), 0);
 }
 
@@ -117,6 +117,15 @@ TEST(ContestTest, IsFoughtThreeTimesADay) {
     EXPECT_FALSE(contest.fightAgain(Contest::memory + 1));
 }
 
+TEST(ContestTest, IsLostForADayWhereverTheClockBegan) {
+    Contest contest;
+    for (int count = 0; count < 4; ++count) {
+        static_cast<void>(contest.fightAgain(Contest::memory + count));
+    }
+    EXPECT_TRUE(contest.isLost(2 * Contest::memory - 1));
+    EXPECT_FALSE(contest.isLost(2 * Contest::memory));
+}
+
 TEST(ContestTest, BeginsAnewWhenItIsForgotten) {
     Contest contest;
     for (int count = 0; count < 4; ++count) {
@@ -140,6 +149,14 @@ TEST(ReactionRateTest, AllowsAFewInARowAndThenOneEveryFiveSeconds) {
     rate.react(105);
     EXPECT_NEAR(rate.wait(105), 5, 1e-9);
     EXPECT_EQ(rate.wait(1000), 0);
+}
+
+TEST(ReactionRateTest, CountsNoTimeWhereTheClockWentBack) {
+    ReactionRate rate;
+    for (int count = 0; count < 5; ++count) {
+        rate.react(100);
+    }
+    EXPECT_EQ(rate.wait(99), rate.wait(100));
 }
 
 TEST(ReactionRateTest, LetsAFloodHaveTwelveAMinute) {

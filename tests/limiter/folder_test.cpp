@@ -24,7 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Optional;
 using testing::UnorderedElementsAre;
 
@@ -270,6 +269,14 @@ TEST_F(FolderTest, KnowsWhenItIsGone) {
     EXPECT_FALSE(replace("new"));
     fs::create_directory(path);
     EXPECT_TRUE(folder.isGone()); // that is another one
+}
+
+TEST_F(FolderTest, IsNotLockedThroughALink) {
+    fs::create_symlink("elsewhere", path / "lock");
+    const auto lock = InstanceLock::take(folder);
+    ASSERT_FALSE(lock);
+    EXPECT_EQ(lock.error().sentence.rfind("cannot lock its own folder: ", 0), 0U);
+    EXPECT_FALSE(fs::exists(path / "elsewhere"));
 }
 
 TEST_F(FolderTest, IsLockedForOneHelper) {

@@ -9,6 +9,7 @@
 #include "limiter/mechanisms/choices.h"
 #include "limiter/mechanisms/values.h"
 #include "limiter/support/makers.h"
+#include "support/file_size_limit.h"
 #include "support/temporary_folder.h"
 
 namespace quelby::limiter {
@@ -47,6 +48,14 @@ TEST_F(SysfsAttributesTest, TellsARefusalThatComesWithTheWriting) {
     const auto full = SysfsAttributes::open("/dev"); // a device is no attribute, whatever it would answer
     ASSERT_TRUE(full);
     EXPECT_EQ((*full)->write("full", "1"), std::errc::invalid_argument);
+}
+
+TEST_F(SysfsAttributesTest, TellsWhereAValueIsTakenInPartOrNotAtAll) {
+    root.write("level", "100\n");
+    const FileSizeLimit limit(1);
+    EXPECT_EQ(attributes->write("level", "80"), std::errc::io_error);
+    const FileSizeLimit none(0);
+    EXPECT_EQ(attributes->write("level", "80"), std::errc::file_too_large);
 }
 
 TEST_F(SysfsAttributesTest, ReachesDevicesThroughTheKernelsOwnLinksButNoAttributeThroughAny) {

@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "limiter/mechanisms/firmware_switch.h"
+#include "limiter/mechanisms/long_life.h"
+#include "limiter/support/makers.h"
 #include "limiter/support/test_bench.h"
 
 namespace quelby::limiter {
@@ -54,6 +57,34 @@ TEST_F(MakersWithSwitches, HuaweiTakesBothLevelsAtOnceAndHasToForgetThemFirst) {
                                       "huawei-wmi/charge_control_thresholds=0 100"));
     EXPECT_THAT(pauses, ElementsAre(std::chrono::seconds(1)));
     EXPECT_EQ(text("devices/platform/huawei-wmi/charge_control_thresholds"), "0 100");
+}
+
+TEST_F(MakersWithSwitches, HuaweiThatHasForgottenItsLevelsHasNone) {
+    addLaptop(hardware);
+    addHuawei(hardware);
+    hardware["devices/platform/huawei-wmi/charge_control_thresholds"].text = "0 0";
+    limitTo(80);
+    EXPECT_EQ(battery().foundPercent, 100);
+    EXPECT_THAT(writes(), ElementsAre("huawei-wmi/charge_control_thresholds=75 80"));
+    limitTo(100);
+    EXPECT_THAT(writes(), ElementsAre("huawei-wmi/charge_control_thresholds=0 0",
+                                      "huawei-wmi/charge_control_thresholds=0 100"));
+}
+
+TEST_F(MakersWithSwitches, AreLiftedToWhatChargesFullyAndTellNothingWhereTheyCannotBeRead) {
+    addLaptop(hardware);
+    addNewIdeaPad(hardware);
+    const auto types = longLife(hardware, supplies + "BAT0");
+    ASSERT_TRUE(types);
+    EXPECT_EQ(types->lifted({}).mode, "Standard");
+    EXPECT_EQ(types->lifted({.mode = "Long_Life"}).mode, "Standard");
+    EXPECT_EQ(types->lifted({.mode = "Fast"}).mode, "Fast");
+    const auto single = firmwareSwitch(hardware, "a/switch", "switch", 80);
+    EXPECT_EQ(single->lifted({}).mode, "0");
+    for (const auto* const mechanism : {types.get(), single.get()}) {
+        EXPECT_FALSE(mechanism->levelOf({}, 80).limits);
+        EXPECT_EQ(mechanism->levelOf({}, 80).percent, std::nullopt);
+    }
 }
 
 TEST_F(MakersWithSwitches, OlderSamsungHasASwitchForEightyPercent) {

@@ -35,6 +35,35 @@ TEST(BatteryMoment, IsAsFineAsTheBatteryTellsIt) {
     EXPECT_EQ(batteryMoment(fields, clock).time, clock.time);
 }
 
+TEST(BatteryMoment, IsFullAtTheMostAndAsCoarseAsTheBatteryWhereNothingIsLeft) {
+    fake::WallClock clock;
+    PublishedFields fields;
+    fields.batteryPercent = 3;
+    fields.rawMaxCapacity = 4000;
+    fields.rawCurrentCapacity = 4001;
+    EXPECT_EQ(batteryMoment(fields, clock).percent, 100.0);
+    fields.rawCurrentCapacity = 1;
+    EXPECT_EQ(batteryMoment(fields, clock).percent, 0.025);
+    fields.rawCurrentCapacity = 0;
+    EXPECT_EQ(batteryMoment(fields, clock).percent, 3.0);
+    EXPECT_EQ(batteryMoment(fields, clock).wattHours, std::nullopt);
+}
+
+TEST(FullChargeWattHours, TakeACapacityThatIsNoPercentageAndAVoltage) {
+    PublishedFields fields;
+    fields.rawMaxCapacity = 4000;
+    EXPECT_EQ(fullChargeWattHours(fields), std::nullopt);
+    fields.voltage = 0.5;
+    EXPECT_EQ(fullChargeWattHours(fields), 2.0);
+    fields.rawMaxCapacity = 101;
+    EXPECT_DOUBLE_EQ(fullChargeWattHours(fields).value(), 0.0505);
+    fields.rawMaxCapacity = 100;
+    EXPECT_EQ(fullChargeWattHours(fields), std::nullopt);
+    fields.rawMaxCapacity = 4000;
+    fields.hasBattery = false;
+    EXPECT_EQ(fullChargeWattHours(fields), std::nullopt);
+}
+
 TEST(SleepBetween, TellsWhatTheNightTook) {
     const auto sleep = sleepBetween(moment(midnight - 7200, 0, 25), moment(midnight + 7200, 14390, 23));
     ASSERT_TRUE(sleep);
@@ -82,6 +111,16 @@ TEST(SecondsBetween, AreThoseOfTheComputersOwnClocks) {
     auto after = moment(midnight + 100, 60);
     after.time -= 5000;
     EXPECT_EQ(secondsBetween(moment(midnight, 0), after), 100);
+}
+
+TEST(SecondsBetween, AreThoseOfTheWallClockWhereEitherOfTheComputersClocksWentBack) {
+    const BatteryMoment before{.time = midnight, .sinceBoot = TimeSinceBoot{.awake = 3600, .asleep = 600}};
+    const auto since = [&](double awake, double asleep) {
+        return secondsBetween(before, {.time = midnight + 7, .sinceBoot = TimeSinceBoot{awake, asleep}});
+    };
+    EXPECT_EQ(since(3600, 600), 0);
+    EXPECT_EQ(since(3599.5, 700), 7);
+    EXPECT_EQ(since(3700, 599.5), 7);
 }
 
 TEST(SecondsBetween, AreThoseOfTheWallClockWhereNothingElseTells) {

@@ -85,14 +85,25 @@ TEST_F(BatteryPredictionTest, PredictsTheTimeToFull) {
     EXPECT_EQ(fields.predictedTime.get(), "~1h 30m to full");
 }
 
+TEST_F(BatteryPredictionTest, PredictsDaysWhereTheChargeHardlyMoves) {
+    predict(50, 51, 7200, 51); // half a percent an hour
+    EXPECT_EQ(fields.predictedTime.get(), "~98h 0m to full");
+    predict(51, 50, 7200, 50);
+    EXPECT_EQ(fields.predictedTime.get(), "~100h 0m remaining");
+}
+
 TEST_F(BatteryPredictionTest, WritesHoursOfZeroAndPadsNothing) {
     predict(90, 97, 180, 97); // 140 %/hr: 1.28 minutes
     EXPECT_EQ(fields.predictedTime.get(), "~0h 1m to full");
     predict(80, 70, 600, 5); // -60 %/hr: 5 minutes
     EXPECT_EQ(fields.predictedTime.get(), "~0h 5m remaining");
+    predict(80, 70, 600, 1);
+    EXPECT_EQ(fields.predictedTime.get(), "~0h 1m remaining");
 }
 
 TEST_F(BatteryPredictionTest, KnowsAFullBatteryWhileTheChargeRises) {
+    predict(98, 99, 600, 99);
+    EXPECT_EQ(fields.predictedTime.get(), "~0h 10m to full");
     predict(95, 100, 600, 100);
     EXPECT_EQ(fields.batteryRateStr.get(), "+30.0%/hr");
     EXPECT_EQ(fields.predictedTime.get(), "fully charged");
@@ -116,8 +127,10 @@ TEST_F(BatteryPredictionTest, TakesASecondForTheLeastSpan) {
     predict(50, 51, -300, 51); // the clock was set back
     EXPECT_EQ(fields.batteryRateStr.get(), "+3600.0%/hr");
     EXPECT_EQ(fields.predictedTime.get(), "~0h 0m to full");
-    predict(50, 51, 1.0, 51);
+    predict(50, 51, 0.95, 51);
     EXPECT_EQ(fields.batteryRateStr.get(), "+3600.0%/hr");
+    predict(50, 51, 1.05, 51);
+    EXPECT_EQ(fields.batteryRateStr.get(), "+3428.6%/hr");
 }
 
 TEST_F(BatteryPredictionTest, WritesTheRateFirstWhereThereIsOneAndThePredictionFirstElsewhere) {
@@ -151,6 +164,11 @@ TEST_F(MinutesToLimit, FollowTheSlopeOfThePrediction) {
     EXPECT_EQ(minutesToLimit(rising, fields), 2.0);
     fields.batteryPercent = 80;
     EXPECT_EQ(minutesToLimit(rising, fields), std::nullopt);
+}
+
+TEST_F(MinutesToLimit, MayBeDays) {
+    rising = recordOf({{start, 50}, {start + 300, 50}, {start + 7200, 51}}); // half a percent an hour
+    EXPECT_EQ(minutesToLimit(rising, fields), 3000.0);
 }
 
 TEST_F(MinutesToLimit, AreNoneWhereChargingWillNotStopThere) {

@@ -113,6 +113,9 @@ TEST_F(BatteryReadingTest, TruncatesThePercentage) {
     EXPECT_EQ(fields.batteryPercent, 99);
     publish(PropertyTable{{"AppleRawMaxCapacity", 5000}, {"AppleRawCurrentCapacity", 5100}});
     EXPECT_EQ(fields.batteryPercent, 100);
+    publish(
+        PropertyTable{{"AppleRawMaxCapacity", 1}, {"AppleRawCurrentCapacity", 0}, {"CurrentCapacity", 50}});
+    EXPECT_EQ(fields.batteryPercent, 0);
     publish(PropertyTable{{"AppleRawMaxCapacity", 5000}, {"AppleRawCurrentCapacity", -51}});
     EXPECT_EQ(fields.batteryPercent, -1);
 }
@@ -144,6 +147,8 @@ TEST_F(BatteryReadingTest, ComparesTheFullCapacityWithTheDesign) {
 }
 
 TEST_F(BatteryReadingTest, TakesAFullCapacityOfAHundredOrLessForAPercentage) {
+    publish(PropertyTable{{"DesignCapacity", 1}, {"AppleRawMaxCapacity", 101}, {"MaxCapacity", 93}});
+    EXPECT_EQ(fields.batteryHealth, 100);
     publish(PropertyTable{{"DesignCapacity", 5000}, {"AppleRawMaxCapacity", 100}, {"MaxCapacity", 93}});
     EXPECT_EQ(fields.batteryHealth, 93);
     publish(PropertyTable{{"DesignCapacity", 5000}, {"AppleRawMaxCapacity", 100}});

@@ -18,6 +18,7 @@ TEST(MenuBarDisplay, IsFoundByItsRawValue) {
 }
 
 TEST(MenuBarDisplay, IsFoundByNothingElse) {
+    EXPECT_EQ(rawValue(MenuBarDisplay{9}), "");
     for (const auto* text : {"", "Power", "power (w)", "Battery% ", "Watts"}) {
         EXPECT_EQ(menuBarDisplay(text), std::nullopt) << text;
     }

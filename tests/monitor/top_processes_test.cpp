@@ -27,6 +27,11 @@ TEST(TopProcesses, GetNoWattsWithoutCpuUsage) {
     EXPECT_THAT(*topProcesses("%CPU COMM\n25.0 editor\n", -1.0, 2.0), ElementsAre(Row{"editor", 25.0, 0.0}));
 }
 
+TEST(TopProcesses, GetWattsForTheSmallestShareAndNoneForLess) {
+    EXPECT_THAT(*topProcesses("%CPU COMM\n0.1 a\n-0.1 b\n", 0.1, 2.0),
+                ElementsAre(Row{"a", 0.1, 2.0}, Row{"b", -0.1, 0.0}));
+}
+
 TEST(TopProcesses, KeepTheBlanksWithinTheirNames) {
     const auto rows = topProcesses("%CPU COMM\n 3.2 Web Content Helper\n1.0  two before\n", 1.0, 1.0);
     EXPECT_THAT(*rows, ElementsAre(Row{"Web Content Helper", 3.2, 3.2}, Row{" two before", 1.0, 1.0}));

@@ -37,6 +37,7 @@ void become(const std::vector<std::string>& words, const Environment& environmen
         ::setenv(name.c_str(), value.c_str(), 1);
     }
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const auto& word : words) {
         arguments.push_back(const_cast<char*>(word.c_str()));
     }
@@ -86,10 +87,12 @@ TerminalProgram::TerminalProgram(const std::vector<std::string>& words, int colu
     terminal_ = FileDescriptor(terminal);
 }
 
+// Asked and not killed, so that it leaves behind what it always does, the counts of its lines among it.
 TerminalProgram::~TerminalProgram() {
     if (process_ > 0) {
-        ::kill(process_, SIGKILL);
-        ::waitpid(process_, nullptr, 0);
+        signal(SIGTERM);
+        signal(SIGCONT); // or else it would stay as it was stopped
+        static_cast<void>(end());
     }
 }
 

@@ -36,7 +36,7 @@ public:
                     const Environment& environment = {});
     TerminalProgram(const TerminalProgram&) = delete;
     TerminalProgram& operator=(const TerminalProgram&) = delete;
-    ~TerminalProgram(); // ends the program
+    ~TerminalProgram(); // ends the program, which has to heed SIGTERM
 
     // Reads what the program shows until the text comes, and gives all of it; fails the test after some
     // seconds.

@@ -26,6 +26,10 @@ protected:
 TEST_F(FilledTemplateTest, HoldsTheFiguresWithoutUnits) {
     EXPECT_EQ(filled("{watts} W {percent} % {time}"), "12 W 80 % ~3h 12m remaining");
     EXPECT_EQ(filled("{cpu}|{temperature}|{today}|{state}|{title}"), "8|30.8|1.1|discharging|-12W");
+    fields.batteryRateStr = "-12.0%/hr";
+    fields.batteryHealth = 91;
+    fields.voltage = 11.437;
+    EXPECT_EQ(filled("{rate}|{health}|{volts}"), "-12.0%/hr|91|11.44");
     EXPECT_EQ(filled("no figure"), "no figure");
 }
 

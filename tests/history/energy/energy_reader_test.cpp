@@ -30,7 +30,7 @@ TEST_F(EnergyReaderTest, BeginsOtherRangesWithTheFirstHourThatReachesIntoThem) {
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 24 * anHour);
     clock.time += 0.5 * anHour;
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 24 * anHour);
-    EXPECT_EQ(reader.byHour(EnergyRange::sevenDays).front().start, noonSecond - 7 * 24 * anHour);
+    EXPECT_EQ(reader.byHour(EnergyRange::sevenDays).front().start, noonSecond - 7 * 24LL * anHour);
     clock.time += 0.5 * anHour;
     EXPECT_EQ(reader.byHour(EnergyRange::twentyFourHours).front().start, noonSecond - 23 * anHour);
     EXPECT_EQ(reader.byHour(EnergyRange::thirtyDays).size(), 30 * 24U);
@@ -41,6 +41,13 @@ TEST_F(EnergyReaderTest, TellsTheLargestFirstAndEqualOnesByName) {
     EXPECT_THAT(reader.byApp(EnergyRange::today),
                 ElementsAre(NamedEnergy{"c", 2}, NamedEnergy{"a", 1}, NamedEnergy{"b", 1}));
     EXPECT_THAT(reader.byComponent(EnergyRange::today), ElementsAre(NamedEnergy{"cpu", 4}));
+}
+
+TEST_F(EnergyReaderTest, TellsThoseFirstThatAreLargestInSum) {
+    add(noonSecond - anHour, {{"steady", 2}, {"sudden", 3}});
+    add(noonSecond, {{"steady", 2}});
+    EXPECT_THAT(reader.byApp(EnergyRange::today),
+                ElementsAre(NamedEnergy{"steady", 4}, NamedEnergy{"sudden", 3}));
 }
 
 TEST_F(EnergyReaderTest, PassesOverWhatANewerProgramWrote) {
@@ -85,11 +92,21 @@ TEST(EnergyByDay, PutsTheHoursOfADayTogether) {
 }
 
 TEST(EnergyRanges, AreFoundByTheirNames) {
-    for (const auto range : allEnergyRanges) {
-        EXPECT_EQ(energyRange(rawValue(range)), range);
-        EXPECT_FALSE(label(range).empty());
+    const std::tuple<EnergyRange, const char*, const char*> names[] = {
+        {EnergyRange::today, "today", "Today"},
+        {EnergyRange::twentyFourHours, "24h", "24 Hours"},
+        {EnergyRange::sevenDays, "7d", "7 Days"},
+        {EnergyRange::thirtyDays, "30d", "30 Days"},
+        {EnergyRange::sinceUnplugged, "since-unplugged", "On Battery"}};
+    EXPECT_EQ(std::size(names), allEnergyRanges.size());
+    for (const auto& [range, raw, shown] : names) {
+        EXPECT_EQ(rawValue(range), raw);
+        EXPECT_EQ(energyRange(raw), range);
+        EXPECT_EQ(label(range), shown);
     }
     EXPECT_EQ(energyRange("yesterday"), std::nullopt);
+    EXPECT_EQ(rawValue(EnergyRange{9}), "");
+    EXPECT_EQ(label(EnergyRange{9}), "");
 }
 
 } // namespace

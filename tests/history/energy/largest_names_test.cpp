@@ -18,6 +18,8 @@ TEST(LargestNames, CountWhatIsKnownAndWhatIsAddedTogether) {
     EXPECT_THAT(beyondLargest(2, {{"a", 3}, {"b", 1}}, {{"b", 3}, {"c", 3.5}}), UnorderedElementsAre("a"));
     EXPECT_THAT(beyondLargest(1, {{"a", 3}, {"b", 1}}, {{"b", 1}, {"c", 2.5}}),
                 UnorderedElementsAre("b", "c"));
+    EXPECT_THAT(beyondLargest(1, {{"a", 3}}, {{"b", 2.5}}), UnorderedElementsAre("b"));
+    EXPECT_THAT(beyondLargest(1, {{"a", 2}}, {{"b", 2.5}}), UnorderedElementsAre("a"));
 }
 
 TEST(LargestNames, OfEqualOnesAreTheFirstByName) {

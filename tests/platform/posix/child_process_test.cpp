@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include "support/descriptor_limit.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
@@ -53,6 +54,11 @@ TEST(OutputOf, LetsTheProgramReadNothing) {
 TEST(OutputOf, GivesNothingWhereTheProgramCannotBeStarted) {
     EXPECT_EQ(outputOf({"/nonexistent/program"}, environmentVariables()), std::nullopt);
     EXPECT_EQ(outputOf({}, environmentVariables()), std::nullopt);
+}
+
+TEST(OutputOf, IsNothingWhereNoMoreFilesMayBeOpen) {
+    const DescriptorLimit none(0);
+    EXPECT_EQ(outputOf({"true"}, {}), std::nullopt);
 }
 
 TEST(OutputOf, LeavesNoDescriptorBehind) {

@@ -2,6 +2,7 @@
 
 #include <random>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "monitor/power_monitor.h"
@@ -80,6 +81,24 @@ TEST(MachineRecorder, NotesTheApplicationsAndTheClockSinceBootOfEachCycleAndPlay
     static_cast<void>(machine->readBattery());
     EXPECT_EQ(machine->applicationListing(), "%CPU APPLICATION\n5.00 Browser\n");
     EXPECT_EQ(machine->sinceBoot(), (TimeSinceBoot{.awake = 100.5, .asleep = 7}));
+}
+
+TEST(MachineRecorder, LeavesTheHelperAndItsInstallerToTheRealComputer) {
+    fake::Computer computer;
+    computer.helper.detailsText = "details";
+    computer.installer.manager = PackageManager::apt;
+    MachineRecorder recorder(computer.platform());
+    const auto platform = recorder.platform();
+    EXPECT_EQ(platform.helperFolder->details(), "details");
+    EXPECT_FALSE(platform.helperFolder->detailsChanged());
+    EXPECT_TRUE(platform.helperFolder->replaceConfig("{}"));
+    EXPECT_EQ(computer.helper.configText, "{}");
+    EXPECT_EQ(platform.helperInstaller->packageManager(), PackageManager::apt);
+    EXPECT_TRUE(platform.helperInstaller->install());
+    EXPECT_TRUE(platform.helperInstaller->uninstall());
+    EXPECT_TRUE(platform.helperInstaller->uninstallEverything());
+    EXPECT_THAT(computer.installer.wishes,
+                testing::ElementsAre("install", "uninstall", "uninstall everything"));
 }
 
 TEST(MachineRecorder, NotesNoDrawWhereNothingWasDrawn) {

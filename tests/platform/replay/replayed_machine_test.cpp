@@ -55,6 +55,13 @@ TEST_F(ReplayedMachineTest, TellsTheHelpersFilesOfTheLineAlsoBeforeTheFirstCycle
     EXPECT_EQ(machine.helperConfig(), std::nullopt);
 }
 
+TEST_F(ReplayedMachineTest, InstallsAndRemovesNothing) {
+    auto machine = replay({{.time = 1'700'000'000}});
+    EXPECT_FALSE(machine.install());
+    EXPECT_FALSE(machine.uninstall());
+    EXPECT_FALSE(machine.uninstallEverything());
+}
+
 TEST_F(ReplayedMachineTest, StaysAtItsLastLine) {
     auto machine = replay({{.time = 1}, {.time = 2}});
     EXPECT_FALSE(machine.isAtLastLine());

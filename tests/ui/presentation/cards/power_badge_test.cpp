@@ -113,6 +113,8 @@ TEST_F(PowerBadgeTest, SaysThatABatteryOnTheAdapterTakesNothing) {
     fields.isCharging = true;
     EXPECT_EQ(powerBadge(fields), charging);
     fields.isCharging = false;
+    fields.voltage = 0.01;
+    EXPECT_EQ(powerBadge(fields), restingBadge);
     fields.voltage = 0; // nothing has been read
     EXPECT_EQ(powerBadge(fields), charging);
 }

@@ -1,5 +1,6 @@
 #include "ui/presentation/elements/elements.h"
 
+#include <cmath>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -25,6 +26,13 @@ TEST(Bar, NeitherOverflowsNorFallsBelowEmpty) {
     for (const double part : {-0.1, -1e300, -infinity, notANumber}) {
         EXPECT_EQ(bar(part, 40, ColorName::red).fraction, 0.0) << part;
     }
+    EXPECT_FALSE(std::signbit(bar(-0.0, 40, ColorName::red).fraction)); // which would read as -0%
+}
+
+TEST(Bar, IsReadAsAPercentage) {
+    EXPECT_EQ(percentText({0.0, ColorName::red}), "0%");
+    EXPECT_EQ(percentText({0.124, ColorName::red}), "12%");
+    EXPECT_EQ(percentText({1.0, ColorName::red}), "100%");
 }
 
 TEST(Text, IsNamedAfterItsColour) {

@@ -10,7 +10,7 @@ std::vector<BatteryDay> days(int count, double lossOfADay, double wobble = 0) {
     std::vector<BatteryDay> days;
     for (int i = 0; i < count; ++i) {
         const double full = 4800 - lossOfADay * i + (i % 2 == 0 ? wobble : -wobble);
-        days.push_back({.day = 19'000 * 86'400 + i * 86'400LL,
+        days.push_back({.day = 19'000LL * 86'400 + i * 86'400LL,
                         .fullCapacity = static_cast<std::int64_t>(full),
                         .designCapacity = 5000});
     }
@@ -21,6 +21,7 @@ TEST(Health, IsFullChargeRelativeToDesign) {
     EXPECT_EQ(healthPercent({.fullCapacity = 4500, .designCapacity = 5000}), 90.0);
     EXPECT_EQ(healthPercent({.fullCapacity = 4500}), std::nullopt);
     EXPECT_EQ(healthPercent({.fullCapacity = 4500, .designCapacity = 0}), std::nullopt);
+    EXPECT_EQ(healthPercent({.fullCapacity = 1, .designCapacity = 1}), 100.0);
 }
 
 TEST(Ageing, TakesSixtyDays) {
@@ -53,6 +54,8 @@ TEST(Ageing, IsOfTheDaysThatAreThere) {
 TEST(Ageing, IsNotSeenWhereTheCapacityStaysOrGrows) {
     EXPECT_EQ(ageingText(days(100, 0)), "no ageing to be seen");
     EXPECT_EQ(ageingText(days(100, -1)), "no ageing to be seen");
+    EXPECT_EQ(ageingText(days(100, 0.074)), "no ageing to be seen");
+    EXPECT_EQ(ageingText(days(100, 0.09)), "about 0.1 % a month");
 }
 
 } // namespace

@@ -29,11 +29,13 @@ TEST(HealthChart, TellsItsLargestAndSmallestValue) {
 }
 
 TEST(HealthChart, TellsTheDayUnderThePointer) {
-    for (const auto* rule : {"UTC0", "EST5", "IST-5:30"}) {
+    for (const auto* rule : {"UTC0", "EST5", "IST-5:30", "AAA12", "BBB-11:59:59"}) {
         const TimeZone zone(rule);
         EXPECT_EQ(healthReadOut(fourDays, size, 1)->label, "95.0%  1970-01-02");
     }
     EXPECT_EQ(healthReadOut(fourDays, size, 1)->point, (ChartPoint{100, 27.5}));
+    EXPECT_EQ(healthReadOut(fourDays, size, 0)->labelCentre, (ChartPoint{60, 10}));
+    EXPECT_EQ(healthReadOut(fourDays, size, 3)->labelCentre, (ChartPoint{340, 75}));
     EXPECT_EQ(healthReadOut(fourDays, size, 4), std::nullopt);
 }
 
