@@ -64,7 +64,7 @@ protected:
         QAccessible::setActive(true);
     }
 
-    ~Accessibility() override { QAccessible::setActive(false); }
+    void TearDown() override { QAccessible::setActive(false); }
 
     [[nodiscard]] std::string tree() {
         std::string text;

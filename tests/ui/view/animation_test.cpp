@@ -23,6 +23,9 @@ class Time final : public QAnimationDriver {
 public:
     Time() { install(); }
 
+    Time(const Time&) = delete;
+    Time& operator=(const Time&) = delete;
+
     ~Time() override { uninstall(); }
 
     // Of what glides in the view as well.
@@ -190,7 +193,7 @@ protected:
         settle();
     }
 
-    ~Drawing() override { view.item().setParentItem(nullptr); }
+    void TearDown() override { view.item().setParentItem(nullptr); }
 
     void settle() {
         time.pass(1000);
