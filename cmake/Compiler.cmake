@@ -36,6 +36,12 @@ endif()
 # Each program gets what it uses of a library, and not all that stands in the same file.
 target_compile_options(quelby_rules INTERFACE -ffunction-sections -fdata-sections)
 target_link_options(quelby_rules INTERFACE $<IF:$<PLATFORM_ID:Darwin>,-Wl$<COMMA>-dead_strip,-Wl$<COMMA>--gc-sections>)
+# What nobody installs is linked by whichever linker is five times as quick.
+find_program(QUELBY_QUICK_LINKER ld.lld HINTS /usr/lib/llvm-16/bin)
+if(QUELBY_QUICK_LINKER AND NOT APPLE)
+    cmake_path(GET QUELBY_QUICK_LINKER PARENT_PATH quick_linker_folder)
+    target_link_options(quelby_rules INTERFACE $<$<CONFIG:Debug>:-B${quick_linker_folder}> $<$<CONFIG:Debug>:-fuse-ld=lld>)
+endif()
 # Qt would otherwise take words such as "signals" for itself.
 target_compile_definitions(quelby_rules INTERFACE QT_NO_KEYWORDS)
 target_include_directories(quelby_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
