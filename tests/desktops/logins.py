@@ -2,19 +2,17 @@
 """A person's two logins on LXQt with a real session manager: the program starts with the session, the computer sleeps,
 the person logs out and in again, and the computer shuts down. Every ending is clean, and the history has it all."""
 
+import json
 import os
 import signal
 import sqlite3
-import subprocess
 import sys
 import time
 
 from lxqt import Lxqt
-from session import Session, eventually
+from session import ROOT, Session, eventually
 
-BATTERY = {"type": "Battery", "present": 1, "status": "Discharging", "capacity": 72, "voltage_now": 11528000,
-           "charge_full_design": 5088000, "charge_full": 4610000, "charge_now": 3360000, "current_now": 1450000,
-           "cycle_count": 212, "manufacturer": "maker", "technology": "Li-ion"}
+MACHINE = "thinkpad-w540-discharging"
 PANEL_ENTRY = "[Desktop Entry]\nType=Application\nName=Panel\nExec=lxqt-panel\nX-LXQt-Module=true\n"
 # It tells how the program ended, whoever of the two is asked to end.
 WATCHED = """#!/bin/sh
@@ -35,6 +33,12 @@ def require(condition, what):
         raise SystemExit(f"two logins: {what}")
 
 
+def supplies(machine):
+    """Those of a recorded machine."""
+    with open(os.path.join(ROOT, "tests/data/battery-machines.json"), encoding="utf-8") as file:
+        return next(each["supplies"] for each in json.load(file) if each["name"] == machine)
+
+
 class Person:
     """Has an account with a history, and logs in and out."""
 
@@ -42,8 +46,9 @@ class Person:
         self.session = session
         self.history = session.path("data/Quelby/history.db")
         self.statuses = session.path("statuses")
-        for name, value in BATTERY.items():
-            session.write(f"sys/class/power_supply/BAT0/{name}", f"{value}\n")
+        for supply, attributes in supplies(MACHINE).items():
+            for name, value in attributes.items():
+                session.write(f"sys/class/power_supply/{supply}/{name}", f"{value}\n")
         watched = session.write("programs/watched", WATCHED.format(
             program=session.quelby[0], sysfs=session.path("sys"), statuses=self.statuses))
         os.chmod(watched, 0o755)
@@ -72,10 +77,9 @@ class Person:
 
     def processes(self):
         """All that run in the account's session."""
-        listing = subprocess.run(["ps", "-eo", "pid="], capture_output=True, text=True, check=True).stdout.split()
         mine = f"HOME={self.session.folder}".encode()
         found = []
-        for pid in listing:
+        for pid in filter(str.isdigit, os.listdir("/proc")):
             try:
                 with open(f"/proc/{pid}/environ", "rb") as environment:
                     if mine in environment.read().split(b"\0"):
