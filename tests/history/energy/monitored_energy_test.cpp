@@ -125,6 +125,23 @@ TEST_F(MonitoredEnergy, IsNotLostWhileTheDiskIsFull) {
     EXPECT_TRUE(Database(historyFile(folder.path())).isSound());
 }
 
+TEST_F(MonitoredEnergy, KeepsTheLatestThirtySleepsOfATimeWithoutRoom) {
+    start();
+    cycle(30);
+    const auto first = clock.time;
+    {
+        const FileSizeLimit full(std::filesystem::file_size(historyFile(folder.path()).string() + "-wal"));
+        for (int i = 0; i < 31; ++i) {
+            pass(3, 3600);
+            fire();
+        }
+    }
+    cycle(30);
+    const auto sleeps = kept().sleeps();
+    ASSERT_THAT(sleeps, SizeIs(30));
+    EXPECT_GT(sleeps.back().start, first + 3600);
+}
+
 TEST_F(MonitoredEnergy, IsSilentWithoutAHistory) {
     computer.folders.support = "/proc/nowhere";
     start();
