@@ -5,8 +5,6 @@
 #include <QGuiApplication>
 #include <QScreen>
 
-#include "app/linux/popover/edge_panels.h"
-
 namespace quelby::app {
 
 namespace {
@@ -74,10 +72,10 @@ QMargins reservedBy(const std::vector<Strut>& struts, QRect screen, QSize deskto
     return all;
 }
 
-std::vector<DesktopScreen> desktopScreens() {
+std::vector<DesktopScreen> desktopScreens(EdgePanels& edgePanels) {
     const bool x11 = QGuiApplication::platformName() == QLatin1String("xcb");
     const auto panels = x11 ? panelStruts() : PanelStruts();
-    const auto otherPanels = x11 ? std::vector<EdgePanel>() : edgePanels();
+    const auto otherPanels = x11 ? std::vector<EdgePanel>() : edgePanels.present();
     std::vector<DesktopScreen> screens;
     for (const auto* const screen : QGuiApplication::screens()) {
         const double scale = x11 ? screen->devicePixelRatio() : 1; // elsewhere all is told in points

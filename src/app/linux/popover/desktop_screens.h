@@ -5,6 +5,7 @@
 
 #include <QSize>
 
+#include "app/linux/popover/edge_panels.h"
 #include "app/linux/popover/panel_struts.h"
 #include "app/linux/popover/popover_place.h"
 
@@ -14,6 +15,6 @@ namespace quelby::app {
 [[nodiscard]] QMargins reservedBy(const std::vector<Strut>& struts, QRect screen, QSize desktop);
 
 // Needs Qt's application object. At least one.
-[[nodiscard]] std::vector<DesktopScreen> desktopScreens();
+[[nodiscard]] std::vector<DesktopScreen> desktopScreens(EdgePanels& edgePanels);
 
 } // namespace quelby::app

@@ -4,8 +4,8 @@
 #include <array>
 #include <utility>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
+#include <QGuiApplication>
 #include <QString>
 #include <nlohmann/json.hpp>
 
@@ -16,7 +16,10 @@ namespace quelby::app {
 
 namespace {
 
-constexpr int patience = 150; // ms
+using namespace std::chrono_literals;
+
+constexpr auto usualPatience = 150ms;
+constexpr auto patienceAtFirst = 1s; // most of which goes into making the dashboard
 
 // Those that hide keep nothing free.
 const auto script = QStringLiteral("panels().forEach(function(panel) {"
@@ -28,28 +31,20 @@ constexpr std::array edgesByName{
     std::pair(QLatin1String("top"), Qt::TopEdge), std::pair(QLatin1String("bottom"), Qt::BottomEdge),
     std::pair(QLatin1String("left"), Qt::LeftEdge), std::pair(QLatin1String("right"), Qt::RightEdge)};
 
-std::vector<EdgePanel> panelsOfPlasma() {
-    if (sessionBusIsSilent()) {
-        return {};
-    }
-    auto question = QDBusMessage::createMethodCall(
-        QStringLiteral("org.kde.plasmashell"), QStringLiteral("/PlasmaShell"),
-        QStringLiteral("org.kde.PlasmaShell"), QStringLiteral("evaluateScript"));
-    question.setAutoStartService(false);
-    question.setArguments({script});
-    const auto answer = QDBusConnection::sessionBus().call(question, QDBus::Block, patience);
-    return plasmaPanels(answer.arguments().value(0).toString().toStdString());
-}
-
-std::vector<EdgePanel> panelsOfSway() {
-    const auto sway = SwaySocket::connect();
-    return sway ? swayPanels(sway->ask(SwaySocket::Request::workspaces, patience),
-                             sway->ask(SwaySocket::Request::outputs, patience))
-                : std::vector<EdgePanel>();
+bool onX11() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 bool isPlasma() {
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(':').contains(QLatin1String("KDE"));
+}
+
+std::vector<EdgePanel> panelsOfSway() {
+    const auto sway = SwaySocket::connect();
+    const auto patience = static_cast<int>(usualPatience.count());
+    return sway ? swayPanels(sway->ask(SwaySocket::Request::workspaces, patience),
+                             sway->ask(SwaySocket::Request::outputs, patience))
+                : std::vector<EdgePanel>();
 }
 
 using Json = nlohmann::json;
@@ -90,8 +85,45 @@ void appendAround(QRect workspace, QRect output, std::vector<EdgePanel>& panels)
 
 } // namespace
 
-std::vector<EdgePanel> edgePanels() {
-    return isPlasma() ? panelsOfPlasma() : panelsOfSway();
+EdgePanels::EdgePanels() : patience_(usualPatience) {
+    if (!onX11() && isPlasma() && !sessionBusIsSilent()) {
+        plasma_ = QDBusConnection::sessionBus();
+        askPlasma(patienceAtFirst);
+    }
+}
+
+EdgePanels::EdgePanels(const QDBusConnection& plasma, std::chrono::milliseconds patience)
+    : plasma_(plasma), patience_(patience) {
+    askPlasma(patienceAtFirst);
+}
+
+const std::vector<EdgePanel>& EdgePanels::present() {
+    if (!plasma_) {
+        known_ = panelsOfSway();
+        return known_;
+    }
+    if (!question_) {
+        askPlasma(patience_);
+    }
+    hearPlasma();
+    return known_;
+}
+
+void EdgePanels::askPlasma(std::chrono::milliseconds patience) {
+    auto question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.kde.plasmashell"), QStringLiteral("/PlasmaShell"),
+        QStringLiteral("org.kde.PlasmaShell"), QStringLiteral("evaluateScript"));
+    question.setAutoStartService(false);
+    question.setArguments({script});
+    question_ = plasma_->asyncCall(question, static_cast<int>(patience.count()));
+}
+
+void EdgePanels::hearPlasma() {
+    question_->waitForFinished();
+    if (!question_->isError()) {
+        known_ = plasmaPanels(question_->reply().arguments().value(0).toString().toStdString());
+    }
+    question_.reset();
 }
 
 std::vector<EdgePanel> plasmaPanels(std::string_view answer) {

@@ -1,9 +1,13 @@
 // The panels of desktops of Wayland, on which nobody tells programs of them, as their own programs have it.
 #pragma once
 
+#include <chrono>
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include <QDBusConnection>
+#include <QDBusPendingCall>
 #include <QMargins>
 #include <QRect>
 
@@ -17,8 +21,28 @@ struct EdgePanel {
     bool operator==(const EdgePanel&) const = default;
 };
 
-// Asks the desktop that this session is of. None where it is none of those below, or does not answer soon.
-[[nodiscard]] std::vector<EdgePanel> edgePanels();
+// Those of one desktop. Plasma's shell is asked already when this is made, and has until the first call to answer: it needs
+// its time while the session begins.
+class EdgePanels {
+public:
+    EdgePanels(); // of the desktop that this session is of
+
+    // Of Plasma's shell on this bus, with so much patience for an answer in front of a person who waits.
+    EdgePanels(const QDBusConnection& plasma, std::chrono::milliseconds patience);
+
+    // As they are now. As they were when the desktop does not answer soon; none where it never has, or is none of those
+    // below.
+    [[nodiscard]] const std::vector<EdgePanel>& present();
+
+private:
+    void askPlasma(std::chrono::milliseconds patience);
+    void hearPlasma();
+
+    std::optional<QDBusConnection> plasma_; // none on other desktops
+    std::chrono::milliseconds patience_;
+    std::optional<QDBusPendingCall> question_; // as long as it is open
+    std::vector<EdgePanel> known_;
+};
 
 // From the answer of Plasma's shell to a script: a line for each panel, with its screen's corner, its edge and its depth
 // ("0 0 bottom 44"). What is not understood is left out.

@@ -25,9 +25,14 @@ struct LayerStage::Catcher {
     std::unique_ptr<LayerSurface> surface;
 };
 
-LayerStage::LayerStage(std::unique_ptr<LayerShell> shell, QQuickWindow& window, const ItemPress& press,
-                       QSize size, Listener listener)
-    : shell_(std::move(shell)), window_(window), press_(press), size_(size), listener_(std::move(listener)) {
+LayerStage::LayerStage(std::unique_ptr<LayerShell> shell, QQuickWindow& window, EdgePanels& panels,
+                       const ItemPress& press, QSize size, Listener listener)
+    : shell_(std::move(shell))
+    , window_(window)
+    , panels_(panels)
+    , press_(press)
+    , size_(size)
+    , listener_(std::move(listener)) {
     window_.setFlags(ofTheDesktop);
     catchPresses();
     waiting_.setSingleShot(true);
@@ -78,7 +83,7 @@ void LayerStage::pointerIsAt(QPoint point) {
 
 void LayerStage::bringPopover() {
     waiting_.stop();
-    const auto screens = desktopScreens();
+    const auto screens = desktopScreens(panels_);
     const auto place = popoverPlace({.told = std::nullopt, .pointer = press_.pointer}, screens, size_);
     auto* const screen = QGuiApplication::screens().at(static_cast<qsizetype>(place.screen));
     window_.setScreen(screen);

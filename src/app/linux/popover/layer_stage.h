@@ -15,8 +15,8 @@ namespace quelby::app {
 // up, and of all presses afterwards, which then nobody else is told of.
 class LayerStage final : public PopoverStage {
 public:
-    LayerStage(std::unique_ptr<LayerShell> shell, QQuickWindow& window, const ItemPress& press, QSize size,
-               Listener listener);
+    LayerStage(std::unique_ptr<LayerShell> shell, QQuickWindow& window, EdgePanels& panels,
+               const ItemPress& press, QSize size, Listener listener);
     LayerStage(const LayerStage&) = delete;
     LayerStage& operator=(const LayerStage&) = delete;
     ~LayerStage() override;
@@ -32,6 +32,7 @@ private:
 
     std::unique_ptr<LayerShell> shell_;
     QQuickWindow& window_;
+    EdgePanels& panels_;
     ItemPress press_;
     QSize size_;
     Listener listener_;

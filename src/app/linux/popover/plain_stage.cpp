@@ -9,8 +9,12 @@
 
 namespace quelby::app {
 
-PlainStage::PlainStage(QQuickWindow& window, const ItemPress& press, QSize size, Listener listener)
-    : window_(window), listener_(std::move(listener)), system_(windowSystem()), screens_(desktopScreens()) {
+PlainStage::PlainStage(QQuickWindow& window, EdgePanels& panels, const ItemPress& press, QSize size,
+                       Listener listener)
+    : window_(window)
+    , listener_(std::move(listener))
+    , system_(windowSystem())
+    , screens_(desktopScreens(panels)) {
     window_.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
     place(press, size);
     keepOutOfWindowLists(window_);

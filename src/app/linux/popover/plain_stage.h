@@ -14,7 +14,8 @@ namespace quelby::app {
 // alone.
 class PlainStage final : public PopoverStage {
 public:
-    PlainStage(QQuickWindow& window, const ItemPress& press, QSize size, Listener listener);
+    PlainStage(QQuickWindow& window, EdgePanels& panels, const ItemPress& press, QSize size,
+               Listener listener);
     PlainStage(const PlainStage&) = delete;
     PlainStage& operator=(const PlainStage&) = delete;
     ~PlainStage() override;

@@ -5,12 +5,13 @@
 
 namespace quelby::app {
 
-std::unique_ptr<PopoverStage> enterStage(QQuickWindow& window, const ItemPress& press, QSize size,
-                                         PopoverStage::Listener listener) {
+std::unique_ptr<PopoverStage> enterStage(QQuickWindow& window, EdgePanels& panels, const ItemPress& press,
+                                         QSize size, PopoverStage::Listener listener) {
     if (auto shell = LayerShell::find()) {
-        return std::make_unique<LayerStage>(std::move(shell), window, press, size, std::move(listener));
+        return std::make_unique<LayerStage>(std::move(shell), window, panels, press, size,
+                                            std::move(listener));
     }
-    return std::make_unique<PlainStage>(window, press, size, std::move(listener));
+    return std::make_unique<PlainStage>(window, panels, press, size, std::move(listener));
 }
 
 } // namespace quelby::app

@@ -8,6 +8,7 @@
 
 #include <QQuickWindow>
 
+#include "app/linux/popover/edge_panels.h"
 #include "app/linux/popover/popover_place.h"
 
 namespace quelby::app {
@@ -37,8 +38,9 @@ public:
     virtual void letGo() = 0;
 };
 
-// The size is the one that it has where there is room for it. The window outlives the stage.
-[[nodiscard]] std::unique_ptr<PopoverStage> enterStage(QQuickWindow& window, const ItemPress& press,
-                                                       QSize size, PopoverStage::Listener listener);
+// The size is the one that it has where there is room for it. The window and the panels outlive the stage.
+[[nodiscard]] std::unique_ptr<PopoverStage> enterStage(QQuickWindow& window, EdgePanels& panels,
+                                                       const ItemPress& press, QSize size,
+                                                       PopoverStage::Listener listener);
 
 } // namespace quelby::app

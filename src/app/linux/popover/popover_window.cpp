@@ -138,7 +138,7 @@ void PopoverWindow::showAtTheItem(const ItemPress& press) {
     hasHadFocus_ = false;
     focusAway_.stop();
     stage_ = enterStage(
-        *window_, press, wholeView(),
+        *window_, panels_, press, wholeView(),
         {.placed = [this](QSize size, Qt::Edge panel) { placed(size, panel); },
          .itemFound = [this](QPoint pointer) { listener_.itemFound(pointer); },
          .pressedOutside = [this](std::optional<QPoint> pointer) { listener_.wentElsewhere(pointer); },

@@ -46,6 +46,7 @@ private:
     Listener listener_;
     Appearance appearance_;
     Backdrop backdrop_ = Backdrop::none;
+    EdgePanels panels_; // before the view: its answer comes while that is made
     DashboardModel model_;
     DashboardView view_;
     std::unique_ptr<QQuickWindow> window_;

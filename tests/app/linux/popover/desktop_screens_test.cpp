@@ -46,7 +46,8 @@ TEST(ReservedBy, APanelBetweenTwoScreensIsItsOwnDepthOnItsScreenOnly) {
 }
 
 TEST(DesktopScreens, AreOneAtLeast) {
-    const auto screens = desktopScreens();
+    EdgePanels panels;
+    const auto screens = desktopScreens(panels);
     ASSERT_FALSE(screens.empty());
     EXPECT_FALSE(screens.front().pixels.isEmpty());
     EXPECT_GT(screens.front().scale, 0);

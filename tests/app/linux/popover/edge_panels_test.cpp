@@ -1,8 +1,15 @@
 #include "app/linux/popover/edge_panels.h"
 
+#include <atomic>
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QThread>
 #include <fmt/format.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/linux/support/private_bus.h"
 #include "ui/support/printing.h"
 
 namespace quelby::app {
@@ -20,6 +27,72 @@ TEST(PlasmaPanels, AreNoneOfWhatIsNotUnderstood) {
           "Error: panels is not defined at line 1"}) {
         EXPECT_TRUE(plasmaPanels(answer).empty()) << answer;
     }
+}
+
+// In a thread of its own, as it is another program: who asks it waits.
+class FakePlasmaShell : public QDBusVirtualObject {
+public:
+    explicit FakePlasmaShell(const char* first) : answer(first) {
+        moveToThread(&thread_);
+        thread_.start();
+        EXPECT_TRUE(bus_->registerVirtualObject("/PlasmaShell", this));
+        EXPECT_TRUE(bus_->registerService("org.kde.plasmashell"));
+    }
+
+    FakePlasmaShell(const FakePlasmaShell&) = delete;
+    FakePlasmaShell& operator=(const FakePlasmaShell&) = delete;
+
+    ~FakePlasmaShell() override {
+        bus_->unregisterObject("/PlasmaShell");
+        thread_.quit();
+        thread_.wait();
+    }
+
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        if (const auto* const text = answer.load()) {
+            connection.send(message.createReply(QString::fromUtf8(text)));
+        } else {
+            message.setDelayedReply(true);
+        }
+        return true;
+    }
+
+    std::atomic<const char*> answer; // none: it says nothing
+
+private:
+    QThread thread_;
+    BusConnection bus_;
+};
+
+class PlasmaPanelsOnTheBus : public testing::Test {
+protected:
+    PrivateBus bus;
+    BusConnection asking;
+};
+
+TEST_F(PlasmaPanelsOnTheBus, AreAskedForEachTime) {
+    FakePlasmaShell shell("0 0 bottom 44");
+    EdgePanels panels(*asking, std::chrono::minutes(1));
+    EXPECT_EQ(panels.present(), (std::vector<EdgePanel>{{{0, 0}, Qt::BottomEdge, 44}}));
+    shell.answer = "0 0 top 30";
+    EXPECT_EQ(panels.present(), (std::vector<EdgePanel>{{{0, 0}, Qt::TopEdge, 30}}));
+    shell.answer = "";
+    EXPECT_THAT(panels.present(), testing::IsEmpty());
+}
+
+TEST_F(PlasmaPanelsOnTheBus, AreAsTheyWereWhereTheShellSaysNothing) {
+    FakePlasmaShell shell("0 0 bottom 44");
+    EdgePanels panels(*asking, std::chrono::milliseconds(1));
+    EXPECT_EQ(panels.present(), (std::vector<EdgePanel>{{{0, 0}, Qt::BottomEdge, 44}}));
+    shell.answer = nullptr;
+    EXPECT_EQ(panels.present(), (std::vector<EdgePanel>{{{0, 0}, Qt::BottomEdge, 44}}));
+}
+
+TEST_F(PlasmaPanelsOnTheBus, AreNoneWhereThereIsNoShell) {
+    EdgePanels panels(*asking, std::chrono::minutes(1));
+    EXPECT_THAT(panels.present(), testing::IsEmpty());
 }
 
 constexpr auto outputs = R"([{"name": "A", "rect": {"x": 0, "y": 0, "width": 1280, "height": 800}},
