@@ -24,7 +24,8 @@ struct ScreenshotCommand {
     double scroll = 0; // points from the top
 };
 
-using Command = std::variant<TrayCommand, HeadlessCommand, ScreenshotCommand>;
+using DesktopCommand = std::variant<TrayCommand, ScreenshotCommand>;
+using Command = std::variant<DesktopCommand, HeadlessCommand>;
 
 struct Request {
     MachineArguments arguments;

@@ -1,7 +1,6 @@
 #include "app/command_line.h"
+#include "app/desktop_program.h"
 #include "app/headless.h"
-#include "app/screenshot.h"
-#include "app/tray.h"
 #include "console/program.h"
 
 namespace quelby::app {
@@ -11,13 +10,15 @@ struct RunForm {
     const MachineArguments& arguments;
     char** argv;
 
-    int operator()(const TrayCommand& command) const { return runInTray(arguments, command, argv); }
+    int operator()(const DesktopCommand& command) const {
+        const auto program = loadDesktopProgram();
+        return program ? (*program)(arguments, command, argv)
+                       : reportOutcome("quelby", tl::make_unexpected(program.error()));
+    }
 
     int operator()(const HeadlessCommand&) const {
         return runProgram("quelby", argv, [&] { return runHeadless(arguments); });
     }
-
-    int operator()(const ScreenshotCommand& command) const { return runScreenshot(arguments, command, argv); }
 };
 
 } // namespace

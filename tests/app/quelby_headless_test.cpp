@@ -1,5 +1,7 @@
 #include <algorithm>
 #include <csignal>
+#include <fstream>
+#include <iterator>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -9,13 +11,16 @@
 #include "support/laptop_recording.h"
 #include "support/program.h"
 #include "support/quelbyctl.h"
+#include "support/running_program.h"
 #include "support/temporary_folder.h"
 
 namespace quelby {
 namespace {
 
+using testing::AnyOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 class QuelbyHeadless : public testing::Test {
@@ -69,6 +74,18 @@ TEST_F(QuelbyHeadless, EndsCleanlyWhenASignalAsksForIt) {
         EXPECT_FALSE(std::filesystem::exists(folder.path() / "Quelby" / "history.db-wal")); // closed in order
     }
     EXPECT_EQ(recordedRows(), 1);
+}
+
+// What draws would be most of its memory.
+TEST_F(QuelbyHeadless, HasNothingInMemoryThatDraws) {
+    RunningProgram program(words({"--replay", recording, "--data-dir", folder.path()}), plainEnvironment());
+    EXPECT_THAT(program.line(), HasSubstr("discharging"));
+    std::ifstream maps("/proc/" + std::to_string(program.process()) + "/maps");
+    const std::string loaded(std::istreambuf_iterator<char>(maps), {});
+    EXPECT_THAT(loaded, HasSubstr("libQt6Core"));
+    EXPECT_THAT(loaded, Not(AnyOf(HasSubstr("libQt6Gui"), HasSubstr("libQt6DBus"), HasSubstr("libxcb"))));
+    program.signal(SIGTERM);
+    EXPECT_EQ(program.end().exitStatus, 0);
 }
 
 TEST_F(QuelbyHeadless, RecordsThisComputerInTheUsersDataFolder) {

@@ -41,7 +41,7 @@ class Session:
             os.mkdir(self.environment[variable], 0o700)
         programs = os.path.join(self.folder, "programs")
         os.mkdir(programs)
-        for name in ("quelby", "quelby-dashboard.so"):
+        for name in ("quelby", "quelby-desktop.so", "quelby-dashboard.so"):
             shutil.copy(os.path.join(binaries, name), programs)
         recording = os.path.join(ROOT, "resources", "recordings", "laptop-on-battery.jsonl")
         shutil.copy(recording, programs)

@@ -56,7 +56,7 @@ expect_not "there is nothing to uninstall twice" install_it --uninstall
 expect_not "refuses a prefix that is relative" "$source_dir/install" --prefix relative --built "$build"
 
 expect "installs for a package" env DESTDIR="$work/root" cmake --install "$build" --prefix /usr
-for file in bin/quelby bin/quelbyctl lib/quelby/quelby-dashboard.so libexec/quelby/pwr_limiter \
+for file in bin/quelby bin/quelbyctl lib/quelby/quelby-desktop.so lib/quelby/quelby-dashboard.so libexec/quelby/pwr_limiter \
     libexec/quelby/run_as_root share/polkit-1/actions/com.quelby.limiter.policy; do
     expect "a package has $file" test -s "$work/root/usr/$file"
 done

@@ -20,7 +20,9 @@ for name in quelby quelbyctl quelby-limiter; do
     expect_not "everything in $name is root's" grep --invert-match ' root/root ' "$work/contents"
     expect_not "everybody may read all of $name" grep --invert-match --extended-regexp '^(-rw.r-.r-.|drwxr.xr.x|l)' "$work/contents"
 done
-expect "quelby brings its library" has quelby usr/lib/quelby/quelby-dashboard.so
+for library in quelby-desktop.so quelby-dashboard.so; do
+    expect "quelby brings $library" has quelby "usr/lib/quelby/$library"
+done
 expect "quelby brings its man page" has quelby usr/share/man/man1/quelby.1.gz
 expect "quelbyctl brings the recordings" has quelbyctl usr/share/quelby/recordings/laptop-on-battery.jsonl
 expect "the limiter brings its service" has quelby-limiter usr/lib/systemd/system/com.quelby.limiter.service

@@ -10,7 +10,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view library = "quelby-dashboard.so";
+// What lies beside each other where it was built. The libraries are elsewhere once they are installed.
+constexpr std::array<std::string_view, 2> programs{"quelby", "quelbyctl"};
+constexpr std::array<std::string_view, 2> libraries{"quelby-desktop.so", "quelby-dashboard.so"};
 
 // What our files are called, up to what says of which kind they are.
 constexpr std::array<std::string_view, 7> ourNames{
@@ -74,6 +76,11 @@ void addFile(const fs::path& file, InstalledProgram& found) {
     }
 }
 
+bool hasLibraries(const fs::path& folder) {
+    return std::any_of(libraries.begin(), libraries.end(),
+                       [&](std::string_view library) { return isThere(folder / library); });
+}
+
 void addOurs(const fs::path& folder, InstalledProgram& found) {
     for (const auto& entry : entriesOf(folder)) {
         if (isOurs(entry.filename().native())) {
@@ -111,13 +118,15 @@ InstalledProgram installedProgram(const fs::path& program) {
     const auto prefix = folder.parent_path();
     InstalledProgram found;
     addFile(program, found);
-    for (const std::string_view name : {std::string_view("quelby"), std::string_view("quelbyctl"), library}) {
+    for (const auto name : programs) {
         if (name != program.filename()) {
             addFile(folder / name, found);
         }
     }
-    const bool built = isThere(folder / library);
-    if (!built && folder.filename() == "bin" && isThere(prefix / "lib" / "quelby" / library)) {
+    for (const auto library : libraries) {
+        addFile(folder / library, found);
+    }
+    if (!hasLibraries(folder) && folder.filename() == "bin" && hasLibraries(prefix / "lib" / "quelby")) {
         addBelowPrefix(prefix, found);
     }
     return found;

@@ -23,8 +23,7 @@ protected:
     void SetUp() override {
         TrayProgramTest::SetUp();
         fs::create_directories(installed);
-        install("quelby", "quelby");
-        install("quelby-dashboard.so", "quelby-dashboard.so");
+        installAll();
         quelby = installed / "quelby";
     }
 
@@ -32,6 +31,12 @@ protected:
     void install(const char* file, const char* name) const {
         fs::copy_file(built / file, installed / "new");
         fs::rename(installed / "new", installed / name);
+    }
+
+    void installAll() const {
+        for (const auto* const file : {"quelby", "quelby-desktop.so", "quelby-dashboard.so"}) {
+            install(file, file);
+        }
     }
 
     [[nodiscard]] bool runsWhatIsInstalled() const {
@@ -43,8 +48,7 @@ protected:
 
 TEST_F(UpgradedProgram, IsTheNewVersionOnceItsDashboardIsWanted) {
     startInTray();
-    install("quelby", "quelby");
-    install("quelby-dashboard.so", "quelby-dashboard.so");
+    installAll();
     EXPECT_FALSE(runsWhatIsInstalled());
     pressItem({640, 5});
     static_cast<void>(opened());
@@ -63,7 +67,7 @@ TEST_F(UpgradedProgram, StaysItselfWhereItsDashboardWasOpenBefore) {
     screen->type("Escape");
     EXPECT_TRUE(closed());
     install("quelby", "quelby");
-    install("other-dashboard.so", "quelby-dashboard.so");
+    install("other-library.so", "quelby-dashboard.so");
     pressItem({640, 5});
     static_cast<void>(opened());
     EXPECT_FALSE(runsWhatIsInstalled());
@@ -72,17 +76,13 @@ TEST_F(UpgradedProgram, StaysItselfWhereItsDashboardWasOpenBefore) {
 }
 
 TEST_F(UpgradedProgram, UsesNoLibraryOfAnotherVersion) {
-    install("other-dashboard.so", "quelby-dashboard.so");
+    install("other-library.so", "quelby-dashboard.so");
     startInTray();
     pressItem({640, 5});
     EXPECT_TRUE(becomes([&] { return !program->errors().empty(); }));
     EXPECT_THAT(program->errors(), HasSubstr(otherVersion));
     EXPECT_THAT(screen->windows(), IsEmpty());
     expectCleanEnd();
-    const auto picture =
-        runProgram({quelby, "--screenshot", installed / "it.png", "--replay", recording}, environment());
-    EXPECT_EQ(picture.exitStatus, 1);
-    EXPECT_THAT(picture.errors, HasSubstr(otherVersion));
 }
 
 TEST_F(UpgradedProgram, GoesOnInTheTrayWhereItWasRemoved) {

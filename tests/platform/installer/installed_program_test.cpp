@@ -28,6 +28,7 @@ protected:
     // By their paths below the folder.
     [[nodiscard]] std::vector<std::string> names(const std::vector<fs::path>& paths) const {
         std::vector<std::string> all;
+        all.reserve(paths.size());
         for (const auto& path : paths) {
             all.push_back(path.lexically_relative(folder.path()).string());
         }
@@ -44,6 +45,7 @@ protected:
 const std::vector<std::string> installedFiles{"bin/quelby",
                                               "bin/quelbyctl",
                                               "lib/quelby/quelby-dashboard.so",
+                                              "lib/quelby/quelby-desktop.so",
                                               "libexec/quelby/pwr_limiter",
                                               "share/applications/com.quelby.Quelby.desktop",
                                               "share/metainfo/com.quelby.Quelby.metainfo.xml",
@@ -87,9 +89,11 @@ TEST_F(InstalledProgramTest, IsWhatIsThereAndNoMore) {
 // Which is a folder called bin, too.
 TEST_F(InstalledProgramTest, InABuildTreeIsWhatLiesBesideItAlone) {
     write(installedFiles);
-    write({"bin/quelby-dashboard.so", "bin/linux_tests", "bin/second_start", "CMakeCache.txt"});
+    write({"bin/quelby-dashboard.so", "bin/quelby-desktop.so", "bin/linux_tests", "bin/second_start",
+           "CMakeCache.txt"});
     EXPECT_THAT(names(found().files),
-                UnorderedElementsAre("bin/quelby", "bin/quelbyctl", "bin/quelby-dashboard.so"));
+                UnorderedElementsAre("bin/quelby", "bin/quelbyctl", "bin/quelby-dashboard.so",
+                                     "bin/quelby-desktop.so"));
     EXPECT_THAT(found().folders, IsEmpty());
 }
 

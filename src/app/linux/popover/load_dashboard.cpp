@@ -1,43 +1,15 @@
-#include <QCoreApplication>
-#include <QLibrary>
-#include <fmt/format.h>
-
 #include "app/linux/popover/quick_library.h"
-#include "base/version.h"
+#include "app/linux/session/program_library.h"
 
 namespace quelby::app {
 
-namespace {
-
-using VersionOf = const char* (*)();
-using Make = QuickLibrary* (*)();
-
-template <typename Function>
-Function function(QLibrary& library, const char* name) {
-    return reinterpret_cast<Function>(library.resolve(name));
-}
-
-} // namespace
-
-// Beside the program where it was built, below lib where it was installed.
 Result<std::unique_ptr<QuickLibrary>> loadQuickLibrary() {
-    const auto folder = QCoreApplication::applicationDirPath();
-    for (const auto* const place : {"/quelby-dashboard.so", "/../lib/quelby/quelby-dashboard.so"}) {
-        QLibrary library(folder + QLatin1String(place));
-        const auto versionOf = function<VersionOf>(library, "quelbyDashboardVersion");
-        const auto make = function<Make>(library, "quelbyMakeDashboard");
-        if (versionOf == nullptr || make == nullptr) {
-            continue;
-        }
-        if (versionOf() != version()) {
-            return problem(
-                fmt::format("the library with the dashboard is of version {} and this program of {}; "
-                            "they have to be installed together",
-                            versionOf(), version()));
-        }
-        return std::unique_ptr<QuickLibrary>(make());
-    }
-    return problem("the library with the dashboard is missing");
+    using Make = QuickLibrary* (*)();
+    return functionFrom({.file = "quelby-dashboard.so",
+                         .meaning = "the library with the dashboard",
+                         .versionFunction = "quelbyDashboardVersion",
+                         .function = "quelbyMakeDashboard"})
+        .map([](void* make) { return std::unique_ptr<QuickLibrary>(reinterpret_cast<Make>(make)()); });
 }
 
 Result<std::unique_ptr<PicturePainter>> loadPicturePainter() {

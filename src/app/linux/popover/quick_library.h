@@ -1,6 +1,5 @@
 // Everything of the application that needs Qt Quick. It lies in a library of its own, which is loaded when
-// somebody wants to see the dashboard for the first time: until then the program is little more than its
-// monitor.
+// somebody wants to see the dashboard for the first time.
 #pragma once
 
 #include <functional>
@@ -69,8 +68,7 @@ public:
     makeWindow(const PopoverParts& parts, PopoverForm form, DashboardWindow::Listener listener) = 0;
 };
 
-// From the file beside the program, which stays loaded then. Nothing of another version is used: the two have
-// their classes in common. The problem is that it is of another one, or missing.
+// The problem is that it cannot be loaded, or is of another version.
 [[nodiscard]] Result<std::unique_ptr<QuickLibrary>> loadQuickLibrary();
 
 } // namespace quelby::app
