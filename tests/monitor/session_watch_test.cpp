@@ -10,7 +10,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-constexpr std::int64_t start = 1'700'000'000;
+constexpr std::int64_t sessionStart = 1'700'000'000;
 
 class SessionWatchTest : public testing::Test {
 protected:
@@ -18,7 +18,7 @@ protected:
     bool follow(std::optional<SessionKind> kind, Int percent, bool calibrating = false, double asleep = 0) {
         return watch_.follow({.kind = kind,
                               .calibrating = calibrating,
-                              .now = static_cast<Date>(start + 30 * cycles_++),
+                              .now = static_cast<Date>(sessionStart + 30 * cycles_++),
                               .secondsSince = 30,
                               .percent = percent,
                               .wattHours = 0.25,
@@ -34,8 +34,8 @@ TEST_F(SessionWatchTest, TellsFromWhenToWhenHowLongAndHowMuch) {
     EXPECT_FALSE(follow(SessionKind::discharge, 79));
     EXPECT_FALSE(follow(SessionKind::discharge, 78));
     const Session whole{.kind = SessionKind::discharge,
-                        .start = start,
-                        .end = start + 60,
+                        .start = sessionStart,
+                        .end = sessionStart + 60,
                         .seconds = 60,
                         .percentFrom = 80,
                         .percentTo = 78,
@@ -88,15 +88,17 @@ class ResumedSession : public testing::Test {
 protected:
     // Whether the session that ended at 50 % goes on with a cycle so much later.
     static bool goesOn(SessionKind before, SessionKind now, Int percent, double later) {
-        SessionWatch watch(Session{before, start, start + 600, 600, 60, 50, 6});
-        const SessionWatch::Cycle cycle{
-            .kind = now, .now = static_cast<Date>(start + 600) + later, .percent = percent, .wattHours = 1};
+        SessionWatch watch(Session{before, sessionStart, sessionStart + 600, 600, 60, 50, 6});
+        const SessionWatch::Cycle cycle{.kind = now,
+                                        .now = static_cast<Date>(sessionStart + 600) + later,
+                                        .percent = percent,
+                                        .wattHours = 1};
         static_cast<void>(watch.follow(cycle));
         const auto sessions = watch.takeChanged();
         if (sessions.empty()) {
             return false; // it has just begun
         }
-        EXPECT_EQ(sessions[0].start, start);
+        EXPECT_EQ(sessions[0].start, sessionStart);
         EXPECT_EQ(sessions[0].seconds, 600 + static_cast<std::int64_t>(later));
         EXPECT_EQ(sessions[0].wattHours, 7);
         return true;

@@ -51,7 +51,7 @@ std::string_view cell(std::optional<double> mean, std::int64_t row, double most)
     return columnCells.at(static_cast<std::size_t>(inRow));
 }
 
-std::string curve(const HistoryView& view, int columns) {
+std::string curveLine(const HistoryView& view, int columns) {
     const auto means = columnMeans(view, columns - scaleColumns);
     std::string text;
     for (auto row = curveRows - 1; row >= 0; --row) {
@@ -94,8 +94,8 @@ std::string historyAsText(const HistoryView& view, int columns) {
     if (points.empty()) {
         return fmt::format("{}: nothing recorded   {}", label(view.range), today);
     }
-    return curve(view, columns) + fmt::format("{}: average {:.1f} W   min {:.1f} W   max {:.1f} W   {}",
-                                              label(view.range), avg, min, max, today);
+    return curveLine(view, columns) + fmt::format("{}: average {:.1f} W   min {:.1f} W   max {:.1f} W   {}",
+                                                  label(view.range), avg, min, max, today);
 }
 
 } // namespace quelby::cli

@@ -89,9 +89,8 @@ std::string stateFolders() {
 
 } // namespace
 
-std::string systemdUnit(const std::filesystem::path& executable) {
-    return fmt::format(service, fmt::arg("executable", executable.native()),
-                       fmt::arg("folders", stateFolders()));
+std::string systemdUnit(const std::filesystem::path& helper) {
+    return fmt::format(service, fmt::arg("executable", helper.native()), fmt::arg("folders", stateFolders()));
 }
 
 } // namespace quelby

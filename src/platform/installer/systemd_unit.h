@@ -11,6 +11,6 @@ namespace quelby {
 // describe it: started at every boot, and again whenever it exits; able to write to the helper's two
 // folders and to /sys, and to little else. The path of the helper has no blank and no percent sign. Each line
 // ends with a newline.
-[[nodiscard]] std::string systemdUnit(const std::filesystem::path& executable = linux_helper::executable);
+[[nodiscard]] std::string systemdUnit(const std::filesystem::path& helper = linux_helper::executable);
 
 } // namespace quelby

@@ -6,22 +6,16 @@ namespace quelby::app {
 
 namespace {
 
-constexpr int gap = 6; // points between the popover and what is around it
-
 // From the area to the ends of the screen.
 QMargins around(QRect area, QRect screen) {
     return {area.left() - screen.left(), area.top() - screen.top(), screen.right() - area.right(),
             screen.bottom() - area.bottom()};
 }
 
-bool isHorizontal(Qt::Edge edge) {
-    return edge == Qt::TopEdge || edge == Qt::BottomEdge;
-}
-
 // In the panel's direction.
 bool keepsPanelsFree(Qt::Edge panel, QRect screen, QSize free) {
-    return isHorizontal(panel) ? free.height() + 2 * gap < screen.height()
-                               : free.width() + 2 * gap < screen.width();
+    return isHorizontal(panel) ? free.height() + 2 * popoverGap < screen.height()
+                               : free.width() + 2 * popoverGap < screen.width();
 }
 
 void tie(LayerPlace& place, Qt::Edge edge, int distance) {
@@ -67,7 +61,7 @@ LayerPlace everywhere() {
 
 LayerPlace betweenPanels() {
     return {.anchors = layer::top | layer::bottom | layer::left | layer::right,
-            .margins = {gap, gap, gap, gap}};
+            .margins = {popoverGap, popoverGap, popoverGap, popoverGap}};
 }
 
 // Along its panel it is counted from the nearer end of the screen, so that it is whole on the screen whatever there is at
@@ -75,18 +69,18 @@ LayerPlace betweenPanels() {
 LayerPlace besidePanel(const PopoverPlace& place, QRect screen, QSize free, QSize wanted) {
     const bool horizontal = isHorizontal(place.panel);
     const bool kept = keepsPanelsFree(place.panel, screen, free);
-    const bool keptAbove = free.height() + 2 * gap < screen.height();
+    const bool keptAbove = free.height() + 2 * popoverGap < screen.height();
     const int room = keptAbove ? free.height() : std::min(free.height(), place.area.height());
     const auto distances = around(place.area, screen);
-    LayerPlace result{.margins = {gap, gap, gap, gap},
+    LayerPlace result{.margins = {popoverGap, popoverGap, popoverGap, popoverGap},
                       .size = QSize(wanted.width(), std::min(wanted.height(), room)),
                       .keyboard = layer::Keyboard::exclusive};
-    tie(result, place.panel, kept ? gap : std::max(gap, distanceTo(place.panel, distances)));
+    tie(result, place.panel, kept ? popoverGap : std::max(popoverGap, distanceTo(place.panel, distances)));
     const auto first = horizontal ? Qt::LeftEdge : Qt::TopEdge;
     const auto last = horizontal ? Qt::RightEdge : Qt::BottomEdge;
     const auto nearer = distanceTo(first, distances) < distanceTo(last, distances) ? first : last;
     tie(result, nearer,
-        horizontal ? distanceTo(nearer, distances) : std::max(gap, distanceTo(nearer, distances)));
+        horizontal ? distanceTo(nearer, distances) : std::max(popoverGap, distanceTo(nearer, distances)));
     return result;
 }
 

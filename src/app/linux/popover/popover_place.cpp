@@ -8,7 +8,6 @@ namespace quelby::app {
 
 namespace {
 
-constexpr int gap = 6;         // points between the popover and what is around it
 constexpr int leastPanel = 32; // points, where a panel reserves nothing
 constexpr int halfAnItem = 16; // points
 constexpr int nearAnEdge = 64; // points: panels are not thicker
@@ -31,10 +30,6 @@ std::array<Side, 4> sidesOf(const DesktopScreen& screen, QPoint item) {
 
 bool isInPanel(const Side& side) {
     return side.distance < side.reserved;
-}
-
-bool isHorizontal(Qt::Edge edge) {
-    return edge == Qt::TopEdge || edge == Qt::BottomEdge;
 }
 
 // The panel's, at which the item is. Where none has reserved the place, panels above and below are likelier
@@ -183,7 +178,7 @@ public:
     // In front of the item, and beside its panel. What does not fit begins at the upper left, where the header
     // and the way out are.
     [[nodiscard]] QRect beside(Qt::Edge panel, QPoint item, QSize wanted) const {
-        const QRect free = whole_.marginsRemoved(kept_ + gap);
+        const QRect free = whole_.marginsRemoved(kept_ + popoverGap);
         const QSize size(wanted.width(), std::max(1, std::min(wanted.height(), free.height())));
         const QPoint last(free.right() + 1 - size.width(), free.bottom() + 1 - size.height());
         const int x = panel == Qt::LeftEdge    ? free.left()

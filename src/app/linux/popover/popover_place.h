@@ -10,6 +10,13 @@
 
 namespace quelby::app {
 
+inline constexpr int popoverGap = 6; // points between the popover and what is around it
+
+// Whether a panel at this edge lies.
+[[nodiscard]] constexpr bool isHorizontal(Qt::Edge edge) {
+    return edge == Qt::TopEdge || edge == Qt::BottomEdge;
+}
+
 struct DesktopScreen {
     QRect pixels;      // among the other screens, as the display server counts them
     QMargins reserved; // for panels, in pixels

@@ -51,6 +51,10 @@ struct HoverReadOut {
     bool operator==(const HoverReadOut&) const = default;
 };
 
+// What a label keeps free to both sides, and how far it is above its point, in a chart as wide as the dashboard; in points.
+inline constexpr double labelMargin = 60;
+inline constexpr double labelAbove = 20;
+
 // The label's centre above the point: kept away from both sides of the chart by the margin, where the left
 // one wins in a chart that is too narrow for both, and never above its ceiling.
 [[nodiscard]] ChartPoint labelCentre(ChartPoint point, double width, double margin, double above);

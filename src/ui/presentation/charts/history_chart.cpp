@@ -12,8 +12,6 @@ namespace quelby {
 namespace {
 
 constexpr double freeAbove = 0.05; // of the height, and as much below
-constexpr double labelMargin = 60; // points
-constexpr double labelAbove = 20;  // points
 
 std::vector<double> wattsOf(const std::vector<HistoryDataPoint>& data) {
     std::vector<double> watts;

@@ -10,8 +10,8 @@ namespace quelby {
 
 namespace {
 
-constexpr double labelMargin = 50; // points
-constexpr double labelAbove = 18;  // points
+constexpr double sparklineLabelMargin = 50; // points
+constexpr double sparklineLabelAbove = 18;  // points
 
 ChartPoint pointOf(const std::vector<double>& samples, const ChartScale& scale, ChartSize size,
                    std::size_t index) {
@@ -52,7 +52,8 @@ std::optional<HoverReadOut> sparklineReadOut(const std::vector<double>& samples,
     const auto age = (samples.size() - 1 - index) * static_cast<std::size_t>(cycleInterval.count());
     return HoverReadOut{.point = point,
                         .label = fmt::format("{:.1f}W  {}", samples[index], ageText(age)),
-                        .labelCentre = labelCentre(point, size.width, labelMargin, labelAbove)};
+                        .labelCentre =
+                            labelCentre(point, size.width, sparklineLabelMargin, sparklineLabelAbove)};
 }
 
 } // namespace quelby

@@ -12,8 +12,6 @@ namespace quelby {
 namespace {
 
 constexpr double freeAbove = 0.05; // of the height, and as much below
-constexpr double labelMargin = 60; // points
-constexpr double labelAbove = 20;  // points
 constexpr double halfADay =
     43'200; // seconds: a day of UTC has the same date at its noon in nearly every zone
 

@@ -85,7 +85,7 @@ protected:
         .toggle = [this] { done.emplace_back("toggle"); },
         .showDashboard = [this] { done.emplace_back("dashboard"); },
         .showSettings = [this] { done.emplace_back("settings"); },
-        .chooseDisplay = [this](MenuBarDisplay display) { done.emplace_back(rawValue(display)); },
+        .chooseDisplay = [this](MenuBarDisplay chosen) { done.emplace_back(rawValue(chosen)); },
         .scroll = [this](int) { done.emplace_back("scroll"); },
         .quit = [this] { done.emplace_back("quit"); }};
     TrayMenu menu{*connection, "/MenuBar", actions};
