@@ -12,7 +12,7 @@ namespace quelby::app {
 
 inline constexpr int popoverGap = 6; // points between the popover and what is around it
 
-// Whether a panel at this edge lies.
+// Whether a panel at this edge goes from left to right.
 [[nodiscard]] constexpr bool isHorizontal(Qt::Edge edge) {
     return edge == Qt::TopEdge || edge == Qt::BottomEdge;
 }
