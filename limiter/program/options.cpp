@@ -101,8 +101,8 @@ Result<std::variant<Options, Information>> parseOptions(const std::vector<std::s
             return problem("\"" + word + "\" is no option of it; --help lists them");
         }
     }
-    const Options usual;
-    options.isElsewhere = options.folder != usual.folder || options.state != usual.state;
+    const Options unasked;
+    options.isElsewhere = options.folder != unasked.folder || options.state != unasked.state;
     return options;
 }
 
