@@ -13,10 +13,10 @@ namespace {
 
 constexpr double day = 86400;
 
-// QUELBY_WEEK_STEP=1 asks for every single round; usually there is an eighth of them.
+// QUELBY_WEEK_STEP=1 asks for every single round; usually one in twenty-four.
 double weekStep() {
     const char* const asked = std::getenv("QUELBY_WEEK_STEP");
-    return asked == nullptr ? 8 : decimalNumber(asked).value_or(8);
+    return asked == nullptr ? 24 : decimalNumber(asked).value_or(24);
 }
 
 class Week : public ServedLaptop {};

@@ -18,7 +18,7 @@
 
 #include <QObject>
 #include <QString>
-#include <qqmlintegration.h>
+#include <qqml.h>
 
 #include "ui/bridge/shared_record.h"
 #include "ui/presentation/elements/record.h"
@@ -45,6 +45,8 @@
     SharedRecord<Record> record_;                                                                            \
                                                                                                              \
 public:                                                                                                      \
+    using HeldRecord = Record;                                                                               \
+                                                                                                             \
     Gadget() = default;                                                                                      \
     explicit Gadget(Record record) : record_(std::move(record)) {}                                           \
     explicit Gadget(SharedRecord<Record> record) : record_(std::move(record)) {}                             \
@@ -98,6 +100,11 @@ public:                                                                         
 
 namespace quelby {
 
+template <typename Value>
+concept HoldsRecord = requires {
+    typename Value::HeldRecord;
+};
+
 [[nodiscard]] inline QString qString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
@@ -127,3 +134,15 @@ SharedRecord<Record> rowOf(const SharedRecord<std::vector<Record>>& rows, int in
 }
 
 } // namespace quelby
+
+// No QList of them is ever made. Telling QML of one for each of them would be half of the bridge's code.
+template <quelby::HoldsRecord Value>
+struct QQmlPrivate::QmlMetaType<Value> {
+    static constexpr bool hasAcceptableCtors() { return true; }
+
+    static QMetaType self() { return QMetaType::fromType<Value>(); }
+
+    static QMetaType list() { return {}; }
+
+    static QMetaSequence sequence() { return {}; }
+};
