@@ -71,7 +71,7 @@ Result<std::variant<Options, Information>> parseOptions(const std::vector<std::s
                                               FolderOption("--state", options.state),
                                               FolderOption("--sysfs-root", options.sysfsRoot)};
     for (std::size_t position = 0; position < words.size(); ++position) {
-        const auto word = words[position];
+        const auto& word = words[position];
         if (word == "--help" || word == "-h") {
             return Information{help};
         }

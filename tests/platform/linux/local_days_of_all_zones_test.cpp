@@ -21,7 +21,7 @@ namespace {
 
 using Seconds = std::int64_t;
 
-constexpr Seconds day = 24 * 60 * 60;
+constexpr Seconds day = Seconds{24} * 60 * 60;
 constexpr Seconds week = 7 * day;
 constexpr Seconds probe = 3 * day;         // no zone changes twice within
 constexpr Seconds end2040 = 2'240'524'800; // 2041-01-01 00:00 UTC
